@@ -1,0 +1,35 @@
+# Build and test entry points. See README.md.
+#
+#   make demo    builds everything and runs the demo
+#   make test    builds everything and runs every test (native and Java)
+#   make bench   runs the JMH benchmarks
+
+BUILD_DIR   ?= native/build
+MVN         ?= mvn -B -f java/pom.xml
+NATIVE_LIBS := $(BUILD_DIR)/lib
+
+.PHONY: all native java demo test native-test java-test clean
+
+all: java
+
+native:
+	cmake -S native -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build $(BUILD_DIR)
+
+java: native
+	$(MVN) -q install -DskipTests
+
+demo: java
+	java -cp "java/demo/target/tavrel-demo.jar:java/demo/target/lib/*" com.kestrum.tavrel.demo.Demo
+
+native-test: native
+	scripts/run-native-tests $(BUILD_DIR)/bin/native_tests
+
+java-test: native
+	$(MVN) install
+
+test: native-test java-test
+
+clean:
+	rm -rf $(BUILD_DIR)
+	$(MVN) -q clean

@@ -1,0 +1,55 @@
+package com.kestrum.corvel;
+
+import java.util.Arrays;
+
+/** A two-component float vector (x, y). */
+public class SbVec2f {
+    /** The components; native code reads them directly. */
+    protected final float[] array;
+
+    public SbVec2f() {
+        this(0f, 0f);
+    }
+
+    public SbVec2f(float x, float y) {
+        array = new float[] {x, y};
+    }
+
+    public SbVec2f(SbVec2f other) {
+        this(other.array[0], other.array[1]);
+    }
+
+    public float getX() {
+        return array[0];
+    }
+
+    public float getY() {
+        return array[1];
+    }
+
+    public SbVec2f setValue(float x, float y) {
+        array[0] = x;
+        array[1] = y;
+        return this;
+    }
+
+    /** A copy of the components. */
+    public float[] getValue() {
+        return array.clone();
+    }
+
+    @Override
+    public boolean equals(Object o) {
+        return o instanceof SbVec2f && o.getClass() == getClass() && Arrays.equals(array, ((SbVec2f) o).array);
+    }
+
+    @Override
+    public int hashCode() {
+        return Arrays.hashCode(array);
+    }
+
+    @Override
+    public String toString() {
+        return "(" + array[0] + ", " + array[1] + ")";
+    }
+}

@@ -1,0 +1,64 @@
+package com.kestrum.corvel;
+
+import java.util.Arrays;
+
+/** A three-component float vector (x, y, z). */
+public class SbVec3f {
+    /** The components; native code reads them directly. */
+    protected final float[] array;
+
+    public SbVec3f() {
+        this(0f, 0f, 0f);
+    }
+
+    public SbVec3f(float x, float y, float z) {
+        array = new float[] {x, y, z};
+    }
+
+    public SbVec3f(float[] xyz) {
+        this(xyz[0], xyz[1], xyz[2]);
+    }
+
+    public SbVec3f(SbVec3f other) {
+        this(other.array[0], other.array[1], other.array[2]);
+    }
+
+    public float getX() {
+        return array[0];
+    }
+
+    public float getY() {
+        return array[1];
+    }
+
+    public float getZ() {
+        return array[2];
+    }
+
+    public SbVec3f setValue(float x, float y, float z) {
+        array[0] = x;
+        array[1] = y;
+        array[2] = z;
+        return this;
+    }
+
+    /** A copy of the components. */
+    public float[] getValue() {
+        return array.clone();
+    }
+
+    @Override
+    public boolean equals(Object o) {
+        return o instanceof SbVec3f && o.getClass() == getClass() && Arrays.equals(array, ((SbVec3f) o).array);
+    }
+
+    @Override
+    public int hashCode() {
+        return Arrays.hashCode(array);
+    }
+
+    @Override
+    public String toString() {
+        return "(" + array[0] + ", " + array[1] + ", " + array[2] + ")";
+    }
+}

@@ -1,0 +1,16 @@
+package com.kestrum.corvel.misc;
+
+/** Loads the toolkit's core libraries and the binding core, once. */
+public final class CorvelNative {
+    private static boolean loaded;
+
+    private CorvelNative() {}
+
+    public static synchronized void ensureLoaded() {
+        if (!loaded) {
+            NativeLibraries.load(CorvelNative.class, "/com/kestrum/corvel/native/linux-x86-64",
+                    "zel_corvel_base", "zel_corvel", "zel_corvel_gl", "com.kestrum.corvel");
+            loaded = true;
+        }
+    }
+}

@@ -1,0 +1,37 @@
+package com.kestrum.tavrel.testkit;
+
+import java.util.Arrays;
+import java.util.List;
+import java.util.stream.Collectors;
+
+/** The toolkit stand-in's call journal: one line per toolkit call the binding made. */
+public final class Journal {
+    static {
+        TestLibrary.ensureLoaded();
+    }
+
+    private Journal() {}
+
+    /** Clears the journal and starts recording. */
+    public static void start() {
+        clear();
+        setEnabled(true);
+    }
+
+    /** Stops recording and returns what was recorded. */
+    public static List<String> stop() {
+        setEnabled(false);
+        return Arrays.asList(lines());
+    }
+
+    /** The lines recorded so far that start with the prefix. */
+    public static List<String> linesStartingWith(String prefix) {
+        return Arrays.stream(lines()).filter(l -> l.startsWith(prefix)).collect(Collectors.toList());
+    }
+
+    public static native void setEnabled(boolean on);
+
+    public static native void clear();
+
+    public static native String[] lines();
+}

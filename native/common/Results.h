@@ -1,0 +1,60 @@
+// Results handed back to Java: strings, output arrays and direct buffers.
+#pragma once
+
+#include <jni.h>
+
+#include <Corvel/SbBox.h>
+#include <Corvel/SbString.h>
+#include <Corvel/SbVec.h>
+#include <CorvelJNI/ArrayHelper.h>
+#include <CorvelJNI/StringHelper.h>
+
+#include <cstddef>
+
+namespace tavrel {
+
+// A toolkit string that may be missing: null for a null pointer.
+inline jstring toJavaString(JNIEnv* env, const SbString* text) {
+  return text == nullptr ? nullptr : StringHelper::fromNativeString(env, *text);
+}
+
+// Writes count values into elements 0.. of an output array. The values reach
+// the Java array when this returns (the helper copies them back).
+template <class T, class JArray>
+inline void writeOutput(JNIEnv* env, JArray out, const T* values, int count) {
+  ArrayHelper helper(env);
+  auto* target = helper.toNativeArray(out, ArrayHelper::ReadWrite);
+  for (int i = 0; i < count; ++i) target[i] = values[i];
+}
+
+inline void writeOutput(JNIEnv* env, jfloatArray out, float value) { writeOutput(env, out, &value, 1); }
+inline void writeOutput(JNIEnv* env, jintArray out, int value) { writeOutput(env, out, &value, 1); }
+
+// A vector into out[0..2] (or out[0..1]).
+inline void writeOutput(JNIEnv* env, jfloatArray out, const SbVec3f& v) { writeOutput(env, out, v.getValue(), 3); }
+inline void writeOutput(JNIEnv* env, jfloatArray out, const SbVec2f& v) { writeOutput(env, out, v.getValue(), 2); }
+
+// A box as its floats in memory order: 6 for SbBox3f, 4 for SbBox2f.
+inline void writeOutput(JNIEnv* env, jfloatArray out, const SbBox3f& box) {
+  writeOutput(env, out, reinterpret_cast<const float*>(&box), 6);
+}
+inline void writeOutput(JNIEnv* env, jfloatArray out, const SbBox2f& box) {
+  writeOutput(env, out, reinterpret_cast<const float*>(&box), 4);
+}
+
+// A direct byte buffer over toolkit memory, without a copy; null when the
+// toolkit has no such data.
+inline jobject directBuffer(JNIEnv* env, const void* address, std::size_t bytes) {
+  if (address == nullptr) return nullptr;
+  return env->NewDirectByteBuffer(const_cast<void*>(address), static_cast<jlong>(bytes));
+}
+
+// Stores a direct buffer over the memory (or null) into element 0 of an
+// Object[] output array.
+inline void storeDirectBuffer(JNIEnv* env, jobjectArray out, const void* address, std::size_t bytes) {
+  jobject buffer = directBuffer(env, address, bytes);
+  env->SetObjectArrayElement(out, 0, buffer);
+  if (buffer != nullptr) env->DeleteLocalRef(buffer);
+}
+
+}  // namespace tavrel

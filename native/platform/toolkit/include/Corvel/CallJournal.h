@@ -1,0 +1,121 @@
+// Call journal of the toolkit stand-in.
+//
+// Every toolkit entry point that the Java binding calls appends one line to
+// the journal: the qualified function name and its arguments, for example
+//
+//   PbMesh::addValuesSet(2, [1, 2.5, 3], PER_NODE, "temperature")
+//   PoMeshProbePoint::setMotionCallback(null, null)
+//
+// Argument rendering:
+//   integers       decimal                  42
+//   floats         shortest exact form      0.5, 1, -2.25
+//   booleans       true / false
+//   strings        quoted, or null          "name", null
+//   pointers       0x<hex>, or null         0x55d0c0a0, null
+//   functions      fn, or null
+//   vectors        (x, y[, z])              (1, 2, 3)
+//   boxes          <min>..<max>             (0, 0, 0)..(1, 1, 1)
+//   arrays         [e0, e1, ...] or null; arrays longer than 8 elements show
+//                  their first 8 and then "... n=<count>"
+//
+// The journal is off by default and costs one relaxed atomic load per call
+// while off. Tests switch it on, clear it, and read it back.
+#pragma once
+
+#include <atomic>
+#include <string>
+#include <vector>
+
+class CallJournal {
+ public:
+  static bool enabled() noexcept { return s_enabled.load(std::memory_order_relaxed); }
+  static void setEnabled(bool on) noexcept;
+  static void clear();
+  static std::vector<std::string> lines();
+  static void append(std::string line);
+
+  template <class... Args>
+  static void record(const char* function, const Args&... args);
+
+ private:
+  static std::atomic<bool> s_enabled;
+};
+
+// --- argument rendering ------------------------------------------------------
+
+void journalFormat(std::string& out, int v);
+void journalFormat(std::string& out, long v);
+void journalFormat(std::string& out, long long v);
+void journalFormat(std::string& out, unsigned v);
+void journalFormat(std::string& out, unsigned long v);
+void journalFormat(std::string& out, unsigned short v);
+void journalFormat(std::string& out, short v);
+void journalFormat(std::string& out, float v);
+void journalFormat(std::string& out, double v);
+void journalFormat(std::string& out, bool v);
+void journalFormat(std::string& out, const char* v);
+void journalFormat(std::string& out, const std::string& v);
+void journalFormat(std::string& out, const void* v);
+inline void journalFormat(std::string& out, std::nullptr_t) { out += "null"; }
+
+// A function pointer: "fn" or "null".
+struct JournalFn {
+  bool present;
+};
+template <class F>
+JournalFn journalFn(F f) {
+  return JournalFn{f != nullptr};
+}
+void journalFormat(std::string& out, JournalFn f);
+
+// A named enumerator, rendered as its name.
+struct JournalName {
+  const char* name;
+};
+void journalFormat(std::string& out, JournalName n);
+
+// An array of known length, or null.
+template <class T>
+struct JournalArray {
+  const T* data;
+  long count;
+};
+template <class T>
+JournalArray<T> journalArray(const T* data, long count) {
+  return JournalArray<T>{data, count};
+}
+
+template <class T>
+void journalFormat(std::string& out, const JournalArray<T>& a) {
+  if (a.data == nullptr) {
+    out += "null";
+    return;
+  }
+  out += '[';
+  const long shown = a.count < 8 ? a.count : 8;
+  for (long i = 0; i < shown; ++i) {
+    if (i) out += ", ";
+    journalFormat(out, a.data[i]);
+  }
+  if (a.count > shown) {
+    out += ", ... n=";
+    out += std::to_string(a.count);
+  }
+  out += ']';
+}
+
+template <class... Args>
+void CallJournal::record(const char* function, const Args&... args) {
+  if (!enabled()) return;
+  std::string line(function);
+  line += '(';
+  bool first = true;
+  [[maybe_unused]] auto one = [&](const auto& a) {
+    if (!first) line += ", ";
+    first = false;
+    journalFormat(line, a);
+  };
+  (one(args), ...);
+  line += ')';
+  append(std::move(line));
+}

@@ -1,0 +1,92 @@
+// Actions: traversals of a scene graph. apply(node) makes a fresh traversal
+// state and calls the node's operation of the action's kind, which traverses
+// further as the node decides.
+#pragma once
+
+#include <Corvel/SoSubClass.h>
+#include <Corvel/SbBox.h>
+#include <string>
+
+class SoNode;
+class SoState;
+
+#define SO_ACTION_HEADER(className)      \
+ public:                                 \
+  static SoType getClassTypeId();        \
+  static void initClass();               \
+  SoType getTypeId() const override;     \
+  void traverse(SoNode* node) override;  \
+                                         \
+ private:                                \
+  static SoType s_classTypeId;           \
+                                         \
+ public:
+
+// Defines the type and the traversal of an action class; CALL is the node
+// operation the action calls.
+#define SO_ACTION_SOURCE(className, parentName, typeName, call)                       \
+  SoType className::s_classTypeId;                                                    \
+  void className::initClass() {                                                       \
+    tk::ClassRegistrationLock lock;                                                   \
+    if (s_classTypeId.isBad())                                                        \
+      s_classTypeId = SoType::createType(parentName::getClassTypeId(), typeName);     \
+  }                                                                                   \
+  SoType className::getClassTypeId() {                                                \
+    initClass();                                                                      \
+    return s_classTypeId;                                                             \
+  }                                                                                   \
+  SoType className::getTypeId() const { return getClassTypeId(); }                    \
+  void className::traverse(SoNode* node) {                                            \
+    countNode();                                                                      \
+    node->call(this);                                                                 \
+  }
+
+class SoAction {
+ public:
+  static SoType getClassTypeId();
+  static void initClass();
+  virtual SoType getTypeId() const;
+
+  virtual ~SoAction();
+  void apply(SoNode* node);
+  // Calls the node's operation for this kind of action.
+  virtual void traverse(SoNode* node);
+  SoState* getState() const { return state; }
+  // Number of nodes this action has traversed since it was made.
+  int getNodesTraversed() const { return nodesTraversed; }
+
+ protected:
+  SoAction() = default;
+  void countNode() { ++nodesTraversed; }
+
+ private:
+  SoState* state = nullptr;
+  int nodesTraversed = 0;
+};
+
+class SoGLRenderAction : public SoAction { SO_ACTION_HEADER(SoGLRenderAction) };
+class SoCallbackAction : public SoAction { SO_ACTION_HEADER(SoCallbackAction) };
+class SoGetBoundingBoxAction : public SoAction {
+  SO_ACTION_HEADER(SoGetBoundingBoxAction)
+ public:
+  SbBox3f& getBoundingBox() { return box; }
+
+ private:
+  SbBox3f box;
+};
+class SoGetMatrixAction : public SoAction { SO_ACTION_HEADER(SoGetMatrixAction) };
+class SoHandleEventAction : public SoAction { SO_ACTION_HEADER(SoHandleEventAction) };
+class SoPickAction : public SoAction { SO_ACTION_HEADER(SoPickAction) };
+class SoRayPickAction : public SoPickAction { SO_ACTION_HEADER(SoRayPickAction) };
+class SoSearchAction : public SoAction { SO_ACTION_HEADER(SoSearchAction) };
+class SoWriteAction : public SoAction {
+  SO_ACTION_HEADER(SoWriteAction)
+ public:
+  // What the traversal wrote.
+  std::string& getOutput() { return output; }
+
+ private:
+  std::string output;
+};
+class SoGetPrimitiveCountAction : public SoAction { SO_ACTION_HEADER(SoGetPrimitiveCountAction) };
+class SoDistributeAction : public SoAction { SO_ACTION_HEADER(SoDistributeAction) };

@@ -1,0 +1,44 @@
+// com.kestrum.tavrel.testkit.Toolkit: direct access to the toolkit stand-in.
+
+#include <jni.h>
+
+#include <Corvel/SoModuleCheck.h>
+#include <Corvel/SoType.h>
+#include <CorvelJNI/StringHelper.h>
+#include <Tavrel/PoTavrel.h>
+
+#include <cstdint>
+
+extern "C" {
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_newPoTavrel(JNIEnv*, jclass) {
+  return static_cast<jlong>(reinterpret_cast<std::intptr_t>(new PoTavrel));
+}
+
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_poTavrelInitCount(JNIEnv*, jclass) {
+  return PoTavrel::getInitCount();
+}
+
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_moduleCheckCount(JNIEnv*, jclass, jint version) {
+  return SoModuleCheck::getInstanceCount(version);
+}
+
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_moduleCheckTotal(JNIEnv*, jclass) {
+  return SoModuleCheck::getInstanceCount();
+}
+
+// The name of the parent of the named type ("" when unknown).
+JNIEXPORT jstring JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_parentTypeName(JNIEnv* env, jclass, jstring name) {
+  StringHelper helper(env, name);
+  SoType t = SoType::fromName(helper.toUTFString());
+  return StringHelper::fromNativeString(env, t.getParent().getName());
+}
+
+// The data (action-method index for nodes) of the named type, -1 when unknown.
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_typeData(JNIEnv* env, jclass, jstring name) {
+  StringHelper helper(env, name);
+  SoType t = SoType::fromName(helper.toUTFString());
+  return t.isBad() ? -1 : t.getData();
+}
+
+}  // extern "C"
