@@ -17,7 +17,7 @@ native:
 	cmake --build $(BUILD_DIR)
 
 java: native
-	$(MVN) -q install -DskipTests
+	$(MVN) -q package -DskipTests
 
 demo: java
 	java -cp "java/demo/target/tavrel-demo.jar:java/demo/target/lib/*" com.kestrum.tavrel.demo.Demo
@@ -26,7 +26,7 @@ native-test: native
 	scripts/run-native-tests $(BUILD_DIR)/bin/native_tests
 
 java-test: native
-	$(MVN) install
+	$(MVN) verify
 
 test: native-test java-test
 
