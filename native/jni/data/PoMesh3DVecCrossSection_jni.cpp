@@ -32,13 +32,13 @@ JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_data_PoMesh3DVecCrossSection_0002
   return tavrel::enumValue(PoMesh3DVecCrossSection::NOPROJECTION);
 }
 
-JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_data_PoMesh3DVecCrossSection_00024ProjectionTypes_getPROJECTIONONPLANENative(
-    JNIEnv*, jclass) {
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_data_PoMesh3DVecCrossSection_00024ProjectionTypes_getPROJECTIONONPLANENative(JNIEnv*, jclass) {
   return tavrel::enumValue(PoMesh3DVecCrossSection::PROJECTIONONPLANE);
 }
 
-JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_data_PoMesh3DVecCrossSection_00024ProjectionTypes_getPROJECTIONONNORMALNative(
-    JNIEnv*, jclass) {
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_data_PoMesh3DVecCrossSection_00024ProjectionTypes_getPROJECTIONONNORMALNative(JNIEnv*, jclass) {
   return tavrel::enumValue(PoMesh3DVecCrossSection::PROJECTIONONNORMAL);
 }
 
