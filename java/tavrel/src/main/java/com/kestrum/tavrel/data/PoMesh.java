@@ -148,6 +148,14 @@ public abstract class PoMesh extends PoDessvane {
         return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);
     }
 
+    /** The mesh (or null) as a mesh of the class a representation needs. */
+    static <M extends PbMesh> M meshOfClass(PbMesh mesh, Class<M> type) {
+        if (mesh != null && !type.isInstance(mesh)) {
+            throw new IllegalArgumentException("mesh is not a " + type.getSimpleName() + ": " + mesh.getClass().getName());
+        }
+        return type.cast(mesh);
+    }
+
     private static native String getClassTypeId();
 
     private static native long getClassNodekitCatalogImpl();

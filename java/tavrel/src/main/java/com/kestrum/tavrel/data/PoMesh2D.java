@@ -33,10 +33,7 @@ public abstract class PoMesh2D extends PoMesh {
      */
     @Override
     public void setMesh(PbMesh mesh) {
-        if (mesh != null && !(mesh instanceof PbMesh2D)) {
-            throw new IllegalArgumentException("mesh is not a PbMesh2D: " + mesh.getClass().getName());
-        }
-        setMesh((PbMesh2D) mesh);
+        setMesh(meshOfClass(mesh, PbMesh2D.class));
     }
 
     /**

@@ -33,10 +33,7 @@ public abstract class PoMesh3D extends PoMesh {
      */
     @Override
     public void setMesh(PbMesh mesh) {
-        if (mesh != null && !(mesh instanceof PbMesh3D)) {
-            throw new IllegalArgumentException("mesh is not a PbMesh3D: " + mesh.getClass().getName());
-        }
-        setMesh((PbMesh3D) mesh);
+        setMesh(meshOfClass(mesh, PbMesh3D.class));
     }
 
     /**

@@ -58,26 +58,22 @@ public class PoMeshProbePoint extends PoMesh {
 
     /** Sets the callback object of the motion event and its user data; null detaches the event. */
     public void setMotionCallback(PoProbeCB callback, Object userData) {
-        setMotionCallbackImpl(handle(), callback, userData, handleOrZero(callback, "callback"));
-        callbacks[MOTION] = callback;
+        register(MOTION, this::setMotionCallbackImpl, callback, userData);
     }
 
     /** Sets the callback object of the change-cell event and its user data; null detaches it. */
     public void setChangeCellCallback(PoProbeCB callback, Object userData) {
-        setChangeCellCallbackImpl(handle(), callback, userData, handleOrZero(callback, "callback"));
-        callbacks[CHANGE_CELL] = callback;
+        register(CHANGE_CELL, this::setChangeCellCallbackImpl, callback, userData);
     }
 
     /** Sets the callback object of the enter-mesh event and its user data; null detaches it. */
     public void setEnterMeshCallback(PoProbeCB callback, Object userData) {
-        setEnterMeshCallbackImpl(handle(), callback, userData, handleOrZero(callback, "callback"));
-        callbacks[ENTER_MESH] = callback;
+        register(ENTER_MESH, this::setEnterMeshCallbackImpl, callback, userData);
     }
 
     /** Sets the callback object of the leave-mesh event and its user data; null detaches it. */
     public void setLeaveMeshCallback(PoProbeCB callback, Object userData) {
-        setLeaveMeshCallbackImpl(handle(), callback, userData, handleOrZero(callback, "callback"));
-        callbacks[LEAVE_MESH] = callback;
+        register(LEAVE_MESH, this::setLeaveMeshCallbackImpl, callback, userData);
     }
 
     /** The callback object of the motion event, or null. */
@@ -98,6 +94,18 @@ public class PoMeshProbePoint extends PoMesh {
     /** The callback object of the leave-mesh event, or null. */
     public PoProbeCB getLeaveMeshCallback() {
         return callbacks[LEAVE_MESH];
+    }
+
+    /** One of the native setters. */
+    @FunctionalInterface
+    private interface NativeSetter {
+        void set(long handle, PoProbeCB callback, Object userData, long bridge);
+    }
+
+    /** Installs (or, for null, detaches) the callback object of an event, and keeps it. */
+    private void register(int event, NativeSetter setter, PoProbeCB callback, Object userData) {
+        setter.set(handle(), callback, userData, handleOrZero(callback, "callback"));
+        callbacks[event] = callback;
     }
 
     private static native long ctorImpl();

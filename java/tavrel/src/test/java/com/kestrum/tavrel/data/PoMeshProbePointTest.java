@@ -25,6 +25,7 @@ import java.util.Arrays;
 import java.util.List;
 import java.util.concurrent.CopyOnWriteArrayList;
 import java.util.concurrent.atomic.AtomicInteger;
+import java.util.function.Function;
 import java.util.stream.Collectors;
 import org.junit.jupiter.api.AfterEach;
 import org.junit.jupiter.api.BeforeEach;
@@ -49,64 +50,33 @@ class PoMeshProbePointTest {
         }
     }
 
-    /** The four setters, with the number of their event in the toolkit. */
+    /** Sets a callback object on a probe. */
+    @FunctionalInterface
+    private interface SetCallback {
+        void set(PoMeshProbePoint probe, PoProbeCB callback, Object userData);
+    }
+
+    /** The four setters and getters, with the number of their event in the toolkit. */
     enum Setter {
-        MOTION_SETTER(MOTION, "Motion") {
-            @Override
-            void set(PoMeshProbePoint p, PoProbeCB cb, Object data) {
-                p.setMotionCallback(cb, data);
-            }
-
-            @Override
-            PoProbeCB get(PoMeshProbePoint p) {
-                return p.getMotionCallback();
-            }
-        },
-        CHANGE_CELL_SETTER(CHANGE_CELL, "ChangeCell") {
-            @Override
-            void set(PoMeshProbePoint p, PoProbeCB cb, Object data) {
-                p.setChangeCellCallback(cb, data);
-            }
-
-            @Override
-            PoProbeCB get(PoMeshProbePoint p) {
-                return p.getChangeCellCallback();
-            }
-        },
-        ENTER_MESH_SETTER(ENTER_MESH, "EnterMesh") {
-            @Override
-            void set(PoMeshProbePoint p, PoProbeCB cb, Object data) {
-                p.setEnterMeshCallback(cb, data);
-            }
-
-            @Override
-            PoProbeCB get(PoMeshProbePoint p) {
-                return p.getEnterMeshCallback();
-            }
-        },
-        LEAVE_MESH_SETTER(LEAVE_MESH, "LeaveMesh") {
-            @Override
-            void set(PoMeshProbePoint p, PoProbeCB cb, Object data) {
-                p.setLeaveMeshCallback(cb, data);
-            }
-
-            @Override
-            PoProbeCB get(PoMeshProbePoint p) {
-                return p.getLeaveMeshCallback();
-            }
-        };
+        MOTION_SETTER(MOTION, "Motion", PoMeshProbePoint::setMotionCallback, PoMeshProbePoint::getMotionCallback),
+        CHANGE_CELL_SETTER(CHANGE_CELL, "ChangeCell", PoMeshProbePoint::setChangeCellCallback,
+                PoMeshProbePoint::getChangeCellCallback),
+        ENTER_MESH_SETTER(ENTER_MESH, "EnterMesh", PoMeshProbePoint::setEnterMeshCallback,
+                PoMeshProbePoint::getEnterMeshCallback),
+        LEAVE_MESH_SETTER(LEAVE_MESH, "LeaveMesh", PoMeshProbePoint::setLeaveMeshCallback,
+                PoMeshProbePoint::getLeaveMeshCallback);
 
         final int event;
         final String name;
+        final SetCallback set;
+        final Function<PoMeshProbePoint, PoProbeCB> get;
 
-        Setter(int event, String name) {
+        Setter(int event, String name, SetCallback set, Function<PoMeshProbePoint, PoProbeCB> get) {
             this.event = event;
             this.name = name;
+            this.set = set;
+            this.get = get;
         }
-
-        abstract void set(PoMeshProbePoint p, PoProbeCB cb, Object data);
-
-        abstract PoProbeCB get(PoMeshProbePoint p);
     }
 
     private final List<Event> events = new CopyOnWriteArrayList<>();
@@ -147,14 +117,14 @@ class PoMeshProbePointTest {
         PoProbeCB callback = recorder(setter.name);
         long bridge = callback.getNativeResourceHandleInternal();
         Journal.start();
-        setter.set(probe, callback, "data of " + setter.name);
+        setter.set.set(probe, callback, "data of " + setter.name);
         assertEquals(List.of("PoMeshProbePoint::set" + setter.name + "Callback(fn, 0x" + Long.toHexString(bridge) + ")"),
                 Journal.stop());
         for (int event : ALL_EVENTS) {
             assertEquals(event == setter.event, Probes.hasCallbackFunction(handle, event), "event " + event);
             assertEquals(event == setter.event ? bridge : 0, Probes.callbackUserData(handle, event));
         }
-        assertSame(callback, setter.get(probe));
+        assertSame(callback, setter.get.apply(probe));
 
         List<String> lines = Debug.capture(() -> Probes.raise(handle, ALL_EVENTS, cells(CELL_A, 4)));
 
@@ -322,7 +292,7 @@ class PoMeshProbePointTest {
     @Test
     void movingTheProbeRaisesItsEventsInOrder() {
         for (Setter s : Setter.values()) {
-            s.set(probe, recorder(s.name), null);
+            s.set.set(probe, recorder(s.name), null);
         }
         Probes.moveTo(handle, -1, 0, 0, 0, -1);
         Probes.moveTo(handle, 0.25f, 0, 0, CELL_A, 5);

@@ -1,7 +1,5 @@
 package com.kestrum.tavrel.misc.callbacks;
 
-import com.kestrum.corvel.misc.NativeObject;
-import com.kestrum.corvel.misc.NativePeers;
 import com.kestrum.tavrel.data.PbCell;
 import com.kestrum.tavrel.data.PoMeshProbePoint;
 import com.kestrum.tavrel.internal.JarInitializer;
@@ -22,7 +20,7 @@ import com.kestrum.tavrel.internal.JavaViews;
  * thrown by the listener is not caught: it reaches the Java code whose native call made the
  * probe raise the event, and further events of that native call are dropped.
  */
-public class PoProbeCB extends NativeObject {
+public class PoProbeCB extends CallbackObject<PoProbeCB.Listener> {
     static {
         JarInitializer.init();
     }
@@ -42,35 +40,13 @@ public class PoProbeCB extends NativeObject {
         void invoke(PoMeshProbePoint probe, PbCell cell, long cellHandle, Object userData);
     }
 
-    // Written by the probe's native setters when this object is registered.
-    private volatile Object userData;
-    private final Listener listener;
-
     public PoProbeCB(Listener listener) {
-        super(newBridge(listener));
-        this.listener = listener;
-        NativePeers.bindPeer(getNativeResourceHandleInternal(), this);
-    }
-
-    /** The user data of the latest registration, or null. */
-    public Object getUserData() {
-        return userData;
-    }
-
-    public Listener getListener() {
-        return listener;
-    }
-
-    private static long newBridge(Listener listener) {
-        if (listener == null) {
-            throw new NullPointerException("listener is null");
-        }
-        return constructor();
+        super(listener, PoProbeCB::constructor);
     }
 
     /** Called by the native bridge with the addresses of the probe and of the cell (or 0). */
     private void invokeNativ(long probe, long cell) {
-        listener.invoke(JavaViews.find(PoMeshProbePoint.class, probe, null), cellView(cell), cell, userData);
+        getListener().invoke(JavaViews.find(PoMeshProbePoint.class, probe, null), cellView(cell), cell, getUserData());
     }
 
     /** The Java view of a cell: a view made by the factory registered for PbCell, or null. */

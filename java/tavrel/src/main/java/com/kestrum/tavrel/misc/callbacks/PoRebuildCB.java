@@ -1,7 +1,5 @@
 package com.kestrum.tavrel.misc.callbacks;
 
-import com.kestrum.corvel.misc.NativeObject;
-import com.kestrum.corvel.misc.NativePeers;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
@@ -13,7 +11,7 @@ import com.kestrum.tavrel.internal.JavaViews;
  * <p>As for {@link PoProbeCB}, the native bridge sees this object only weakly and is never freed;
  * keep the callback object reachable for as long as it is registered.
  */
-public class PoRebuildCB extends NativeObject {
+public class PoRebuildCB extends CallbackObject<PoRebuildCB.Listener> {
     static {
         JarInitializer.init();
     }
@@ -31,35 +29,13 @@ public class PoRebuildCB extends NativeObject {
         void invoke(SoBaseKit node, long nodeHandle, Object userData);
     }
 
-    // Written by the graph nodes' native registration when this object is registered.
-    private volatile Object userData;
-    private final Listener listener;
-
     public PoRebuildCB(Listener listener) {
-        super(newBridge(listener));
-        this.listener = listener;
-        NativePeers.bindPeer(getNativeResourceHandleInternal(), this);
-    }
-
-    /** The user data of the latest registration, or null. */
-    public Object getUserData() {
-        return userData;
-    }
-
-    public Listener getListener() {
-        return listener;
-    }
-
-    private static long newBridge(Listener listener) {
-        if (listener == null) {
-            throw new NullPointerException("listener is null");
-        }
-        return constructor();
+        super(listener, PoRebuildCB::constructor);
     }
 
     /** Called by the native bridge with the address of the node being rebuilt. */
     private void invokeNativ(long node) {
-        listener.invoke(JavaViews.find(SoBaseKit.class, node, null), node, userData);
+        getListener().invoke(JavaViews.find(SoBaseKit.class, node, null), node, getUserData());
     }
 
     private static native long constructor();
