@@ -58,84 +58,62 @@ PO_ABSTRACT_LIFECYCLE(PoMesh3D)
 
 // --- objects kept by the representations --------------------------------------
 
-void PoMesh::setMesh(PbMesh* m) {
-  CallJournal::record("PoMesh::setMesh", static_cast<const void*>(m));
-  mesh = m;
+namespace {
+// A setter's body: journals the call and keeps the address.
+template <class T>
+void keep(const char* function, T*& member, T* value) {
+  CallJournal::record(function, static_cast<const void*>(value));
+  member = value;
 }
 
-PbMesh* PoMesh::getMesh() const {
-  CallJournal::record("PoMesh::getMesh");
-  return mesh;
+// A getter's body: journals the call and gives the address back.
+template <class T>
+T* given(const char* function, T* member) {
+  CallJournal::record(function);
+  return member;
 }
+}  // namespace
 
-void PoMesh::setDataMapping(PbDataMapping* mapping) {
-  CallJournal::record("PoMesh::setDataMapping", static_cast<const void*>(mapping));
-  dataMapping = mapping;
-}
+void PoMesh::setMesh(PbMesh* m) { keep("PoMesh::setMesh", mesh, m); }
 
-PbDataMapping* PoMesh::getDataMapping() const {
-  CallJournal::record("PoMesh::getDataMapping");
-  return dataMapping;
-}
+PbMesh* PoMesh::getMesh() const { return given("PoMesh::getMesh", mesh); }
+
+void PoMesh::setDataMapping(PbDataMapping* mapping) { keep("PoMesh::setDataMapping", dataMapping, mapping); }
+
+PbDataMapping* PoMesh::getDataMapping() const { return given("PoMesh::getDataMapping", dataMapping); }
 
 void PoMesh::setModuleDataMapping(PbDataMapping* mapping) {
-  CallJournal::record("PoMesh::setModuleDataMapping", static_cast<const void*>(mapping));
-  moduleDataMapping = mapping;
+  keep("PoMesh::setModuleDataMapping", moduleDataMapping, mapping);
 }
 
 PbDataMapping* PoMesh::getModuleDataMapping() const {
-  CallJournal::record("PoMesh::getModuleDataMapping");
-  return moduleDataMapping;
+  return given("PoMesh::getModuleDataMapping", moduleDataMapping);
 }
 
 void PoMesh::setIsovaluesList(PbIsovaluesList* isovalues) {
-  CallJournal::record("PoMesh::setIsovaluesList", static_cast<const void*>(isovalues));
-  isovaluesList = isovalues;
+  keep("PoMesh::setIsovaluesList", isovaluesList, isovalues);
 }
 
-PbIsovaluesList* PoMesh::getIsovaluesList() const {
-  CallJournal::record("PoMesh::getIsovaluesList");
-  return isovaluesList;
-}
+PbIsovaluesList* PoMesh::getIsovaluesList() const { return given("PoMesh::getIsovaluesList", isovaluesList); }
 
-void PoMesh2D::setMesh(PbMesh2D* m) {
-  CallJournal::record("PoMesh2D::setMesh", static_cast<const void*>(m));
-  mesh2D = m;
-}
+void PoMesh2D::setMesh(PbMesh2D* m) { keep("PoMesh2D::setMesh", mesh2D, m); }
 
-PbMesh2D* PoMesh2D::getMesh() const {
-  CallJournal::record("PoMesh2D::getMesh");
-  return mesh2D;
-}
+PbMesh2D* PoMesh2D::getMesh() const { return given("PoMesh2D::getMesh", mesh2D); }
 
-void PoMesh3D::setMesh(PbMesh3D* m) {
-  CallJournal::record("PoMesh3D::setMesh", static_cast<const void*>(m));
-  mesh3D = m;
-}
+void PoMesh3D::setMesh(PbMesh3D* m) { keep("PoMesh3D::setMesh", mesh3D, m); }
 
-PbMesh3D* PoMesh3D::getMesh() const {
-  CallJournal::record("PoMesh3D::getMesh");
-  return mesh3D;
-}
+PbMesh3D* PoMesh3D::getMesh() const { return given("PoMesh3D::getMesh", mesh3D); }
 
-void PoMeshContouring::setFormat(PbNumericDisplayFormat* f) {
-  CallJournal::record("PoMeshContouring::setFormat", static_cast<const void*>(f));
-  format = f;
-}
+void PoMeshContouring::setFormat(PbNumericDisplayFormat* f) { keep("PoMeshContouring::setFormat", format, f); }
 
-PbNumericDisplayFormat* PoMeshContouring::getFormat() const {
-  CallJournal::record("PoMeshContouring::getFormat");
-  return format;
-}
+PbNumericDisplayFormat* PoMeshContouring::getFormat() const { return given("PoMeshContouring::getFormat", format); }
 
 void PoMeshContouring::setMiscTextAttr(PbMiscTextAttr* textAttr) {
-  CallJournal::record("PoMeshContouring::setMiscTextAttr", static_cast<const void*>(textAttr));
-  miscTextAttr = textAttr;
+  keep("PoMeshContouring::setMiscTextAttr", miscTextAttr, textAttr);
 }
 
 PbMiscTextAttr* PoMeshContouring::getMiscTextAttr() const {
-  CallJournal::record("PoMeshContouring::getMiscTextAttr");
-  return miscTextAttr;
+  return given("PoMeshContouring::getMiscTextAttr", miscTextAttr);
 }
 
 // --- representations of 2D meshes -------------------------------------------------
