@@ -1,0 +1,36 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** The node indices of one cell of a mesh, written beside its nodes. */
+public class PoCellIndices extends PoMesh {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new node that holds one reference on its native node. */
+    public PoCellIndices() {
+        this(ctorImpl());
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoCellIndices(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

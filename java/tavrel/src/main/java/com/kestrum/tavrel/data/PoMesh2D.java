@@ -1,0 +1,66 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/** Base of the representations of a 2D mesh. */
+public abstract class PoMesh2D extends PoMesh {
+    static {
+        JarInitializer.init();
+    }
+
+    private PbMesh2D mesh2D;
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoMesh2D(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    /**
+     * Sets the mesh drawn, which must be a 2D mesh ({@link PbMesh2D}); null for none.
+     *
+     * @throws IllegalArgumentException when the mesh is not a 2D mesh
+     */
+    @Override
+    public void setMesh(PbMesh mesh) {
+        setMesh(meshOfClass(mesh, PbMesh2D.class));
+    }
+
+    /**
+     * Sets the 2D mesh drawn; null for none. The node keeps the mesh's address, so this object
+     * keeps the Java object as long as it is set.
+     */
+    public void setMesh(PbMesh2D mesh) {
+        setMeshImpl(handle(), handleOrZero(mesh, "mesh"));
+        this.mesh2D = mesh;
+    }
+
+    /**
+     * The 2D mesh drawn, or null for none.
+     *
+     * <p>The Java object set earlier while the node still holds its address, else the registered
+     * Java object of that address, else null.
+     */
+    @Override
+    public PbMesh2D getMesh() {
+        return JavaViews.find(PbMesh2D.class, getMeshImpl(handle()), mesh2D);
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private native void setMeshImpl(long handle, long object);
+
+    private native long getMeshImpl(long handle);
+}

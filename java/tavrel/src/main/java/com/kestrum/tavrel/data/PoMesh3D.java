@@ -1,0 +1,66 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/** Base of the representations of a 3D mesh. */
+public abstract class PoMesh3D extends PoMesh {
+    static {
+        JarInitializer.init();
+    }
+
+    private PbMesh3D mesh3D;
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoMesh3D(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    /**
+     * Sets the mesh drawn, which must be a 3D mesh ({@link PbMesh3D}); null for none.
+     *
+     * @throws IllegalArgumentException when the mesh is not a 3D mesh
+     */
+    @Override
+    public void setMesh(PbMesh mesh) {
+        setMesh(meshOfClass(mesh, PbMesh3D.class));
+    }
+
+    /**
+     * Sets the 3D mesh drawn; null for none. The node keeps the mesh's address, so this object
+     * keeps the Java object as long as it is set.
+     */
+    public void setMesh(PbMesh3D mesh) {
+        setMeshImpl(handle(), handleOrZero(mesh, "mesh"));
+        this.mesh3D = mesh;
+    }
+
+    /**
+     * The 3D mesh drawn, or null for none.
+     *
+     * <p>The Java object set earlier while the node still holds its address, else the registered
+     * Java object of that address, else null.
+     */
+    @Override
+    public PbMesh3D getMesh() {
+        return JavaViews.find(PbMesh3D.class, getMeshImpl(handle()), mesh3D);
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private native void setMeshImpl(long handle, long object);
+
+    private native long getMeshImpl(long handle);
+}

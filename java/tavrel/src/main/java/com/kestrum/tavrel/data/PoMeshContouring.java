@@ -1,0 +1,140 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.graph.PbMiscTextAttr;
+import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/** Contour lines of a 2D mesh's values, with annotations. */
+public class PoMeshContouring extends PoMesh2D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** The direction in which annotation text runs. */
+    public enum AnnotPaths {
+        TANGENTIALPATH(JarInitializer.value(AnnotPaths::getTANGENTIALPATHNative)),
+        HORIZONTALPATH(JarInitializer.value(AnnotPaths::getHORIZONTALPATHNative)),
+        VERTICALPATH(JarInitializer.value(AnnotPaths::getVERTICALPATHNative));
+
+        private final int value;
+
+        AnnotPaths(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        private static native int getTANGENTIALPATHNative();
+
+        private static native int getHORIZONTALPATHNative();
+
+        private static native int getVERTICALPATHNative();
+    }
+
+    /** Whether annotations may cross contour lines. */
+    public enum AnnotCrossStatusType {
+        CROSSCONTOUR(JarInitializer.value(AnnotCrossStatusType::getCROSSCONTOURNative)),
+        CROSSMINORCONTOUR(JarInitializer.value(AnnotCrossStatusType::getCROSSMINORCONTOURNative)),
+        DONTCROSSCONTOUR(JarInitializer.value(AnnotCrossStatusType::getDONTCROSSCONTOURNative));
+
+        private final int value;
+
+        AnnotCrossStatusType(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        private static native int getCROSSCONTOURNative();
+
+        private static native int getCROSSMINORCONTOURNative();
+
+        private static native int getDONTCROSSCONTOURNative();
+    }
+
+    private PbNumericDisplayFormat format;
+    private PbMiscTextAttr miscTextAttr;
+
+    /** A new node that holds one reference on its native node. */
+    public PoMeshContouring() {
+        this(ctorImpl());
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoMeshContouring(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    /**
+     * Sets the numeric format of the contour annotations; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setFormat(PbNumericDisplayFormat format) {
+        setFormatImpl(handle(), handleOrZero(format, "format"));
+        this.format = format;
+    }
+
+    /**
+     * The numeric format of the contour annotations, or null for none.
+     *
+     * <p>The Java object set earlier while the node still holds its address, else the registered
+     * Java object of that address, else null.
+     */
+    public PbNumericDisplayFormat getFormat() {
+        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+    }
+
+    /**
+     * Sets the text attributes of the contour annotations; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
+        setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
+        this.miscTextAttr = miscTextAttr;
+    }
+
+    /**
+     * The text attributes of the contour annotations, or null for none.
+     *
+     * <p>The Java object set earlier while the node still holds its address, else the registered
+     * Java object of that address, else null.
+     */
+    public PbMiscTextAttr getMiscTextAttr() {
+        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private native void setFormatImpl(long handle, long object);
+
+    private native long getFormatImpl(long handle);
+
+    private native void setMiscTextAttrImpl(long handle, long object);
+
+    private native long getMiscTextAttrImpl(long handle);
+}

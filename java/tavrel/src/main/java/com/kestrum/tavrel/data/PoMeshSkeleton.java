@@ -1,0 +1,36 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** Lines of a 3D mesh along its three index directions. */
+public class PoMeshSkeleton extends PoMesh3D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new node that holds one reference on its native node. */
+    public PoMeshSkeleton() {
+        this(ctorImpl());
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoMeshSkeleton(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

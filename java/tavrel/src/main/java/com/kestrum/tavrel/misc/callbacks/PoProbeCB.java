@@ -1,0 +1,58 @@
+package com.kestrum.tavrel.misc.callbacks;
+
+import com.kestrum.tavrel.data.PbCell;
+import com.kestrum.tavrel.data.PoMeshProbePoint;
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/**
+ * The Java callback object of the probe point's events ({@link PoMeshProbePoint}): it hands each
+ * event to its listener, with the user data given when it was registered.
+ *
+ * <p>Each callback object has a native bridge, whose address is its handle: the probe calls the
+ * bridge, and the bridge calls this object on the thread that raised the event. The bridge sees
+ * this object only weakly and is never freed (it is a few bytes, and a native probe may hold its
+ * address for as long as the probe lives): once this object has been collected, events that
+ * still reach the bridge are dropped. Keep a callback object reachable for as long as it is
+ * registered; {@link PoMeshProbePoint} does so for the objects set on it.
+ *
+ * <p>One callback object may serve several events and several probes at once. An exception
+ * thrown by the listener is not caught: it reaches the Java code whose native call made the
+ * probe raise the event, and further events of that native call are dropped.
+ */
+public class PoProbeCB extends CallbackObject<PoProbeCB.Listener> {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Receives the events of a probe. */
+    @FunctionalInterface
+    public interface Listener {
+        /**
+         * One probe event.
+         *
+         * @param probe the probe that raised the event (its registered Java object, or a new view)
+         * @param cell the Java view of the cell that contains the probe, or null when the probe is
+         *     outside the mesh or no view of the cell is available
+         * @param cellHandle the native handle of that cell, 0 when the probe is outside the mesh
+         * @param userData the user data given with the registration
+         */
+        void invoke(PoMeshProbePoint probe, PbCell cell, long cellHandle, Object userData);
+    }
+
+    public PoProbeCB(Listener listener) {
+        super(listener, PoProbeCB::constructor);
+    }
+
+    /** Called by the native bridge with the addresses of the probe and of the cell (or 0). */
+    private void invokeNativ(long probe, long cell) {
+        getListener().invoke(JavaViews.find(PoMeshProbePoint.class, probe, null), cellView(cell), cell, getUserData());
+    }
+
+    /** The Java view of a cell: a view made by the factory registered for PbCell, or null. */
+    private static PbCell cellView(long cell) {
+        return JavaViews.find(PbCell.class, cell, null);
+    }
+
+    private static native long constructor();
+}

@@ -1,0 +1,45 @@
+// The call from a callback bridge into its Java callback object.
+#pragma once
+
+#include <jni.h>
+
+#include <CorvelJNI/DebugOutput.h>
+#include <CorvelJNI/ICustomClass.h>
+#include <CorvelJNI/JNIEnvHelper.h>
+
+namespace tavrel {
+
+// Calls the method "invokeNativ" with the signature on the bridge's Java
+// callback object, passing the handles as jlong values, on the calling
+// thread's environment.
+//
+// - An exception already pending on this thread (raised by the Java side of an
+//   earlier event of the same native call) wins: nothing is called, since JNI
+//   allows no call while it is pending, and the exception reaches Java when
+//   the native call returns.
+// - A callback object that has been collected is reported by a debug line and
+//   nothing is called.
+// - An exception raised by "invokeNativ" is left pending for Java.
+// The method is looked up on every call; the local references made here are
+// released before returning.
+template <class... Handles>
+inline void invokeNativ(const ICustomClass& bridge, const char* signature, Handles... handles) {
+  JNIEnv* env = JNIEnvHelper::getEnv();
+  if (env == nullptr || env->ExceptionCheck()) return;
+  jobject live = env->NewLocalRef(bridge.javaPeer);
+  if (live == nullptr) {
+    PRINTDBG("DEBUG: Java callback object has been freed!\n");
+    return;
+  }
+  jclass cls = env->GetObjectClass(bridge.javaPeer);
+  jmethodID method = env->GetMethodID(cls, "invokeNativ", signature);
+  if (method != nullptr) {
+    env->CallVoidMethod(bridge.javaPeer, method, static_cast<jlong>(handles)...);
+    // Checked so that the pending exception counts as seen; it stays pending.
+    static_cast<void>(env->ExceptionCheck());
+  }
+  env->DeleteLocalRef(cls);
+  env->DeleteLocalRef(live);
+}
+
+}  // namespace tavrel

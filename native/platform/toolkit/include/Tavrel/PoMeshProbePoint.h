@@ -1,0 +1,70 @@
+// A probe point in a mesh. It reports, through four callbacks, when it moves,
+// when it passes into another cell, when it enters the mesh and when it leaves
+// it.
+//
+// Each event holds one callback function and one user-data pointer; a set call
+// replaces the event's pair (a null function detaches the event). The probe
+// calls function(userData, probe, cell) with the cell that contains the probe
+// after the move, null when the probe is outside the mesh.
+//
+// moveTo(position, cell, cellIndex) moves the probe to a point whose
+// containing cell has been found by the caller (the mesh's cell search; null
+// and -1 outside the mesh). It raises, in this order:
+//   1. leave-mesh   when the probe was inside and is now outside (cell null);
+//   2. enter-mesh   when the probe was outside and is now inside;
+//   3. change-cell  when the probe is inside and its cell index differs from
+//                   the one before the move (entering counts as a change);
+//   4. motion       always, last.
+// The probe starts outside the mesh, at the origin. Cells are told apart by
+// their index, since a mesh may hand out one cell object for every search.
+//
+// raiseEvent(event, cell) raises one event at once with the given cell, as the
+// probe does during a move; it changes nothing in the probe's state.
+#pragma once
+
+#include <Corvel/SbVec.h>
+#include <Tavrel/PoMesh.h>
+
+class PbCell;
+class PoMeshProbePoint;
+
+typedef void PoMeshProbePointCB(void* userData, PoMeshProbePoint* probe, const PbCell* cell);
+
+class PoMeshProbePoint : public PoMesh {
+  SO_KIT_HEADER(PoMeshProbePoint)
+
+ public:
+  enum Event : int { MOTION = 0, CHANGE_CELL = 1, ENTER_MESH = 2, LEAVE_MESH = 3 };
+
+  struct Callback {
+    PoMeshProbePointCB* function = nullptr;
+    void* userData = nullptr;
+  };
+
+  PoMeshProbePoint();
+
+  void setMotionCallback(PoMeshProbePointCB* function, void* userData);
+  void setChangeCellCallback(PoMeshProbePointCB* function, void* userData);
+  void setEnterMeshCallback(PoMeshProbePointCB* function, void* userData);
+  void setLeaveMeshCallback(PoMeshProbePointCB* function, void* userData);
+
+  // The pair installed for an event (a null function when detached).
+  const Callback& getCallback(Event event) const { return callbacks[event]; }
+
+  void moveTo(const SbVec3f& position, const PbCell* cell, long cellIndex);
+  void raiseEvent(Event event, const PbCell* cell);
+
+  const SbVec3f& getPosition() const { return position; }
+  const PbCell* getCurrentCell() const { return currentCell; }
+  long getCurrentCellIndex() const { return currentCellIndex; }
+  bool isInsideMesh() const { return currentCellIndex >= 0; }
+
+ protected:
+  ~PoMeshProbePoint() override;
+
+ private:
+  Callback callbacks[4];
+  SbVec3f position;
+  const PbCell* currentCell = nullptr;
+  long currentCellIndex = -1;
+};

@@ -1,0 +1,47 @@
+#include <Corvel/CallJournal.h>
+#include <Tavrel/PoMeshProbePoint.h>
+
+SO_KIT_SOURCE(PoMeshProbePoint, PoMesh, "PoMeshProbePoint", {"probeMarker"})
+
+PoMeshProbePoint::PoMeshProbePoint() { CallJournal::record("PoMeshProbePoint::PoMeshProbePoint"); }
+PoMeshProbePoint::~PoMeshProbePoint() = default;
+
+void PoMeshProbePoint::setMotionCallback(PoMeshProbePointCB* function, void* userData) {
+  CallJournal::record("PoMeshProbePoint::setMotionCallback", journalFn(function), userData);
+  callbacks[MOTION] = Callback{function, userData};
+}
+
+void PoMeshProbePoint::setChangeCellCallback(PoMeshProbePointCB* function, void* userData) {
+  CallJournal::record("PoMeshProbePoint::setChangeCellCallback", journalFn(function), userData);
+  callbacks[CHANGE_CELL] = Callback{function, userData};
+}
+
+void PoMeshProbePoint::setEnterMeshCallback(PoMeshProbePointCB* function, void* userData) {
+  CallJournal::record("PoMeshProbePoint::setEnterMeshCallback", journalFn(function), userData);
+  callbacks[ENTER_MESH] = Callback{function, userData};
+}
+
+void PoMeshProbePoint::setLeaveMeshCallback(PoMeshProbePointCB* function, void* userData) {
+  CallJournal::record("PoMeshProbePoint::setLeaveMeshCallback", journalFn(function), userData);
+  callbacks[LEAVE_MESH] = Callback{function, userData};
+}
+
+void PoMeshProbePoint::raiseEvent(Event event, const PbCell* cell) {
+  // Copied first: a callback may replace its own registration.
+  Callback callback = callbacks[event];
+  if (callback.function != nullptr) callback.function(callback.userData, this, cell);
+}
+
+void PoMeshProbePoint::moveTo(const SbVec3f& newPosition, const PbCell* cell, long cellIndex) {
+  const bool wasInside = isInsideMesh();
+  const long previousIndex = currentCellIndex;
+  position = newPosition;
+  currentCell = cellIndex >= 0 ? cell : nullptr;
+  currentCellIndex = cellIndex >= 0 ? cellIndex : -1;
+  const bool inside = isInsideMesh();
+
+  if (wasInside && !inside) raiseEvent(LEAVE_MESH, nullptr);
+  if (!wasInside && inside) raiseEvent(ENTER_MESH, currentCell);
+  if (inside && currentCellIndex != previousIndex) raiseEvent(CHANGE_CELL, currentCell);
+  raiseEvent(MOTION, currentCell);
+}
