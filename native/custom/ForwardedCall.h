@@ -7,6 +7,9 @@
 // Java exception right after every JNI call, and deletes the local references
 // it made when it goes (a toolkit traversal may forward thousands of calls
 // from one native frame, or run on a thread without a Java frame at all).
+// Object rows check for an exception after a non-null result too, before
+// asking the result for its handle: nothing can be pending then, but every
+// JNI call that may raise is followed by a check, as -Xcheck:jni demands.
 //
 // A Java exception raised by the Java method is not cleared: it is reported as
 // a java.lang.IllegalArgumentException with the message

@@ -4,7 +4,7 @@
 
 SO_NODE_SOURCE(SoGroup, SoNode, "Group")
 
-SoGroup::SoGroup() : children(new SoChildList(this)) {}
+SoGroup::SoGroup() : children(new SoChildList(this)) { initClass(); }
 SoGroup::~SoGroup() { delete children; }
 
 void SoGroup::addChild(SoNode* child) {

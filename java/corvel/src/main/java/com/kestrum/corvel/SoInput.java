@@ -20,7 +20,7 @@ public class SoInput extends NativeObject {
     }
 
     private SoInput(long[] owned) {
-        super(owned[0], new Delete(owned[0]));
+        super(owned[0], releaseWith(SoInput::deleteNative, owned[0]));
     }
 
     /** A view of a native input owned elsewhere. */
@@ -33,19 +33,6 @@ public class SoInput extends NativeObject {
             throw new NullPointerException("text is null");
         }
         return new long[] {newNative(text)};
-    }
-
-    private static final class Delete implements Runnable {
-        private final long handle;
-
-        Delete(long handle) {
-            this.handle = handle;
-        }
-
-        @Override
-        public void run() {
-            deleteNative(handle);
-        }
     }
 
     private static native long newNative(String text);

@@ -31,8 +31,8 @@ public class SoAction extends NativeObject {
     }
 
     private SoAction(long[] owned) {
-        super(owned[0], new Delete(owned[0]));
-        ManagedObjects.registerPeer(owned[0], this);
+        super(owned[0], releaseWith(SoAction::deleteNative, owned[0]));
+        registerAsPeer(false);
     }
 
     private static long[] newAction(String javaClassName) {
@@ -51,28 +51,6 @@ public class SoAction extends NativeObject {
     /** The number of nodes this action has traversed since it was made. */
     public int getNodesTraversed() {
         return getNodesTraversedNative(handle());
-    }
-
-    @Override
-    public void dispose() {
-        long h = getNativeResourceHandleInternal();
-        if (h != 0) {
-            ManagedObjects.unregisterPeer(h, this);
-        }
-        super.dispose();
-    }
-
-    private static final class Delete implements Runnable {
-        private final long handle;
-
-        Delete(long handle) {
-            this.handle = handle;
-        }
-
-        @Override
-        public void run() {
-            deleteNative(handle);
-        }
     }
 
     private static native long newActionNative(String javaClassName);

@@ -40,14 +40,12 @@ final class CustomTypes {
 
     /**
      * Gives the new node its toolkit type and binds it to its native node: the type is created
-     * for the first object of the node's class and found for the later ones. The node stays
-     * registered as the peer of its native node (reachable) until it is disposed. On failure
-     * the node is disposed and the exception goes on.
+     * for the first object of the node's class and found for the later ones. On failure the
+     * node is disposed and the exception goes on.
      */
     static void bind(PoNode node, long handle, String requestedName, Natives natives) {
         try {
             Registration r = registrationOf(node.getClass(), requestedName);
-            ManagedObjects.registerPeer(handle, node, true);
             if (!r.created) {
                 synchronized (r) {
                     if (!r.created) {

@@ -10,7 +10,6 @@ import com.kestrum.corvel.actions.SoHandleEventAction;
 import com.kestrum.corvel.actions.SoPickAction;
 import com.kestrum.corvel.actions.SoSearchAction;
 import com.kestrum.corvel.actions.SoWriteAction;
-import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.internal.JarInitializer;
 
@@ -75,22 +74,13 @@ public abstract class PoNode extends SoNode {
 
     PoNode(long handle, String typeName, CustomTypes.Natives natives) {
         super(handle);
+        registerAsPeer(true);  // the native node calls this object until it is disposed
         CustomTypes.bind(this, handle, typeName, natives);
     }
 
     /** The name of the toolkit type of PoNode (the base of every Java node's type). */
     public static String getClassTypeName() {
         return getClassTypeId();
-    }
-
-    /** Disposes the Java object; the native node lives on while the toolkit references it. */
-    @Override
-    public void dispose() {
-        long h = getNativeResourceHandleInternal();
-        if (h != 0) {
-            ManagedObjects.unregisterPeer(h, this);
-        }
-        super.dispose();
     }
 
     @Override
