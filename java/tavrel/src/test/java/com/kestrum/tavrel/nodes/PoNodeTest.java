@@ -20,7 +20,6 @@ import com.kestrum.tavrel.testkit.Journal;
 import com.kestrum.tavrel.testkit.Nodes;
 import com.kestrum.tavrel.testkit.Toolkit;
 import java.lang.ref.WeakReference;
-import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
 import java.util.ArrayList;
 import java.util.List;
@@ -537,6 +536,23 @@ class PoNodeTest {
     }
 
     @Test
+    void constructionRunsUnderTheInitializerGuardAndDestructionReleasesTheChildren() {
+        Journal.start();
+        PlainNode node = new PlainNode();
+        List<String> made = Journal.stop();
+        assertTrue(made.contains("SoBaseInitializer::SoBaseInitializer(0x" + Long.toHexString(h(node)) + ")"),
+                made.toString());
+        assertTrue(made.contains("SoType::fromName(\"PlainNode\")") || made.stream().anyMatch(
+                l -> l.startsWith("SoType::createType(<PoNode>, \"PlainNode\"")), made.toString());
+        try (PlainNode child = new PlainNode()) { // a peer: reaching Java adds no wrapper reference
+            Nodes.addChild(h(node), h(child));
+            assertEquals(2, child.getRefCount());
+            node.dispose();
+            assertEquals(1, child.getRefCount(), "the node's child list went with the node");
+        }
+    }
+
+    @Test
     void disposedNodeIsNoLongerThePeerOfItsAddress() {
         PlainNode node = new PlainNode();
         long handle = h(node);
@@ -544,16 +560,5 @@ class PoNodeTest {
         node.dispose();
         assertNull(ManagedObjects.peerOf(handle));
         node.dispose();
-    }
-
-    @Test
-    void invokingTheHelperKeepsIllegalAccessExceptionUnchecked() throws Exception {
-        Method impl = PoNode.class.getDeclaredMethod("doActionImpl", long.class, long.class);
-        impl.setAccessible(true);
-        try (PlainNode node = new PlainNode(); SoGLRenderAction action = new SoGLRenderAction()) {
-            InvocationTargetException e = assertThrows(InvocationTargetException.class,
-                    () -> impl.invoke(node, h(node), action.getNativeResourceHandleInternal()));
-            assertInstanceOf(IllegalAccessException.class, e.getCause());
-        }
     }
 }
