@@ -13,13 +13,15 @@ jobject ObjectHelper::getManagedObject(JNIEnv* env, const char* className, long 
   corvel::ManagedObjectsClass& mo = corvel::managedObjectsClass(env);
   jstring name = env->NewStringUTF(className);
   jobject result = env->CallStaticObjectMethod(mo.cls, mo.getManagedObject, name, static_cast<jlong>(address));
+  if (env->ExceptionCheck()) result = nullptr;  // the exception stays pending for the caller
   env->DeleteLocalRef(name);
   return result;
 }
 
 void* ObjectHelper::getManagedObject(const char* typeName) {
   JNIEnv* env = JNIEnvHelper::getEnv();
-  if (env == nullptr) return nullptr;
+  // No Java call is allowed while an exception is pending: no instance then.
+  if (env == nullptr || env->ExceptionCheck()) return nullptr;
   corvel::ManagedObjectsClass& mo = corvel::managedObjectsClass(env);
   jstring name = env->NewStringUTF(typeName);
   jlong address = env->CallStaticLongMethod(mo.cls, mo.createInstance, name);

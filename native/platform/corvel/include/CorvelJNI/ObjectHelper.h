@@ -5,11 +5,14 @@
 // peer registered for that address when there is one (a Java-extended node,
 // for instance), otherwise a new Java wrapper of that class that does not own
 // the native object. Address 0 gives null. The result is a local reference.
+// When the Java side raises an exception (no wrapper registered for the class,
+// for instance) the result is null and the exception stays pending.
 //
 // getManagedObject(typeName) makes a new instance of the Java class registered
 // for a toolkit type name and returns the address of its native object, or
-// null when no Java class is registered under that name. It may be called on
-// any attached thread.
+// null when no Java class is registered under that name, when making the
+// instance raised a Java exception (left pending) or when an exception was
+// already pending. It may be called on any thread: an unknown one is attached.
 //
 // getEnumValue(env, object) returns the value that a Java enumeration constant
 // carries (its getValue() method).

@@ -3,7 +3,9 @@
 // Each action calls the node's operation of the same kind (an SoGLRenderAction
 // calls GLRender, an SoCallbackAction callback, ...). The defaults here: every
 // action operation traverses the node's children, if it has any; doAction does
-// the same for actions without their own operation.
+// the same for actions without their own operation. write appends the node's
+// file format name and then, in braces, its children ("Name {}" without any);
+// a null file format name writes as the empty name.
 #pragma once
 
 #include <Corvel/SbRenderEngineMode.h>

@@ -95,8 +95,17 @@ void SoNode::pick(SoPickAction* action) { traverseChildren(action); }
 void SoNode::rayPick(SoRayPickAction* action) { pick(action); }
 void SoNode::search(SoSearchAction* action) { traverseChildren(action); }
 void SoNode::write(SoWriteAction* action) {
-  action->getOutput() += getFileFormatName();
-  action->getOutput() += " {}\n";
+  const char* name = getFileFormatName();
+  std::string& out = action->getOutput();
+  out += name ? name : "";
+  SoChildList* list = getChildren();
+  if (list == nullptr || list->getLength() == 0) {
+    out += " {}\n";
+    return;
+  }
+  out += " {\n";
+  traverseChildren(action);
+  out += "}\n";
 }
 void SoNode::getPrimitiveCount(SoGetPrimitiveCountAction* action) { traverseChildren(action); }
 void SoNode::distribute(SoDistributeAction* action) { traverseChildren(action); }

@@ -10,7 +10,9 @@
 #include <cfloat>
 #include <cmath>
 #include <map>
+#include <cstring>
 #include <mutex>
+#include <unordered_set>
 
 float SbVec2f::length() const { return std::sqrt(dot(*this)); }
 float SbVec3f::length() const { return std::sqrt(dot(*this)); }
@@ -119,7 +121,18 @@ SbString::SbString(const wchar_t* wide) {
 
 void journalFormat(std::string& out, const SbString& s) { journalFormat(out, s.getString()); }
 
-SbName::SbName(const SbString& s) : text(s.getString()) {}
+const char* SbName::intern(const char* s, std::size_t length) {
+  static std::mutex* mutex = new std::mutex;                       // never destroyed: names outlive
+  static std::unordered_set<std::string>* table = new std::unordered_set<std::string>;  // static objects
+  std::lock_guard<std::mutex> lock(*mutex);
+  return table->emplace(s, length).first->c_str();  // set elements never move
+}
+
+SbName::SbName() : text(intern("", 0)) {}
+SbName::SbName(const char* s) : text(s ? intern(s, std::strlen(s)) : intern("", 0)) {}
+SbName::SbName(const std::string& s) : text(intern(s.data(), s.size())) {}
+SbName::SbName(const SbString& s) : SbName(std::string(s.getString())) {}
+int SbName::getLength() const { return static_cast<int>(std::strlen(text)); }
 
 void journalFormat(std::string& out, const SbName& s) { journalFormat(out, s.getString()); }
 

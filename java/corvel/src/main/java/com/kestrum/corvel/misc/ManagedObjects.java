@@ -11,8 +11,10 @@ import java.util.function.Supplier;
  *
  * <ul>
  *   <li>Peers: Java objects registered for the address of their native object (Java-extended
- *       nodes, for instance). Native code that hands that address to Java gets the peer itself.
- *       The table holds peers weakly.
+ *       nodes, actions made in Java, ...). Native code that hands that address to Java gets the
+ *       peer itself. The table holds a peer weakly, or strongly when it is registered to be kept
+ *       alive (a Java-extended node, whose native node calls it back through a weak reference:
+ *       it stays reachable until it is unregistered, when its Java object is disposed).
  *   <li>Wrappers: for each Java class name, a factory that makes a Java view of a native
  *       object that has no peer. Classes register their factory in their static initialiser.
  *   <li>Types: for each toolkit type name that a Java class registered, a factory for new
@@ -20,24 +22,65 @@ import java.util.function.Supplier;
  * </ul>
  */
 public final class ManagedObjects {
-    private static final Map<Long, WeakReference<Object>> PEERS = new ConcurrentHashMap<>();
+    private static final Map<Long, Peer> PEERS = new ConcurrentHashMap<>();
     private static final Map<String, LongFunction<?>> WRAPPERS = new ConcurrentHashMap<>();
     private static final Map<String, Supplier<? extends NativeObject>> TYPES = new ConcurrentHashMap<>();
 
     private ManagedObjects() {}
 
+    /** A registered peer, held weakly or strongly. */
+    private static final class Peer {
+        private final WeakReference<Object> weak;
+        private final Object strong;
+
+        Peer(Object peer, boolean keepAlive) {
+            this.weak = new WeakReference<>(peer);
+            this.strong = keepAlive ? peer : null;
+        }
+
+        Object get() {
+            return strong != null ? strong : weak.get();
+        }
+    }
+
+    /** Registers a peer, held weakly. */
     public static void registerPeer(long address, Object peer) {
-        PEERS.put(address, new WeakReference<>(peer));
+        registerPeer(address, peer, false);
+    }
+
+    /**
+     * Registers a peer for the address; with {@code keepAlive} the table keeps it reachable
+     * until {@link #unregisterPeer(long, Object)}.
+     */
+    public static void registerPeer(long address, Object peer, boolean keepAlive) {
+        PEERS.put(address, new Peer(peer, keepAlive));
     }
 
     public static void unregisterPeer(long address) {
         PEERS.remove(address);
     }
 
+    /** Unregisters the peer of the address if it is still {@code peer}. */
+    public static void unregisterPeer(long address, Object peer) {
+        PEERS.computeIfPresent(address, (a, p) -> p.get() == peer || p.get() == null ? null : p);
+    }
+
     /** The registered peer of the address, or null. */
     public static Object peerOf(long address) {
-        WeakReference<Object> ref = PEERS.get(address);
-        return ref == null ? null : ref.get();
+        Peer p = PEERS.get(address);
+        return p == null ? null : p.get();
+    }
+
+    /**
+     * The Java object for the native object at the address, as an instance of the dotted class
+     * name: the registered peer when it is one, otherwise a new wrapper; null for address 0.
+     */
+    public static Object get(String dottedClassName, long address) {
+        try {
+            return getManagedObject(dottedClassName, address);
+        } catch (ClassNotFoundException e) {
+            throw new IllegalArgumentException("No Java class " + dottedClassName, e);
+        }
     }
 
     public static void registerWrapper(String dottedClassName, LongFunction<?> factory) {
@@ -69,7 +112,11 @@ public final class ManagedObjects {
         return factory.apply(address);
     }
 
-    /** Called from native code: a new instance of a Java-extended type; its native address. */
+    /**
+     * Called from native code: a new instance of a Java-extended type; its native address, 0 when
+     * no Java class registered the type name. An exception of the factory goes back to native
+     * code, pending.
+     */
     static long createInstance(String typeName) {
         Supplier<? extends NativeObject> factory = TYPES.get(typeName);
         if (factory == null) {

@@ -20,6 +20,7 @@ public abstract class NativeObject implements AutoCloseable {
 
     private volatile long handle;
     private final Cleaner.Cleanable cleanable;
+    private volatile boolean registeredPeer;
 
     /** A view of a native object that is owned elsewhere. */
     protected NativeObject(long handle) {
@@ -35,6 +36,24 @@ public abstract class NativeObject implements AutoCloseable {
     protected NativeObject(long handle, Runnable release) {
         this.handle = handle;
         this.cleanable = release == null ? null : CLEANER.register(this, release);
+    }
+
+    /**
+     * A release action that calls {@code release} with the handle (and refers to no Java
+     * object), e.g. {@code releaseWith(MyClass::deleteNative, handle)}.
+     */
+    protected static Runnable releaseWith(java.util.function.LongConsumer release, long handle) {
+        return () -> release.accept(handle);
+    }
+
+    /**
+     * Makes this object the Java peer of its native object ({@link ManagedObjects}): native code
+     * that hands the address to Java gets this object. With {@code keepAlive} the object stays
+     * reachable until it is disposed. Disposing unregisters it.
+     */
+    protected final void registerAsPeer(boolean keepAlive) {
+        ManagedObjects.registerPeer(handle(), this, keepAlive);
+        registeredPeer = true;
     }
 
     /** The native handle, or 0 once disposed. */
@@ -57,8 +76,12 @@ public abstract class NativeObject implements AutoCloseable {
 
     /** Frees the native object if this object owns it; later calls do nothing. */
     public void dispose() {
-        if (handle == 0) {
+        long h = handle;
+        if (h == 0) {
             return;
+        }
+        if (registeredPeer) {
+            ManagedObjects.unregisterPeer(h, this);
         }
         handle = 0;
         if (cleanable != null) {

@@ -1,5 +1,19 @@
 package com.kestrum.corvel.nodes;
 
+import com.kestrum.corvel.SoInput;
+import com.kestrum.corvel.actions.SoAction;
+import com.kestrum.corvel.actions.SoCallbackAction;
+import com.kestrum.corvel.actions.SoDistributeAction;
+import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.actions.SoGetBoundingBoxAction;
+import com.kestrum.corvel.actions.SoGetMatrixAction;
+import com.kestrum.corvel.actions.SoGetPrimitiveCountAction;
+import com.kestrum.corvel.actions.SoHandleEventAction;
+import com.kestrum.corvel.actions.SoPickAction;
+import com.kestrum.corvel.actions.SoRayPickAction;
+import com.kestrum.corvel.actions.SoSearchAction;
+import com.kestrum.corvel.actions.SoWriteAction;
+import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
@@ -8,6 +22,11 @@ import com.kestrum.corvel.misc.NativeObject;
  * A scene-graph node. The Java object holds one reference on its native node, taken when the
  * Java object is made and given back when it is disposed or collected; the native node lives
  * while the toolkit or any Java object still references it.
+ *
+ * <p>The node's operations below run the toolkit's own implementation. A Java class that
+ * extends a toolkit node (see com.kestrum.tavrel.nodes.PoNode) overrides them: the toolkit then
+ * calls the Java override, and the override's {@code super} call reaches the toolkit's
+ * implementation, never the Java override again.
  */
 public class SoNode extends NativeObject {
     static {
@@ -32,11 +51,26 @@ public class SoNode extends NativeObject {
         public int getValue() {
             return value;
         }
+
+        /** The mode of a toolkit value. */
+        public static RenderModes fromValue(int value) {
+            for (RenderModes m : values()) {
+                if (m.value == value) {
+                    return m;
+                }
+            }
+            throw new IllegalArgumentException("No render mode " + value);
+        }
     }
 
     /** Takes a reference on the native node at the handle (non-zero). */
     protected SoNode(long handle) {
         super(handle, new Unref(refNative(handle)));
+    }
+
+    /** The Java object for a native node: its Java peer, or a new view; null for 0. */
+    public static SoNode of(long handle) {
+        return handle == 0 ? null : (SoNode) ManagedObjects.get("com.kestrum.corvel.nodes.SoNode", handle);
     }
 
     /** The name of the node's toolkit type. */
@@ -47,6 +81,166 @@ public class SoNode extends NativeObject {
     /** The native node's reference count (for inspection). */
     public int getRefCount() {
         return getRefCountNative(handle());
+    }
+
+    // --- the node's overridable operations --------------------------------------------------
+
+    /** Marks the node as changed. */
+    public void touch() {
+        touchNative(handle());
+    }
+
+    /** The node's name ("" when it has none). */
+    public String getName() {
+        return getNameNative(handle());
+    }
+
+    public void setName(String name) {
+        if (name == null) {
+            throw new NullPointerException("name is null");
+        }
+        setNameNative(handle(), name);
+    }
+
+    /** The name under which the node is written to files (its type name by default). */
+    public String getFileFormatName() {
+        return getFileFormatNameNative(handle());
+    }
+
+    /** Reads the node's fields from the input; true on success. */
+    public boolean readInstance(SoInput in, short flags) {
+        return readInstanceNative(handle(), handleOf(in, "in"), flags);
+    }
+
+    /** The node's field of that name, or null. */
+    public SoField getField(String name) {
+        return field(getFieldNative(handle(), nameOf(name)));
+    }
+
+    public SoField getEventIn(String name) {
+        return field(getEventInNative(handle(), nameOf(name)));
+    }
+
+    public SoField getEventOut(String name) {
+        return field(getEventOutNative(handle(), nameOf(name)));
+    }
+
+    public void setOverride(boolean state) {
+        setOverrideNative(handle(), state);
+    }
+
+    public boolean isOverride() {
+        return isOverrideNative(handle());
+    }
+
+    /** A new node of the same type. */
+    public SoNode copy(boolean copyConnections) {
+        return of(copyNative(handle(), copyConnections));
+    }
+
+    public boolean affectsState() {
+        return affectsStateNative(handle());
+    }
+
+    /** Adds a child to a node that keeps children (the toolkit calls it when reading files). */
+    protected void internalAddChild(SoNode child) {
+        internalAddChildNative(handle(), handleOf(child, "child"));
+    }
+
+    public SoNode getAlternateRep(SoAction action) {
+        return of(getAlternateRepNative(handle(), handleOf(action, "action")));
+    }
+
+    public boolean isBoundingBoxIgnoring() {
+        return isBoundingBoxIgnoringNative(handle());
+    }
+
+    public void doAction(SoAction action) {
+        doActionNative(handle(), handleOf(action, "action"));
+    }
+
+    public void GLRender(SoGLRenderAction action) {
+        GLRenderNative(handle(), handleOf(action, "action"));
+    }
+
+    public void callback(SoCallbackAction action) {
+        callbackNative(handle(), handleOf(action, "action"));
+    }
+
+    public void getBoundingBox(SoGetBoundingBoxAction action) {
+        getBoundingBoxNative(handle(), handleOf(action, "action"));
+    }
+
+    public void getMatrix(SoGetMatrixAction action) {
+        getMatrixNative(handle(), handleOf(action, "action"));
+    }
+
+    public void handleEvent(SoHandleEventAction action) {
+        handleEventNative(handle(), handleOf(action, "action"));
+    }
+
+    public void pick(SoPickAction action) {
+        pickNative(handle(), handleOf(action, "action"));
+    }
+
+    public void rayPick(SoRayPickAction action) {
+        rayPickNative(handle(), handleOf(action, "action"));
+    }
+
+    public void search(SoSearchAction action) {
+        searchNative(handle(), handleOf(action, "action"));
+    }
+
+    public void write(SoWriteAction action) {
+        writeNative(handle(), handleOf(action, "action"));
+    }
+
+    public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
+        getPrimitiveCountNative(handle(), handleOf(action, "action"));
+    }
+
+    public void distribute(SoDistributeAction action) {
+        distributeNative(handle(), handleOf(action, "action"));
+    }
+
+    public void GLRenderBelowPath(SoGLRenderAction action) {
+        GLRenderBelowPathNative(handle(), handleOf(action, "action"));
+    }
+
+    public void GLRenderInPath(SoGLRenderAction action) {
+        GLRenderInPathNative(handle(), handleOf(action, "action"));
+    }
+
+    public void GLRenderOffPath(SoGLRenderAction action) {
+        GLRenderOffPathNative(handle(), handleOf(action, "action"));
+    }
+
+    public void grabEventsSetup() {
+        grabEventsSetupNative(handle());
+    }
+
+    public void grabEventsCleanup() {
+        grabEventsCleanupNative(handle());
+    }
+
+    public int getRenderUnitID() {
+        return getRenderUnitIDNative(handle());
+    }
+
+    /** The rendering mode the node asks for. */
+    public RenderModes getRenderEngineMode() {
+        return RenderModes.fromValue(getRenderEngineModeNative(handle()));
+    }
+
+    private static String nameOf(String name) {
+        if (name == null) {
+            throw new NullPointerException("name is null");
+        }
+        return name;
+    }
+
+    private static SoField field(long handle) {
+        return handle == 0 ? null : (SoField) ManagedObjects.get("com.kestrum.corvel.fields.SoField", handle);
     }
 
     /** Gives back the reference of a Java object that is gone or disposed. */
@@ -70,4 +264,72 @@ public class SoNode extends NativeObject {
     private static native int getRefCountNative(long handle);
 
     private static native String getTypeNameNative(long handle);
+
+    private static native void touchNative(long handle);
+
+    private static native String getNameNative(long handle);
+
+    private static native void setNameNative(long handle, String name);
+
+    private static native String getFileFormatNameNative(long handle);
+
+    private static native boolean readInstanceNative(long handle, long input, short flags);
+
+    private static native long getFieldNative(long handle, String name);
+
+    private static native long getEventInNative(long handle, String name);
+
+    private static native long getEventOutNative(long handle, String name);
+
+    private static native void setOverrideNative(long handle, boolean state);
+
+    private static native boolean isOverrideNative(long handle);
+
+    private static native long copyNative(long handle, boolean copyConnections);
+
+    private static native boolean affectsStateNative(long handle);
+
+    private static native void internalAddChildNative(long handle, long child);
+
+    private static native long getAlternateRepNative(long handle, long action);
+
+    private static native boolean isBoundingBoxIgnoringNative(long handle);
+
+    private static native void doActionNative(long handle, long action);
+
+    private static native void GLRenderNative(long handle, long action);
+
+    private static native void callbackNative(long handle, long action);
+
+    private static native void getBoundingBoxNative(long handle, long action);
+
+    private static native void getMatrixNative(long handle, long action);
+
+    private static native void handleEventNative(long handle, long action);
+
+    private static native void pickNative(long handle, long action);
+
+    private static native void rayPickNative(long handle, long action);
+
+    private static native void searchNative(long handle, long action);
+
+    private static native void writeNative(long handle, long action);
+
+    private static native void getPrimitiveCountNative(long handle, long action);
+
+    private static native void distributeNative(long handle, long action);
+
+    private static native void GLRenderBelowPathNative(long handle, long action);
+
+    private static native void GLRenderInPathNative(long handle, long action);
+
+    private static native void GLRenderOffPathNative(long handle, long action);
+
+    private static native void grabEventsSetupNative(long handle);
+
+    private static native void grabEventsCleanupNative(long handle);
+
+    private static native int getRenderUnitIDNative(long handle);
+
+    private static native int getRenderEngineModeNative(long handle);
 }

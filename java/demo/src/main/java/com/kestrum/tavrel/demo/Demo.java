@@ -20,7 +20,8 @@ public final class Demo {
     public static void main(String[] args) {
         List<Section> sections = List.of(
                 new StartupSection(),
-                new RepresentationsSection());
+                new RepresentationsSection(),
+                new CustomNodeSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");

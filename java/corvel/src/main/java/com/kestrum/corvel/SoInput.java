@@ -1,0 +1,41 @@
+package com.kestrum.corvel;
+
+import com.kestrum.corvel.misc.CorvelNative;
+import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.corvel.misc.NativeObject;
+
+/**
+ * An input source for reading scene files. An input made in Java reads from a string and is
+ * freed when disposed; inputs that the toolkit hands to Java are views.
+ */
+public class SoInput extends NativeObject {
+    static {
+        CorvelNative.ensureLoaded();
+        ManagedObjects.registerWrapper("com.kestrum.corvel.SoInput", SoInput::new);
+    }
+
+    /** An input that reads the text. */
+    public SoInput(String text) {
+        this(newInput(text));
+    }
+
+    private SoInput(long[] owned) {
+        super(owned[0], releaseWith(SoInput::deleteNative, owned[0]));
+    }
+
+    /** A view of a native input owned elsewhere. */
+    protected SoInput(long handle) {
+        super(handle);
+    }
+
+    private static long[] newInput(String text) {
+        if (text == null) {
+            throw new NullPointerException("text is null");
+        }
+        return new long[] {newNative(text)};
+    }
+
+    private static native long newNative(String text);
+
+    private static native void deleteNative(long handle);
+}

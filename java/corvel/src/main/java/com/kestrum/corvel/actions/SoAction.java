@@ -1,0 +1,63 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.CorvelNative;
+import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.corvel.nodes.SoNode;
+
+/**
+ * A traversal of a scene graph. Applying an action to a node calls the node's operation of the
+ * action's kind ({@code GLRender} for an {@link SoGLRenderAction}, ...), which traverses further
+ * as the node decides.
+ *
+ * <p>An action made in Java is owned by its Java object and freed when it is disposed; while it
+ * lives, nodes that the action traverses receive this very Java object. Actions made by the
+ * toolkit reach Java as views that do not own them.
+ */
+public class SoAction extends NativeObject {
+    static {
+        CorvelNative.ensureLoaded();
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoAction", SoAction::new);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoAction(long handle) {
+        super(handle);
+    }
+
+    /** A new native action of the toolkit class named like the Java class, owned by this object. */
+    protected SoAction(String javaClassName) {
+        this(newAction(javaClassName));
+    }
+
+    private SoAction(long[] owned) {
+        super(owned[0], releaseWith(SoAction::deleteNative, owned[0]));
+        registerAsPeer(false);
+    }
+
+    private static long[] newAction(String javaClassName) {
+        long handle = newActionNative(javaClassName);
+        if (handle == 0) {
+            throw new IllegalArgumentException("No toolkit action named " + javaClassName);
+        }
+        return new long[] {handle};
+    }
+
+    /** Applies the action to the scene graph under {@code node}. */
+    public void apply(SoNode node) {
+        applyNative(handle(), handleOf(node, "node"));
+    }
+
+    /** The number of nodes this action has traversed since it was made. */
+    public int getNodesTraversed() {
+        return getNodesTraversedNative(handle());
+    }
+
+    private static native long newActionNative(String javaClassName);
+
+    private static native void deleteNative(long handle);
+
+    private static native void applyNative(long handle, long node);
+
+    private static native int getNodesTraversedNative(long handle);
+}

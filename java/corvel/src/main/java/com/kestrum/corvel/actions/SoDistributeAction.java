@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Distributes a scene graph. */
+public class SoDistributeAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoDistributeAction", SoDistributeAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoDistributeAction() {
+        super("SoDistributeAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoDistributeAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoDistributeAction(long handle) {
+        super(handle);
+    }
+}

@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Computes the bounding box of a scene graph. */
+public class SoGetBoundingBoxAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGetBoundingBoxAction", SoGetBoundingBoxAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoGetBoundingBoxAction() {
+        super("SoGetBoundingBoxAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoGetBoundingBoxAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoGetBoundingBoxAction(long handle) {
+        super(handle);
+    }
+}

@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Computes the transformation matrix of a node. */
+public class SoGetMatrixAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGetMatrixAction", SoGetMatrixAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoGetMatrixAction() {
+        super("SoGetMatrixAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoGetMatrixAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoGetMatrixAction(long handle) {
+        super(handle);
+    }
+}

@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Counts the primitives of a scene graph. */
+public class SoGetPrimitiveCountAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGetPrimitiveCountAction", SoGetPrimitiveCountAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoGetPrimitiveCountAction() {
+        super("SoGetPrimitiveCountAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoGetPrimitiveCountAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoGetPrimitiveCountAction(long handle) {
+        super(handle);
+    }
+}

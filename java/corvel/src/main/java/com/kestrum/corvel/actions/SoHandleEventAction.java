@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Hands an event to the nodes of a scene graph. */
+public class SoHandleEventAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoHandleEventAction", SoHandleEventAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoHandleEventAction() {
+        super("SoHandleEventAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoHandleEventAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoHandleEventAction(long handle) {
+        super(handle);
+    }
+}

@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Base of the picking actions. */
+public class SoPickAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoPickAction", SoPickAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoPickAction() {
+        super("SoPickAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoPickAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoPickAction(long handle) {
+        super(handle);
+    }
+}

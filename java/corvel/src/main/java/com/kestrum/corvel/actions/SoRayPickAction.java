@@ -1,0 +1,25 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Picks along a ray. */
+public class SoRayPickAction extends SoPickAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoRayPickAction", SoRayPickAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoRayPickAction() {
+        super("SoRayPickAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoRayPickAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoRayPickAction(long handle) {
+        super(handle);
+    }
+}

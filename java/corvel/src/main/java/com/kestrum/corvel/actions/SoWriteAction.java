@@ -1,0 +1,32 @@
+package com.kestrum.corvel.actions;
+
+import com.kestrum.corvel.misc.ManagedObjects;
+
+/** Writes a scene graph as text. */
+public class SoWriteAction extends SoAction {
+    static {
+        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoWriteAction", SoWriteAction::new);
+    }
+
+    /** A new action, owned by this object. */
+    public SoWriteAction() {
+        super("SoWriteAction");
+    }
+
+    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    protected SoWriteAction(String javaClassName) {
+        super(javaClassName);
+    }
+
+    /** A view of a native action owned elsewhere. */
+    protected SoWriteAction(long handle) {
+        super(handle);
+    }
+
+    /** What the traversals of this action wrote so far. */
+    public String getOutput() {
+        return getOutputNative(handle());
+    }
+
+    private static native String getOutputNative(long handle);
+}

@@ -1,0 +1,165 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.corvel.actions.SoAction;
+import com.kestrum.corvel.actions.SoCallbackAction;
+import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.actions.SoGetBoundingBoxAction;
+import com.kestrum.corvel.actions.SoGetMatrixAction;
+import com.kestrum.corvel.actions.SoGetPrimitiveCountAction;
+import com.kestrum.corvel.actions.SoHandleEventAction;
+import com.kestrum.corvel.actions.SoPickAction;
+import com.kestrum.corvel.actions.SoSearchAction;
+import com.kestrum.corvel.actions.SoWriteAction;
+import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A scene-graph node written in Java. Subclass it and override the operations of
+ * {@link SoNode} you need (most often {@link #doAction}, {@link #GLRender}, {@link #callback},
+ * {@link #getBoundingBox}...): when the toolkit traverses the node, it calls the override. An
+ * override that calls {@code super} gets the toolkit's own behaviour of the node (traversing
+ * its children, writing it, ...).
+ *
+ * <p>{@code doAction} has no toolkit behaviour: a class that does not override it makes every
+ * generic action fail with an {@link IllegalArgumentException} caused by an
+ * {@link IllegalAccessException}.
+ *
+ * <p>Each Java class gets a toolkit type of its own, named by the constructor's
+ * {@code typeName} or, by default, after the class's simple name; the first object of the
+ * class creates it. The toolkit can make further objects of a class that has a constructor
+ * without arguments from the type alone (copying a node, reading a file).
+ *
+ * <p>An exception thrown by an override that the toolkit called reaches the Java caller of the
+ * action as an {@link IllegalArgumentException} "Exception raised during execution of
+ * CustomPoNode.&lt;operation&gt;." with the exception as its cause; the rest of that traversal
+ * no longer calls Java.
+ *
+ * <p>The toolkit may call a node as long as it references it, so a node stays reachable (it is
+ * not collected) until it is disposed: dispose nodes you no longer need, e.g. with
+ * try-with-resources. {@link #getRenderEngineMode()} is asked once, while the object is being
+ * made, so an override must not rely on the subclass's fields.
+ */
+public abstract class PoNode extends SoNode {
+    static {
+        JarInitializer.init();
+        nativeDerivedClassInit();
+    }
+
+    private static final CustomTypes.Natives NATIVES = new CustomTypes.Natives() {
+        @Override
+        public void initCustomClass(PoNode node, long handle, boolean create, String typeName) {
+            node.initCustomClass(handle, node, create, typeName);
+        }
+
+        @Override
+        public void initCustomRenderEngineMode(PoNode node, long handle) {
+            node.initCustomRenderEngineMode(handle);
+        }
+    };
+
+    /** A node whose toolkit type is named after the class's simple name. */
+    protected PoNode() {
+        this(null);
+    }
+
+    /**
+     * A node whose class has the toolkit type {@code typeName}.
+     *
+     * @throws IllegalArgumentException when another class has that type name, when the class
+     *     already has another one, or when an anonymous class gives none
+     */
+    protected PoNode(String typeName) {
+        this(ctorImpl(), typeName, NATIVES);
+    }
+
+    PoNode(long handle, String typeName, CustomTypes.Natives natives) {
+        super(handle);
+        registerAsPeer(true);  // the native node calls this object until it is disposed
+        CustomTypes.bind(this, handle, typeName, natives);
+    }
+
+    /** The name of the toolkit type of PoNode (the base of every Java node's type). */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    @Override
+    public void doAction(SoAction action) {
+        doActionImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void GLRender(SoGLRenderAction action) {
+        GLRenderImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void callback(SoCallbackAction action) {
+        callbackImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void getBoundingBox(SoGetBoundingBoxAction action) {
+        getBoundingBoxImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void getMatrix(SoGetMatrixAction action) {
+        getMatrixImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void handleEvent(SoHandleEventAction action) {
+        handleEventImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void pick(SoPickAction action) {
+        pickImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void search(SoSearchAction action) {
+        searchImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void write(SoWriteAction action) {
+        writeImpl(handle(), handleOf(action, "action"));
+    }
+
+    @Override
+    public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
+        getPrimitiveCountImpl(handle(), handleOf(action, "action"));
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private static native void nativeDerivedClassInit();
+
+    private native void initCustomClass(long handle, Object peer, boolean create, String typeName);
+
+    private native void initCustomRenderEngineMode(long handle);
+
+    private native void doActionImpl(long handle, long action);
+
+    private native void callbackImpl(long handle, long action);
+
+    private native void GLRenderImpl(long handle, long action);
+
+    private native void getBoundingBoxImpl(long handle, long action);
+
+    private native void getMatrixImpl(long handle, long action);
+
+    private native void handleEventImpl(long handle, long action);
+
+    private native void pickImpl(long handle, long action);
+
+    private native void searchImpl(long handle, long action);
+
+    private native void writeImpl(long handle, long action);
+
+    private native void getPrimitiveCountImpl(long handle, long action);
+}

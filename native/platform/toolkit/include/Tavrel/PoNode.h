@@ -1,0 +1,28 @@
+// Base of the extension's scene-graph nodes. Abstract: doAction is pure.
+//
+// The action operations below are the extension's own: each records its call
+// and then does what SoNode does (traverse the node's children, or, for
+// write, write the node). All other operations are SoNode's.
+#pragma once
+
+#include <Corvel/SoNode.h>
+
+class PoNode : public SoNode {
+  SO_NODE_HEADER(PoNode)
+
+ public:
+  void doAction(SoAction* action) override = 0;
+  void GLRender(SoGLRenderAction* action) override;
+  void callback(SoCallbackAction* action) override;
+  void getBoundingBox(SoGetBoundingBoxAction* action) override;
+  void getMatrix(SoGetMatrixAction* action) override;
+  void handleEvent(SoHandleEventAction* action) override;
+  void pick(SoPickAction* action) override;
+  void search(SoSearchAction* action) override;
+  void write(SoWriteAction* action) override;
+  void getPrimitiveCount(SoGetPrimitiveCountAction* action) override;
+
+ protected:
+  PoNode();
+  ~PoNode() override;
+};

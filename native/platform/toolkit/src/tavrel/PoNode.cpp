@@ -1,0 +1,49 @@
+#include <Corvel/CallJournal.h>
+#include <Corvel/SoAction.h>
+#include <Tavrel/PoCellFilter.h>
+#include <Tavrel/PoNode.h>
+
+SO_NODE_ABSTRACT_SOURCE(PoNode, SoNode, "PoNode")
+
+PoNode::PoNode() = default;
+PoNode::~PoNode() = default;
+
+// Each records "PoNode::<op>(action)" and does SoNode's work.
+#define PO_NODE_ACTION(op, ActionClass)                                 \
+  void PoNode::op(ActionClass* action) {                                \
+    CallJournal::record("PoNode::" #op, static_cast<const void*>(action)); \
+    SoNode::op(action);                                                 \
+  }
+
+PO_NODE_ACTION(GLRender, SoGLRenderAction)
+PO_NODE_ACTION(callback, SoCallbackAction)
+PO_NODE_ACTION(getBoundingBox, SoGetBoundingBoxAction)
+PO_NODE_ACTION(getMatrix, SoGetMatrixAction)
+PO_NODE_ACTION(handleEvent, SoHandleEventAction)
+PO_NODE_ACTION(pick, SoPickAction)
+PO_NODE_ACTION(search, SoSearchAction)
+PO_NODE_ACTION(write, SoWriteAction)
+PO_NODE_ACTION(getPrimitiveCount, SoGetPrimitiveCountAction)
+
+// --- PoCellFilter ---------------------------------------------------------------
+
+SO_NODE_ABSTRACT_SOURCE(PoCellFilter, PoNode, "PoCellFilter")
+
+PoCellFilter::PoCellFilter() = default;
+PoCellFilter::~PoCellFilter() = default;
+
+void PoCellFilter::doAction(SoAction* action) {
+  CallJournal::record("PoCellFilter::doAction", static_cast<const void*>(action));
+  traverseChildren(action);
+}
+
+void PoCellFilter::write(SoWriteAction* action) {
+  CallJournal::record("PoCellFilter::write", static_cast<const void*>(action));
+}
+
+std::vector<int> PoCellFilter::selectCells(const PoCellFilter* filter, int numCells, const float* values) {
+  std::vector<int> accepted;
+  for (int i = 0; i < numCells; ++i)
+    if (filter == nullptr || filter->acceptCell(i, values ? values[i] : 0.0f)) accepted.push_back(i);
+  return accepted;
+}
