@@ -15,6 +15,16 @@ public final class Natives {
         return invoke(target.getClass(), target, name, args);
     }
 
+    /** Calls the method of that name declared by the class, on target. */
+    public static Object callDeclared(Class<?> declaring, Object target, String name, Object... args) {
+        for (Method m : declaring.getDeclaredMethods()) {
+            if (m.getName().equals(name) && m.getParameterCount() == args.length) {
+                return invoke(m, target, args);
+            }
+        }
+        throw new AssertionError("no method " + name + " in " + declaring);
+    }
+
     /** Calls the static native method of that name declared by the class. */
     public static Object callStatic(Class<?> type, String name, Object... args) {
         return invoke(type, null, name, args);
@@ -24,18 +34,22 @@ public final class Natives {
         for (Class<?> c = type; c != null; c = c.getSuperclass()) {
             for (Method m : c.getDeclaredMethods()) {
                 if (m.getName().equals(name) && m.getParameterCount() == args.length) {
-                    m.setAccessible(true);
-                    try {
-                        return m.invoke(target, args);
-                    } catch (IllegalAccessException e) {
-                        throw new AssertionError(e);
-                    } catch (InvocationTargetException e) {
-                        throw new AssertionError(e.getCause());
-                    }
+                    return invoke(m, target, args);
                 }
             }
         }
         throw new AssertionError("no method " + name + " with " + args.length + " arguments in " + type);
+    }
+
+    private static Object invoke(Method m, Object target, Object[] args) {
+        m.setAccessible(true);
+        try {
+            return m.invoke(target, args);
+        } catch (IllegalAccessException e) {
+            throw new AssertionError(e);
+        } catch (InvocationTargetException e) {
+            throw new AssertionError(e.getCause());
+        }
     }
 
     /** The native handle of a Java peer. */
