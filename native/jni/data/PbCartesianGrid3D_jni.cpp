@@ -12,7 +12,8 @@ static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 extern "C" {
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbCartesianGrid3D_ctorImpl(JNIEnv* env, jclass, jboolean isDataDuplicated) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbCartesianGrid3D_ctorImpl(JNIEnv* env, jclass,
+    jboolean isDataDuplicated) {
   return tavrel::construct<PbCartesianGrid3D>(tavrel::toFlag(isDataDuplicated));
 }
 
@@ -20,7 +21,8 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbCartesianGrid3D_ctorImpl1
   return tavrel::constructCopy<PbCartesianGrid3D>(other);
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbCartesianGrid3D_ctorImpl2(JNIEnv* env, jclass, jint numX, jint numY, jint numZ, jfloatArray x, jfloatArray y, jfloatArray z, jboolean isDataDuplicated) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbCartesianGrid3D_ctorImpl2(JNIEnv* env, jclass, jint numX,
+    jint numY, jint numZ, jfloatArray x, jfloatArray y, jfloatArray z, jboolean isDataDuplicated) {
   return tavrel::constructWith<PbCartesianGrid3D>(env, numX, numY, numZ, x, y, z, isDataDuplicated);
 }
 

@@ -59,7 +59,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbGrid2D_setGeometryImpl1(JN
                                                                                jfloatArray y, jfloatArray z) {
   PbGrid2D* grid = fromHandle<PbGrid2D>(handle);
   tavrel::withInputs(
-      env, [grid](int nx, int ny, const float* a, const float* b, const float* c) { grid->setGeometry(nx, ny, a, b, c); },
+      env, [grid](int nx, int ny, const float* a, const float* b, const float* c) { grid->setGeometry(nx, ny, a, b,
+          c); },
       numX, numY, x, y, z);
 }
 

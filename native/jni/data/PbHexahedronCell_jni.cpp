@@ -1,4 +1,5 @@
-// com.kestrum.tavrel.data.PbHexahedronCell: constructor functions of the hexahedron cell and its shape-function derivatives.
+// com.kestrum.tavrel.data.PbHexahedronCell: constructor functions of the hexahedron cell and its shape-function
+// derivatives.
 
 #include <jni.h>
 

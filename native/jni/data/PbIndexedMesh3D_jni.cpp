@@ -12,7 +12,8 @@ static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 extern "C" {
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_ctorImpl(JNIEnv* env, jclass, jboolean isDataDuplicated) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_ctorImpl(JNIEnv* env, jclass,
+    jboolean isDataDuplicated) {
   return tavrel::construct<PbIndexedMesh3D>(tavrel::toFlag(isDataDuplicated));
 }
 
@@ -20,16 +21,23 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_ctorImpl1(J
   return tavrel::constructCopy<PbIndexedMesh3D>(other);
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_ctorImpl2(JNIEnv* env, jclass, jint numNodes, jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellTypes, jintArray cellIndex, jboolean isDataDuplicated) {
-  return tavrel::constructWith<PbIndexedMesh3D>(env, numNodes, x, y, z, numCells, cellTypes, cellIndex, isDataDuplicated);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_ctorImpl2(JNIEnv* env, jclass, jint numNodes,
+    jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellTypes, jintArray cellIndex,
+    jboolean isDataDuplicated) {
+  return tavrel::constructWith<PbIndexedMesh3D>(env, numNodes, x, y, z, numCells, cellTypes, cellIndex,
+      isDataDuplicated);
 }
 
-JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_setGeometryImpl(JNIEnv* env, jobject, jlong handle, jint numNodes, jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellTypes, jintArray cellIndex) {
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_setGeometryImpl(JNIEnv* env, jobject, jlong handle,
+    jint numNodes, jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellTypes,
+    jintArray cellIndex) {
   PbIndexedMesh3D* mesh = tavrel::fromHandle<PbIndexedMesh3D>(handle);
-  tavrel::withInputs(env, [mesh](auto... a) { mesh->setGeometry(a...); }, numNodes, x, y, z, numCells, cellTypes, cellIndex);
+  tavrel::withInputs(env, [mesh](auto... a) { mesh->setGeometry(a...); }, numNodes, x, y, z, numCells, cellTypes,
+      cellIndex);
 }
 
-JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_getNodesImpl(JNIEnv* env, jobject, jlong handle, jobjectArray xOut, jobjectArray yOut, jobjectArray zOut) {
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbIndexedMesh3D_getNodesImpl(JNIEnv* env, jobject, jlong handle,
+    jobjectArray xOut, jobjectArray yOut, jobjectArray zOut) {
   int count = 0;
   const float *x = nullptr, *y = nullptr, *z = nullptr;
   tavrel::fromHandle<PbIndexedMesh3D>(handle)->getNodes(count, x, y, z);

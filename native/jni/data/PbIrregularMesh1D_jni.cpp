@@ -20,11 +20,13 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIrregularMesh1D_ctorImpl1
   return tavrel::constructCopy<PbIrregularMesh1D>(other);
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIrregularMesh1D_ctorImpl2(JNIEnv* env, jclass, jint numNodes, jfloatArray x) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbIrregularMesh1D_ctorImpl2(JNIEnv* env, jclass, jint numNodes,
+    jfloatArray x) {
   return tavrel::constructWith<PbIrregularMesh1D>(env, numNodes, x);
 }
 
-JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbIrregularMesh1D_setGeometryImpl(JNIEnv* env, jobject, jlong handle, jint numNodes, jfloatArray x) {
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbIrregularMesh1D_setGeometryImpl(JNIEnv* env, jobject,
+    jlong handle, jint numNodes, jfloatArray x) {
   PbIrregularMesh1D* mesh = tavrel::fromHandle<PbIrregularMesh1D>(handle);
   tavrel::withInputs(env, [mesh](auto... a) { mesh->setGeometry(a...); }, numNodes, x);
 }

@@ -1,4 +1,5 @@
-// com.kestrum.tavrel.data.PbQuadrangleCell: constructor functions of the quadrangle cell and its shape-function derivatives.
+// com.kestrum.tavrel.data.PbQuadrangleCell: constructor functions of the quadrangle cell and its shape-function
+// derivatives.
 
 #include <jni.h>
 

@@ -12,7 +12,8 @@ static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 extern "C" {
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl(JNIEnv* env, jclass, jboolean isDataDuplicated) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl(JNIEnv* env, jclass,
+    jboolean isDataDuplicated) {
   return tavrel::construct<PbQuadrangleMesh2D>(tavrel::toFlag(isDataDuplicated));
 }
 
@@ -20,20 +21,24 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl
   return tavrel::constructCopy<PbQuadrangleMesh2D>(other);
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl2(JNIEnv* env, jclass, jint numNodes, jfloatArray x, jfloatArray y, jint numCells, jintArray cellIndex, jboolean isDataDuplicated) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl2(JNIEnv* env, jclass, jint numNodes,
+    jfloatArray x, jfloatArray y, jint numCells, jintArray cellIndex, jboolean isDataDuplicated) {
   return tavrel::constructWith<PbQuadrangleMesh2D>(env, numNodes, x, y, numCells, cellIndex, isDataDuplicated);
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl3(JNIEnv* env, jclass, jint numNodes, jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellIndex, jboolean isDataDuplicated) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_ctorImpl3(JNIEnv* env, jclass, jint numNodes,
+    jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellIndex, jboolean isDataDuplicated) {
   return tavrel::constructWith<PbQuadrangleMesh2D>(env, numNodes, x, y, z, numCells, cellIndex, isDataDuplicated);
 }
 
-JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_setGeometryImpl(JNIEnv* env, jobject, jlong handle, jint numNodes, jfloatArray x, jfloatArray y, jint numCells, jintArray cellIndex) {
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_setGeometryImpl(JNIEnv* env, jobject,
+    jlong handle, jint numNodes, jfloatArray x, jfloatArray y, jint numCells, jintArray cellIndex) {
   PbQuadrangleMesh2D* mesh = tavrel::fromHandle<PbQuadrangleMesh2D>(handle);
   tavrel::withInputs(env, [mesh](auto... a) { mesh->setGeometry(a...); }, numNodes, x, y, numCells, cellIndex);
 }
 
-JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_setGeometryImpl1(JNIEnv* env, jobject, jlong handle, jint numNodes, jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellIndex) {
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbQuadrangleMesh2D_setGeometryImpl1(JNIEnv* env, jobject,
+    jlong handle, jint numNodes, jfloatArray x, jfloatArray y, jfloatArray z, jint numCells, jintArray cellIndex) {
   PbQuadrangleMesh2D* mesh = tavrel::fromHandle<PbQuadrangleMesh2D>(handle);
   tavrel::withInputs(env, [mesh](auto... a) { mesh->setGeometry(a...); }, numNodes, x, y, z, numCells, cellIndex);
 }

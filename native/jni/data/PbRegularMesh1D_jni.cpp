@@ -20,11 +20,13 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbRegularMesh1D_ctorImpl1(J
   return tavrel::constructCopy<PbRegularMesh1D>(other);
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbRegularMesh1D_ctorImpl2(JNIEnv* env, jclass, jint numNodes, jfloat xmin, jfloat xmax) {
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_data_PbRegularMesh1D_ctorImpl2(JNIEnv* env, jclass, jint numNodes,
+    jfloat xmin, jfloat xmax) {
   return tavrel::constructWith<PbRegularMesh1D>(env, numNodes, xmin, xmax);
 }
 
-JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbRegularMesh1D_setGeometryImpl(JNIEnv* env, jobject, jlong handle, jint numNodes, jfloat xmin, jfloat xmax) {
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbRegularMesh1D_setGeometryImpl(JNIEnv* env, jobject, jlong handle,
+    jint numNodes, jfloat xmin, jfloat xmax) {
   PbRegularMesh1D* mesh = tavrel::fromHandle<PbRegularMesh1D>(handle);
   tavrel::withInputs(env, [mesh](auto... a) { mesh->setGeometry(a...); }, numNodes, xmin, xmax);
 }

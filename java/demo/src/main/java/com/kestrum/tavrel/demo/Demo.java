@@ -19,7 +19,8 @@ public final class Demo {
 
     public static void main(String[] args) {
         List<Section> sections = List.of(
-                new StartupSection());
+                new StartupSection(),
+                new MeshSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");

@@ -38,14 +38,9 @@ public class PbCartesianGrid2D extends PbGrid2D {
     }
 
     private static long create(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
-        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
-        Checks.length(x, n, "x");
-        Checks.length(y, n, "y");
-        if (z == null) {
-            return ctorImpl2(numX, numY, x, y, isDataDuplicated);
-        }
-        Checks.length(z, n, "z");
-        return ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
+        checkArrays(numX, numY, x, y, z, false);
+        return z == null ? ctorImpl2(numX, numY, x, y, isDataDuplicated)
+                : ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

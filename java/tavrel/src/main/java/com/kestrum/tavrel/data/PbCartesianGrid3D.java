@@ -33,10 +33,7 @@ public class PbCartesianGrid3D extends PbGrid3D {
 
     private static long create(int numX, int numY, int numZ, float[] x, float[] y, float[] z,
             boolean isDataDuplicated) {
-        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"), Checks.count(numZ, "numZ"));
-        Checks.length(x, n, "x");
-        Checks.length(y, n, "y");
-        Checks.length(z, n, "z");
+        checkArrays(numX, numY, numZ, x, y, z, false);
         return ctorImpl2(numX, numY, numZ, x, y, z, isDataDuplicated);
     }
 

@@ -48,6 +48,11 @@ public class PbCell extends NativeObject {
         return h;
     }
 
+    /** The components of parametric coordinates (a new array). */
+    static float[] coordinates(SbVec3f pcoord) {
+        return Checks.notNull(pcoord, "pcoord").getValue();
+    }
+
     public int getNumFacets() {
         return getNumFacetsImpl(cellHandle());
     }

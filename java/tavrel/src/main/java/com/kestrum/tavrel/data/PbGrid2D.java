@@ -12,8 +12,16 @@ public abstract class PbGrid2D extends PbMesh2D {
         JarInitializer.init();
     }
 
+    /** Whether x and y hold one value per column and per row rather than one per node. */
+    private final boolean perAxis;
+
     protected PbGrid2D(long handle) {
+        this(handle, false);
+    }
+
+    PbGrid2D(long handle, boolean perAxis) {
         super(handle);
+        this.perAxis = perAxis;
     }
 
     /** The node counts {numX, numY}. */
@@ -56,7 +64,7 @@ public abstract class PbGrid2D extends PbMesh2D {
     /** Replaces the geometry; x and y are read as each grid keeps them (see the class). */
     public void setGeometry(int numX, int numY, float[] x, float[] y) {
         long h = handle();
-        checkGeometry(numX, numY, x, y);
+        checkArrays(numX, numY, x, y, null, perAxis);
         setGeometryImpl(h, numX, numY, x, y);
         geometryChanged();
     }
@@ -64,26 +72,20 @@ public abstract class PbGrid2D extends PbMesh2D {
     /** Replaces the geometry, with one elevation per node in z. */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         long h = handle();
-        checkGeometry(numX, numY, x, y);
-        Checks.length(z, Checks.product(numX, numY), "z");
+        checkArrays(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);
         setGeometryImpl1(h, numX, numY, x, y, z);
         geometryChanged();
     }
 
-    private void checkGeometry(int numX, int numY, float[] x, float[] y) {
-        Checks.count(numX, "numX");
-        Checks.count(numY, "numY");
-        Checks.length(x, xLength(numX, numY), "x");
-        Checks.length(y, yLength(numX, numY), "y");
-    }
-
-    /** Number of x values the grid reads for numX x numY nodes (one per node by default). */
-    int xLength(int numX, int numY) {
-        return Checks.product(numX, numY);
-    }
-
-    int yLength(int numX, int numY) {
-        return Checks.product(numX, numY);
+    /**
+     * Checks the arrays of a numX x numY grid: x and y with one value per node, or per column and
+     * per row (perAxis); z, when not null, one per node.
+     */
+    static void checkArrays(int numX, int numY, float[] x, float[] y, float[] z, boolean perAxis) {
+        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
+        Checks.length(x, perAxis ? numX : n, "x");
+        Checks.length(y, perAxis ? numY : n, "y");
+        Checks.optional(z, n, "z");
     }
 
     private native void getNodeCoordImpl(long handle, int i, int j, float[] out);

@@ -12,8 +12,16 @@ public abstract class PbGrid3D extends PbMesh3D {
         JarInitializer.init();
     }
 
+    /** Whether x, y and z hold one value per index along their axis rather than one per node. */
+    private final boolean perAxis;
+
     protected PbGrid3D(long handle) {
+        this(handle, false);
+    }
+
+    PbGrid3D(long handle, boolean perAxis) {
         super(handle);
+        this.perAxis = perAxis;
     }
 
     /** The node counts {numX, numY, numZ}. */
@@ -53,21 +61,17 @@ public abstract class PbGrid3D extends PbMesh3D {
     /** Replaces the geometry; x, y and z are read as each grid keeps them (see the class). */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
         long h = handle();
-        Checks.count(numX, "numX");
-        Checks.count(numY, "numY");
-        Checks.count(numZ, "numZ");
-        int[] lengths = lengths(numX, numY, numZ);
-        Checks.length(x, lengths[0], "x");
-        Checks.length(y, lengths[1], "y");
-        Checks.length(z, lengths[2], "z");
+        checkArrays(numX, numY, numZ, x, y, z, perAxis);
         setGeometryImpl(h, numX, numY, numZ, x, y, z);
         geometryChanged();
     }
 
-    /** Numbers of x, y and z values the grid reads (one per node by default). */
-    int[] lengths(int numX, int numY, int numZ) {
-        int n = Checks.product(numX, numY, numZ);
-        return new int[] {n, n, n};
+    /** Checks the arrays of a grid: one value per node, or per index along each axis (perAxis). */
+    static void checkArrays(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean perAxis) {
+        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"), Checks.count(numZ, "numZ"));
+        Checks.length(x, perAxis ? numX : n, "x");
+        Checks.length(y, perAxis ? numY : n, "y");
+        Checks.length(z, perAxis ? numZ : n, "z");
     }
 
     private native void getNodeCoordImpl(long handle, int i, int j, int k, float[] out);

@@ -11,7 +11,8 @@ public class PbHexahedronMesh3D extends PbIndexedMesh3D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
+            flag says. */
     public PbHexahedronMesh3D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
@@ -29,20 +30,16 @@ public class PbHexahedronMesh3D extends PbIndexedMesh3D {
     /** A mesh of numNodes nodes and hexahedra given by 8 node indices each. */
     public PbHexahedronMesh3D(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(check(numNodes, x, y, z, numHexahedra, hexahedraNodes), x, y, z, numHexahedra, hexahedraNodes,
-                isDataDuplicated));
+        super(ctorImpl2(checkFixed(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
+                numHexahedra, hexahedraNodes, isDataDuplicated));
     }
 
     /** Replaces the geometry. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes) {
         long h = handle();
-        setGeometryImpl(h, check(numNodes, x, y, z, numHexahedra, hexahedraNodes), x, y, z, numHexahedra, hexahedraNodes);
+        setGeometryImpl(h, checkFixed(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
+                numHexahedra, hexahedraNodes);
         geometryChanged();
-    }
-
-    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellNodes) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, 8, cellNodes, "hexahedraNodes");
-        return numNodes;
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

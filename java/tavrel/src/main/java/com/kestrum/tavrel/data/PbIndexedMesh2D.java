@@ -61,6 +61,13 @@ public class PbIndexedMesh2D extends PbMesh2D {
         geometryChanged();
     }
 
+    /** Checks a mesh whose cells all have perCell nodes, listed in cellNodes; returns numNodes. */
+    static int checkFixed(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell, int[] cellNodes,
+            String name) {
+        Checks.cells(nodes(numNodes, x, y, z), numCells, perCell, cellNodes, name);
+        return numNodes;
+    }
+
     /** Checks the nodes (z may be null); returns numNodes. */
     static int nodes(int numNodes, float[] x, float[] y, float[] z) {
         Checks.count(numNodes, "numNodes");

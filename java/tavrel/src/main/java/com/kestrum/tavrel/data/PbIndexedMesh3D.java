@@ -47,6 +47,13 @@ public class PbIndexedMesh3D extends PbMesh3D {
         geometryChanged();
     }
 
+    /** Checks a mesh whose cells all have perCell nodes, listed in cellNodes; returns numNodes. */
+    static int checkFixed(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell, int[] cellNodes,
+            String name) {
+        Checks.cells(nodes(numNodes, x, y, z), numCells, perCell, cellNodes, name);
+        return numNodes;
+    }
+
     /** Checks the nodes; returns numNodes. */
     static int nodes(int numNodes, float[] x, float[] y, float[] z) {
         Checks.count(numNodes, "numNodes");

@@ -14,37 +14,28 @@ public class PbParalCartesianGrid3D extends PbGrid3D {
 
     /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
     public PbParalCartesianGrid3D(boolean isDataDuplicated) {
-        super(ctorImpl(isDataDuplicated));
+        super(ctorImpl(isDataDuplicated), true);
     }
 
     /** A copy of another mesh: geometry and data sets. */
     public PbParalCartesianGrid3D(PbParalCartesianGrid3D other) {
-        super(ctorImpl1(handleOf(other, "other")));
+        super(ctorImpl1(handleOf(other, "other")), true);
     }
 
     /** A view of a native mesh, for subclasses. */
     protected PbParalCartesianGrid3D(long handle) {
-        super(handle);
+        super(handle, true);
     }
 
     /** A grid of numX x numY x numZ nodes, x of numX values, y of numY, z of numZ. */
     public PbParalCartesianGrid3D(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
-        super(create(numX, numY, numZ, x, y, z, isDataDuplicated));
+        super(create(numX, numY, numZ, x, y, z, isDataDuplicated), true);
     }
 
     private static long create(int numX, int numY, int numZ, float[] x, float[] y, float[] z,
             boolean isDataDuplicated) {
-        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"), Checks.count(numZ, "numZ"));
-        Checks.length(x, numX, "x");
-        Checks.length(y, numY, "y");
-        Checks.length(z, numZ, "z");
+        checkArrays(numX, numY, numZ, x, y, z, true);
         return ctorImpl2(numX, numY, numZ, x, y, z, isDataDuplicated);
-    }
-
-    @Override
-    int[] lengths(int numX, int numY, int numZ) {
-        Checks.product(numX, numY, numZ);
-        return new int[] {numX, numY, numZ};
     }
 
     @Override

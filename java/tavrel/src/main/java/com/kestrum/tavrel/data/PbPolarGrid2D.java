@@ -13,48 +13,33 @@ public class PbPolarGrid2D extends PbGrid2D {
 
     /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
     public PbPolarGrid2D(boolean isDataDuplicated) {
-        super(ctorImpl(isDataDuplicated));
+        super(ctorImpl(isDataDuplicated), true);
     }
 
     /** A copy of another mesh: geometry and data sets. */
     public PbPolarGrid2D(PbPolarGrid2D other) {
-        super(ctorImpl1(handleOf(other, "other")));
+        super(ctorImpl1(handleOf(other, "other")), true);
     }
 
     /** A view of a native mesh, for subclasses. */
     protected PbPolarGrid2D(long handle) {
-        super(handle);
+        super(handle, true);
     }
 
     /** A grid of numX x numY nodes, x of numX values, y of numY values. */
     public PbPolarGrid2D(int numX, int numY, float[] x, float[] y, boolean isDataDuplicated) {
-        super(create(numX, numY, x, y, null, isDataDuplicated));
+        super(create(numX, numY, x, y, null, isDataDuplicated), true);
     }
 
     /** As above, with one elevation per node in z. */
     public PbPolarGrid2D(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
-        super(create(numX, numY, x, y, Checks.notNull(z, "z"), isDataDuplicated));
+        super(create(numX, numY, x, y, Checks.notNull(z, "z"), isDataDuplicated), true);
     }
 
     private static long create(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
-        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
-        Checks.length(x, numX, "x");
-        Checks.length(y, numY, "y");
-        if (z == null) {
-            return ctorImpl2(numX, numY, x, y, isDataDuplicated);
-        }
-        Checks.length(z, n, "z");
-        return ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
-    }
-
-    @Override
-    int xLength(int numX, int numY) {
-        return numX;
-    }
-
-    @Override
-    int yLength(int numX, int numY) {
-        return numY;
+        checkArrays(numX, numY, x, y, z, true);
+        return z == null ? ctorImpl2(numX, numY, x, y, isDataDuplicated)
+                : ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -27,9 +27,7 @@ public class PbQuadrangleCell extends PbCell {
      * 4 by v, then 4 by w, into derivs[0..11].
      */
     public void getDerivs(SbVec3f pcoord, float[] derivs) {
-        long h = cellHandle();
-        float[] p = Checks.notNull(pcoord, "pcoord").getValue();
-        getDerivsImpl(h, p, Checks.length(derivs, DERIVS_LENGTH, "derivs"));
+        getDerivsImpl(cellHandle(), coordinates(pcoord), Checks.length(derivs, DERIVS_LENGTH, "derivs"));
     }
 
     private native void getDerivsImpl(long handle, float[] pcoord, float[] derivs);

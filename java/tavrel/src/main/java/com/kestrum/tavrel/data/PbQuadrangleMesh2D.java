@@ -10,7 +10,8 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
+            flag says. */
     public PbQuadrangleMesh2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
@@ -28,22 +29,22 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
     /** A mesh of numNodes nodes and quadrangles given by 4 node indices each. */
     public PbQuadrangleMesh2D(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(check(numNodes, x, y, null, numQuadrangles, quadrangleNodes), x, y, numQuadrangles,
-                quadrangleNodes, isDataDuplicated));
+        super(ctorImpl2(checkFixed(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x, y,
+                numQuadrangles, quadrangleNodes, isDataDuplicated));
     }
 
     /** As above, with one elevation per node in z. */
     public PbQuadrangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl3(check(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, quadrangleNodes), x, y, z,
-                numQuadrangles, quadrangleNodes, isDataDuplicated));
+        super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
+                "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes, isDataDuplicated));
     }
 
     /** Replaces the geometry. */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
         long h = handle();
-        setGeometryImpl(h, check(numNodes, x, y, null, numQuadrangles, quadrangleNodes), x, y,
-                numQuadrangles, quadrangleNodes);
+        setGeometryImpl(h, checkFixed(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x,
+                y, numQuadrangles, quadrangleNodes);
         geometryChanged();
     }
 
@@ -51,14 +52,9 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles,
             int[] quadrangleNodes) {
         long h = handle();
-        setGeometryImpl1(h, check(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles,
-                quadrangleNodes), x, y, z, numQuadrangles, quadrangleNodes);
+        setGeometryImpl1(h, checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
+                "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes);
         geometryChanged();
-    }
-
-    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellNodes) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, 4, cellNodes, "quadrangleNodes");
-        return numNodes;
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -14,35 +14,35 @@ public class PbRegularCartesianGrid2D extends PbGrid2D {
 
     /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
     public PbRegularCartesianGrid2D(boolean isDataDuplicated) {
-        super(ctorImpl(isDataDuplicated));
+        super(ctorImpl(isDataDuplicated), true);
     }
 
     /** A copy of another mesh: geometry and data sets. */
     public PbRegularCartesianGrid2D(PbRegularCartesianGrid2D other) {
-        super(ctorImpl1(handleOf(other, "other")));
+        super(ctorImpl1(handleOf(other, "other")), true);
     }
 
     /** A view of a native mesh, for subclasses. */
     protected PbRegularCartesianGrid2D(long handle) {
-        super(handle);
+        super(handle, true);
     }
 
     /** numX x numY nodes evenly spread over [xmin, xmax] x [ymin, ymax]. */
     public PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax,
             boolean isDataDuplicated) {
-        super(ctorImpl2(counts(numX, numY, null), numY, xmin, ymin, xmax, ymax, isDataDuplicated));
+        super(ctorImpl2(counts(numX, numY, null), numY, xmin, ymin, xmax, ymax, isDataDuplicated), true);
     }
 
     /** As above, with one elevation per node in z. */
     public PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z,
             boolean isDataDuplicated) {
         super(ctorImpl3(counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax, ymax, z,
-                isDataDuplicated));
+                isDataDuplicated), true);
     }
 
     /** A grid over the extent of another one, with new node counts. */
     public PbRegularCartesianGrid2D(int numX, int numY, PbRegularCartesianGrid2D grid) {
-        super(ctorImpl4(counts(numX, numY, null), numY, handleOf(grid, "grid")));
+        super(ctorImpl4(counts(numX, numY, null), numY, handleOf(grid, "grid")), true);
     }
 
     /** Replaces the geometry: numX x numY nodes over [xmin, xmax] x [ymin, ymax]. */
@@ -62,20 +62,8 @@ public class PbRegularCartesianGrid2D extends PbGrid2D {
     /** Checks the counts (and the elevations when given); returns numX. */
     private static int counts(int numX, int numY, float[] z) {
         int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
-        if (z != null) {
-            Checks.length(z, n, "z");
-        }
+        Checks.optional(z, n, "z");
         return numX;
-    }
-
-    @Override
-    int xLength(int numX, int numY) {
-        return numX;
-    }
-
-    @Override
-    int yLength(int numX, int numY) {
-        return numY;
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -14,23 +14,23 @@ public class PbRegularCartesianGrid3D extends PbGrid3D {
 
     /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
     public PbRegularCartesianGrid3D(boolean isDataDuplicated) {
-        super(ctorImpl(isDataDuplicated));
+        super(ctorImpl(isDataDuplicated), true);
     }
 
     /** A copy of another mesh: geometry and data sets. */
     public PbRegularCartesianGrid3D(PbRegularCartesianGrid3D other) {
-        super(ctorImpl1(handleOf(other, "other")));
+        super(ctorImpl1(handleOf(other, "other")), true);
     }
 
     /** A view of a native mesh, for subclasses. */
     protected PbRegularCartesianGrid3D(long handle) {
-        super(handle);
+        super(handle, true);
     }
 
     /** numX x numY x numZ nodes evenly spread over a box. */
     public PbRegularCartesianGrid3D(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax,
             float ymax, float zmax, boolean isDataDuplicated) {
-        super(ctorImpl2(counts(numX, numY, numZ), numY, numZ, xmin, ymin, zmin, xmax, ymax, zmax, isDataDuplicated));
+        super(ctorImpl2(counts(numX, numY, numZ), numY, numZ, xmin, ymin, zmin, xmax, ymax, zmax, isDataDuplicated), true);
     }
 
     /** Replaces the geometry: numX x numY x numZ nodes over the box. */
@@ -45,12 +45,6 @@ public class PbRegularCartesianGrid3D extends PbGrid3D {
     private static int counts(int numX, int numY, int numZ) {
         Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"), Checks.count(numZ, "numZ"));
         return numX;
-    }
-
-    @Override
-    int[] lengths(int numX, int numY, int numZ) {
-        counts(numX, numY, numZ);
-        return new int[] {numX, numY, numZ};
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -10,7 +10,8 @@ public class PbTetrahedronMesh3D extends PbIndexedMesh3D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
+            flag says. */
     public PbTetrahedronMesh3D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
@@ -28,20 +29,16 @@ public class PbTetrahedronMesh3D extends PbIndexedMesh3D {
     /** A mesh of numNodes nodes and tetrahedra given by 4 node indices each. */
     public PbTetrahedronMesh3D(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedraNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(check(numNodes, x, y, z, numTetrahedra, tetrahedraNodes), x, y, z, numTetrahedra, tetrahedraNodes,
-                isDataDuplicated));
+        super(ctorImpl2(checkFixed(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y, z,
+                numTetrahedra, tetrahedraNodes, isDataDuplicated));
     }
 
     /** Replaces the geometry. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedraNodes) {
         long h = handle();
-        setGeometryImpl(h, check(numNodes, x, y, z, numTetrahedra, tetrahedraNodes), x, y, z, numTetrahedra, tetrahedraNodes);
+        setGeometryImpl(h, checkFixed(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y,
+                z, numTetrahedra, tetrahedraNodes);
         geometryChanged();
-    }
-
-    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellNodes) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, 4, cellNodes, "tetrahedraNodes");
-        return numNodes;
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

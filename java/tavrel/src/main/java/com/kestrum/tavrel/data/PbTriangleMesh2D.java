@@ -10,7 +10,8 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
+            flag says. */
     public PbTriangleMesh2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
@@ -28,21 +29,21 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
     /** A mesh of numNodes nodes and triangles given by 3 node indices each. */
     public PbTriangleMesh2D(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(check(numNodes, x, y, null, numTriangles, triangleNodes), x, y, numTriangles,
-                triangleNodes, isDataDuplicated));
+        super(ctorImpl2(checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
+                numTriangles, triangleNodes, isDataDuplicated));
     }
 
     /** As above, with one elevation per node in z. */
     public PbTriangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl3(check(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, triangleNodes), x, y, z,
-                numTriangles, triangleNodes, isDataDuplicated));
+        super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+                "triangleNodes"), x, y, z, numTriangles, triangleNodes, isDataDuplicated));
     }
 
     /** Replaces the geometry. */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
         long h = handle();
-        setGeometryImpl(h, check(numNodes, x, y, null, numTriangles, triangleNodes), x, y,
+        setGeometryImpl(h, checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
                 numTriangles, triangleNodes);
         geometryChanged();
     }
@@ -51,14 +52,9 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles,
             int[] triangleNodes) {
         long h = handle();
-        setGeometryImpl2(h, check(numNodes, x, y, Checks.notNull(z, "z"), numTriangles,
-                triangleNodes), x, y, z, numTriangles, triangleNodes);
+        setGeometryImpl2(h, checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+                "triangleNodes"), x, y, z, numTriangles, triangleNodes);
         geometryChanged();
-    }
-
-    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellNodes) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, 3, cellNodes, "triangleNodes");
-        return numNodes;
     }
 
     /**

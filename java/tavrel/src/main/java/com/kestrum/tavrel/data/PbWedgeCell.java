@@ -27,9 +27,7 @@ public class PbWedgeCell extends PbCell {
      * 6 by v, then 6 by w, into derivs[0..17].
      */
     public void getDerivs(SbVec3f pcoord, float[] derivs) {
-        long h = cellHandle();
-        float[] p = Checks.notNull(pcoord, "pcoord").getValue();
-        getDerivsImpl(h, p, Checks.length(derivs, DERIVS_LENGTH, "derivs"));
+        getDerivsImpl(cellHandle(), coordinates(pcoord), Checks.length(derivs, DERIVS_LENGTH, "derivs"));
     }
 
     private native void getDerivsImpl(long handle, float[] pcoord, float[] derivs);
