@@ -12,6 +12,7 @@
 // toolkit does not reorder nodes for it.
 #pragma once
 
+#include <Tavrel/PbIndexedNodes.h>
 #include <Tavrel/PbMesh2D.h>
 
 class PbIndexedMesh2D : public PbMesh2D {
@@ -44,11 +45,7 @@ class PbIndexedMesh2D : public PbMesh2D {
   explicit PbIndexedMesh2D(Quiet, int isDataDuplicated) : PbMesh2D(isDataDuplicated) {}
   PbIndexedMesh2D(const PbIndexedMesh2D& other, Quiet)
       : PbMesh2D(other),
-        xs(other.xs),
-        ys(other.ys),
-        zs(other.zs),
-        starts(other.starts),
-        nodeList(other.nodeList),
+        geometry(other.geometry),
         orientation(other.orientation) {}
   friend class PbMesh2D;
   SbVec3f nodeCoord(int nodeIndex) const override;
@@ -57,8 +54,6 @@ class PbIndexedMesh2D : public PbMesh2D {
               int fixed, const int* cellIndex);
 
  private:
-  std::vector<float> xs, ys, zs;
-  std::vector<int> starts;  // numCells + 1 offsets into nodeList
-  std::vector<int> nodeList;
+  PbIndexedNodes geometry;
   ElemOrientation orientation = ORIENTATION_AS_IS;
 };

@@ -10,6 +10,7 @@
 // (numNodes each); setCoordinates replaces each non-null array.
 #pragma once
 
+#include <Tavrel/PbIndexedNodes.h>
 #include <Tavrel/PbMesh3D.h>
 
 class PbIndexedMesh3D : public PbMesh3D {
@@ -32,13 +33,11 @@ class PbIndexedMesh3D : public PbMesh3D {
   struct Quiet {};
   explicit PbIndexedMesh3D(Quiet, int isDataDuplicated) : PbMesh3D(isDataDuplicated) {}
   PbIndexedMesh3D(const PbIndexedMesh3D& other, Quiet)
-      : PbMesh3D(other), xs(other.xs), ys(other.ys), zs(other.zs), starts(other.starts), nodeList(other.nodeList) {}
+      : PbMesh3D(other), geometry(other.geometry) {}
   SbVec3f nodeCoord(int nodeIndex) const override;
   void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
               int fixed, const int* cellIndex);
 
  private:
-  std::vector<float> xs, ys, zs;
-  std::vector<int> starts;
-  std::vector<int> nodeList;
+  PbIndexedNodes geometry;
 };

@@ -11,32 +11,8 @@
 #include "MeshSupport.h"
 
 namespace {
-// Number of entries of the node list: the sum of the cell types, or
-// numCells * fixed when every cell has the same number of nodes.
 long listLength(int numCells, const int* cellTypes, int fixed) {
-  if (numCells <= 0) return 0;
-  if (cellTypes == nullptr) return static_cast<long>(numCells) * fixed;
-  long sum = 0;
-  for (int c = 0; c < numCells; ++c) sum += cellTypes[c];
-  return sum;
-}
-
-// Fills the offsets of each cell's nodes and copies the node list.
-void buildCells(int numCells, const int* cellTypes, int fixed, const int* cellIndex, std::vector<int>& starts,
-                std::vector<int>& nodeList) {
-  numCells = std::max(numCells, 0);
-  starts.assign(1, 0);
-  for (int c = 0; c < numCells; ++c) starts.push_back(starts.back() + (cellTypes ? cellTypes[c] : fixed));
-  if (cellIndex == nullptr)
-    nodeList.assign(starts.back(), 0);
-  else
-    nodeList.assign(cellIndex, cellIndex + starts.back());
-}
-
-void nodesOf(int cellIndex, const std::vector<int>& starts, const std::vector<int>& nodeList, std::vector<int>& nodes) {
-  nodes.clear();
-  if (cellIndex < 0 || cellIndex + 1 >= static_cast<int>(starts.size())) return;
-  nodes.assign(nodeList.begin() + starts[cellIndex], nodeList.begin() + starts[cellIndex + 1]);
+  return PbIndexedNodes::listLength(numCells, cellTypes, fixed);
 }
 
 // The triangles of a fan around node 0.
@@ -46,6 +22,51 @@ std::vector<int> fan(int numNodes) {
   return triangles;
 }
 }  // namespace
+
+// --- PbIndexedNodes -----------------------------------------------------------------
+
+long PbIndexedNodes::listLength(int numCells, const int* cellTypes, int fixed) {
+  if (numCells <= 0) return 0;
+  if (cellTypes == nullptr) return static_cast<long>(numCells) * fixed;
+  long sum = 0;
+  for (int c = 0; c < numCells; ++c) sum += cellTypes[c];
+  return sum;
+}
+
+void PbIndexedNodes::assign(int numNodes, const float* x, const float* y, const float* z, int numCells,
+                            const int* cellTypes, int fixed, const int* cellIndex) {
+  numNodes = std::max(numNodes, 0);
+  tk::copyInto(xs, x, numNodes);
+  tk::copyInto(ys, y, numNodes);
+  if (z == nullptr)
+    zs.clear();
+  else
+    tk::copyInto(zs, z, numNodes);
+  numCells = std::max(numCells, 0);
+  starts.assign(1, 0);
+  for (int c = 0; c < numCells; ++c) starts.push_back(starts.back() + (cellTypes ? cellTypes[c] : fixed));
+  if (cellIndex == nullptr)
+    nodeList.assign(starts.back(), 0);
+  else
+    nodeList.assign(cellIndex, cellIndex + starts.back());
+}
+
+void PbIndexedNodes::replace(const float* x, const float* y, const float* z) {
+  const long n = numNodes();
+  if (x != nullptr) tk::copyInto(xs, x, n);
+  if (y != nullptr) tk::copyInto(ys, y, n);
+  if (z != nullptr) tk::copyInto(zs, z, n);
+}
+
+void PbIndexedNodes::cellNodes(int cellIndex, std::vector<int>& nodes) const {
+  nodes.clear();
+  if (cellIndex < 0 || cellIndex >= numCells()) return;
+  nodes.assign(nodeList.begin() + starts[cellIndex], nodeList.begin() + starts[cellIndex + 1]);
+}
+
+void PbIndexedNodes::arrays(const float*& x, const float*& y, const float*& z) const {
+  x = xs.data(), y = ys.data(), z = zs.empty() ? nullptr : zs.data();
+}
 
 // --- PbIndexedMesh2D --------------------------------------------------------------
 
@@ -95,27 +116,21 @@ void PbIndexedMesh2D::setGeometry(int numNodes, const float* x, const float* y, 
 
 void PbIndexedMesh2D::assign(int numNodes, const float* x, const float* y, const float* z, int numCells,
                              const int* cellTypes, int fixed, const int* cellIndex) {
-  numNodes = std::max(numNodes, 0);
-  tk::copyInto(xs, x, numNodes);
-  tk::copyInto(ys, y, numNodes);
-  if (z == nullptr)
-    zs.clear();
-  else
-    tk::copyInto(zs, z, numNodes);
-  buildCells(numCells, cellTypes, fixed, cellIndex, starts, nodeList);
-  geometryChanged(numNodes, static_cast<int>(starts.size()) - 1);
+  geometry.assign(numNodes, x, y, z, numCells, cellTypes, fixed, cellIndex);
+  geometryChanged(geometry.numNodes(), geometry.numCells());
 }
 
 void PbIndexedMesh2D::getNodes(int& numNodes, const float*& x, const float*& y, const float*& z) const {
   CallJournal::record("PbIndexedMesh2D::getNodes");
-  numNodes = static_cast<int>(xs.size());
-  x = xs.data(), y = ys.data(), z = zs.empty() ? nullptr : zs.data();
+  numNodes = geometry.numNodes();
+  geometry.arrays(x, y, z);
 }
 
 void PbIndexedMesh2D::getNodes(int& numNodes, const float*& x, const float*& y) const {
   CallJournal::record("PbIndexedMesh2D::getNodes(2D)");
-  numNodes = static_cast<int>(xs.size());
-  x = xs.data(), y = ys.data();
+  numNodes = geometry.numNodes();
+  const float* z;
+  geometry.arrays(x, y, z);
 }
 
 void PbIndexedMesh2D::setElemOrientation(ElemOrientation o) {
@@ -124,27 +139,23 @@ void PbIndexedMesh2D::setElemOrientation(ElemOrientation o) {
 }
 
 void PbIndexedMesh2D::setCoordinates(const float* x, const float* y, const float* z) {
-  const long n = static_cast<long>(xs.size());
+  const long n = geometry.numNodes();
   CallJournal::record("PbIndexedMesh2D::setCoordinates", journalArray(x, n), journalArray(y, n), journalArray(z, n));
-  if (x != nullptr) tk::copyInto(xs, x, n);
-  if (y != nullptr) tk::copyInto(ys, y, n);
-  if (z != nullptr) tk::copyInto(zs, z, n);
-  geometryChanged(static_cast<int>(n), static_cast<int>(starts.size()) - 1);
+  geometry.replace(x, y, z);
+  geometryChanged(geometry.numNodes(), geometry.numCells());
 }
 
 void PbIndexedMesh2D::getCoordinates(const float*& x, const float*& y, const float*& z, int& nx, int& ny,
                                      int& nz) const {
   CallJournal::record("PbIndexedMesh2D::getCoordinates");
-  x = xs.data(), y = ys.data(), z = zs.empty() ? nullptr : zs.data();
-  nx = ny = static_cast<int>(xs.size());
+  geometry.arrays(x, y, z);
+  nx = ny = geometry.numNodes();
   nz = z == nullptr ? 0 : nx;
 }
 
-void PbIndexedMesh2D::cellNodes(int cellIndex, std::vector<int>& nodes) const {
-  nodesOf(cellIndex, starts, nodeList, nodes);
-}
+void PbIndexedMesh2D::cellNodes(int cellIndex, std::vector<int>& nodes) const { geometry.cellNodes(cellIndex, nodes); }
 
-SbVec3f PbIndexedMesh2D::nodeCoord(int n) const { return SbVec3f(xs[n], ys[n], zs.empty() ? 0.0f : zs[n]); }
+SbVec3f PbIndexedMesh2D::nodeCoord(int n) const { return geometry.node(n); }
 
 // --- PbTriangleMesh2D / PbQuadrangleMesh2D ------------------------------------------------
 
@@ -222,41 +233,34 @@ void PbIndexedMesh3D::setGeometry(int numNodes, const float* x, const float* y, 
 
 void PbIndexedMesh3D::assign(int numNodes, const float* x, const float* y, const float* z, int numCells,
                              const int* cellTypes, int fixed, const int* cellIndex) {
-  numNodes = std::max(numNodes, 0);
-  tk::copyInto(xs, x, numNodes);
-  tk::copyInto(ys, y, numNodes);
-  tk::copyInto(zs, z, numNodes);
-  buildCells(numCells, cellTypes, fixed, cellIndex, starts, nodeList);
-  geometryChanged(numNodes, static_cast<int>(starts.size()) - 1);
+  geometry.assign(numNodes, x, y, z != nullptr ? z : std::vector<float>(std::max(numNodes, 0)).data(), numCells,
+                  cellTypes, fixed, cellIndex);
+  geometryChanged(geometry.numNodes(), geometry.numCells());
 }
 
 void PbIndexedMesh3D::getNodes(int& numNodes, const float*& x, const float*& y, const float*& z) const {
   CallJournal::record("PbIndexedMesh3D::getNodes");
-  numNodes = static_cast<int>(xs.size());
-  x = xs.data(), y = ys.data(), z = zs.data();
+  numNodes = geometry.numNodes();
+  geometry.arrays(x, y, z);
 }
 
 void PbIndexedMesh3D::setCoordinates(const float* x, const float* y, const float* z) {
-  const long n = static_cast<long>(xs.size());
+  const long n = geometry.numNodes();
   CallJournal::record("PbIndexedMesh3D::setCoordinates", journalArray(x, n), journalArray(y, n), journalArray(z, n));
-  if (x != nullptr) tk::copyInto(xs, x, n);
-  if (y != nullptr) tk::copyInto(ys, y, n);
-  if (z != nullptr) tk::copyInto(zs, z, n);
-  geometryChanged(static_cast<int>(n), static_cast<int>(starts.size()) - 1);
+  geometry.replace(x, y, z);
+  geometryChanged(geometry.numNodes(), geometry.numCells());
 }
 
 void PbIndexedMesh3D::getCoordinates(const float*& x, const float*& y, const float*& z, int& nx, int& ny,
                                      int& nz) const {
   CallJournal::record("PbIndexedMesh3D::getCoordinates");
-  x = xs.data(), y = ys.data(), z = zs.data();
-  nx = ny = nz = static_cast<int>(xs.size());
+  geometry.arrays(x, y, z);
+  nx = ny = nz = geometry.numNodes();
 }
 
-void PbIndexedMesh3D::cellNodes(int cellIndex, std::vector<int>& nodes) const {
-  nodesOf(cellIndex, starts, nodeList, nodes);
-}
+void PbIndexedMesh3D::cellNodes(int cellIndex, std::vector<int>& nodes) const { geometry.cellNodes(cellIndex, nodes); }
 
-SbVec3f PbIndexedMesh3D::nodeCoord(int n) const { return SbVec3f(xs[n], ys[n], zs[n]); }
+SbVec3f PbIndexedMesh3D::nodeCoord(int n) const { return geometry.node(n); }
 
 // --- PbTetrahedronMesh3D / PbHexahedronMesh3D -------------------------------------------------
 
