@@ -1,8 +1,12 @@
 // The toolkit stand-in's meshes and cells, without the binding.
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include <Tavrel/PbCell.h>
+#include <Tavrel/PbDefinedValue.h>
 #include <Tavrel/PbIrregularMesh1D.h>
+#include <Tavrel/PbPolarGrid2D.h>
 #include <Tavrel/PbRegularCartesianGrid2D.h>
 #include <Tavrel/PbTetrahedronMesh3D.h>
 #include <Tavrel/PbTriangleMesh2D.h>
@@ -66,4 +70,60 @@ TEST(Cell, LocatesNodesAtTheirParametricCorners) {
   const float values[] = {0, 10, 20, 30};
   EXPECT_NEAR(cell->getValue(SbVec3f(0.25f, 0.25f, 0.25f), values), 15, 1e-5);
   EXPECT_FLOAT_EQ(cell->getVolume(), 2.0f);
+}
+
+namespace {
+// Says that negative values are undefined and stand for -1 in every set.
+class NonNegative : public PbDefinedValue {
+ public:
+  int operator()(float value, int, int) override { return value >= 0 ? 1 : 0; }
+  float getUndef(int) override { return -1.0f; }
+};
+}  // namespace
+
+TEST(Mesh, TheFaultMeshAsksTheFunctorAboutEveryPerNodeValue) {
+  const float x[] = {0, 1, 1, 0}, y[] = {0, 0, 1, 1};
+  const int triangles[] = {0, 1, 2, 0, 2, 3};
+  PbTriangleMesh2D mesh(4, x, y, 2, triangles, 1);
+  const float values[] = {1, -5, 2, -0.5f};
+  mesh.addValuesSet(7, values, SbString("h"));
+  const float perCell[] = {3, 4};
+  mesh.addValuesSet(8, perCell, PbMesh::PER_CELL, SbString("c"));
+  NonNegative defined;
+  const int line[] = {0, 2};
+  std::unique_ptr<PbMesh2D> fault(mesh.getFaultMesh(2, line, nullptr, PbMesh2D::USE_ADJACENT_VALUES, defined));
+  ASSERT_EQ(fault->getNumCells(), 2);
+  const float* copied = fault->getValuesSet(7);
+  ASSERT_NE(copied, nullptr);
+  EXPECT_EQ(copied[0], 1.0f);
+  EXPECT_EQ(copied[1], -1.0f);
+  EXPECT_EQ(copied[3], -1.0f);
+  EXPECT_EQ(fault->getValuesSet(8), nullptr) << "only per-node sets are copied";
+}
+
+TEST(Mesh, DataSetsAreResizedWhenTheNodeCountChanges) {
+  const float x[] = {0, 1, 2};
+  PbIrregularMesh1D mesh(3, x);
+  const SbVec3f v[] = {SbVec3f(1, 0, 0), SbVec3f(0, 1, 0), SbVec3f(0, 0, 1)};
+  mesh.addVecsSet(0, v, SbString("v"));
+  mesh.setGeometry(2, x);
+  float longest = 0;
+  ASSERT_EQ(mesh.getMaxVecsSet(0, longest), 1);
+  EXPECT_EQ(longest, 1.0f);
+  EXPECT_EQ(mesh.getNumCells(), 1);
+  const float moved[] = {5, 6};
+  mesh.setCoordinates(moved, nullptr, nullptr);
+  EXPECT_EQ(mesh.getBoundingBox().getMin()[0], 5.0f);
+}
+
+TEST(Mesh, PolarCellsAreQuadranglesOfTheAnnulus) {
+  const float radii[] = {1, 2}, angles[] = {0, 90};
+  PbPolarGrid2D grid(2, 2, radii, angles, 1);
+  const PbCell* cell = grid.getCell(0);
+  ASSERT_NE(cell, nullptr);
+  EXPECT_EQ(cell->getNumNodes(), 4);
+  // The quadrangle (1,0) (0,1) (0,2) (2,0) has area 2 - 0.5.
+  EXPECT_FLOAT_EQ(cell->getArea(), 1.5f);
+  SbVec3f pcoord;
+  EXPECT_EQ(grid.findContainingCell(SbVec3f(1, 1, 0), 0, pcoord), cell);
 }

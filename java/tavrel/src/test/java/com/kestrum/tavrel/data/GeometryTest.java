@@ -276,4 +276,33 @@ class GeometryTest {
         assertEquals(4, view.getNumNodes());
         assertEquals(pointer(handle(cell)), pointer(handle(view)));
     }
+
+    @Test
+    void directBuffersHaveTheExactCapacities() {
+        PbParalCartesianGrid2D grid = new PbParalCartesianGrid2D(3, 2, new float[] {0, 1, 5}, new float[] {-1, 1},
+                true);
+        Object[][] outs = {{null}, {null}, {"z"}};
+        call(grid, "getCoordinatesImpl", handle(grid), outs[0], outs[1], outs[2]);
+        assertEquals(12, ((ByteBuffer) outs[0][0]).capacity());
+        assertEquals(8, ((ByteBuffer) outs[1][0]).capacity());
+        assertNull(outs[2][0]);
+        grid.addVecsSet(0, new SbVec3f[] {new SbVec3f(), new SbVec3f(), new SbVec3f(), new SbVec3f(),
+            new SbVec3f(), new SbVec3f()}, "v");
+        assertEquals(72, ((ByteBuffer) call(grid, "getDirectVecsSetImpl", handle(grid), 0)).capacity());
+    }
+
+    /** The binding core's wrappers (used by native code) give the peers too. */
+    @Test
+    void theBindingCoreFindsMeshPeersAndCellViews() throws Exception {
+        PbTriangleMesh2D mesh = new PbTriangleMesh2D(3, new float[] {0, 1, 0}, new float[] {0, 0, 1}, 1,
+                new int[] {0, 1, 2}, true);
+        java.lang.reflect.Method managed = com.kestrum.corvel.misc.ManagedObjects.class
+                .getDeclaredMethod("getManagedObject", String.class, long.class);
+        managed.setAccessible(true);
+        assertSame(mesh, managed.invoke(null, "com.kestrum.tavrel.data.PbMesh2D", handle(mesh)));
+        PbCell cell = (PbCell) managed.invoke(null, "com.kestrum.tavrel.data.PbCell", handle(mesh.getCell(0)));
+        assertEquals(3, cell.getNumNodes());
+        PbTetrahedronMesh3D tetrahedra = new PbTetrahedronMesh3D(true);
+        assertSame(tetrahedra, managed.invoke(null, "com.kestrum.tavrel.data.PbMesh", handle(tetrahedra)));
+    }
 }
