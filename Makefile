@@ -8,7 +8,7 @@ BUILD_DIR   ?= native/build
 MVN         ?= mvn -B -f java/pom.xml
 NATIVE_LIBS := $(BUILD_DIR)/lib
 
-.PHONY: all native java demo test native-test java-test clean
+.PHONY: all native java demo test native-test java-test bench clean
 
 all: java
 
@@ -29,6 +29,13 @@ java-test: native
 	$(MVN) verify
 
 test: native-test java-test
+
+# JMH benchmarks (BENCHMARKS.md). BENCH_OPTS sets forks, iterations, ...: -Dbench.forks=1
+BENCH_OPTS ?=
+bench: native
+	$(MVN) -q -Pbench package -DskipTests
+	java $(BENCH_OPTS) -cp "java/benchmarks/target/tavrel-benchmarks.jar:java/benchmarks/target/lib/*" \
+		com.kestrum.tavrel.benchmarks.RunBenchmarks
 
 clean:
 	rm -rf $(BUILD_DIR)

@@ -20,6 +20,7 @@ public final class Demo {
     public static void main(String[] args) {
         List<Section> sections = List.of(
                 new StartupSection(),
+                new MeshSection(),
                 new RepresentationsSection(),
                 new CustomNodeSection());
         for (Section s : sections) {

@@ -1,10 +1,224 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.tavrel.internal.JarInitializer;
 
-/** One cell of a mesh. */
+/**
+ * One cell of a mesh: its nodes, measures, point location and interpolation in parametric
+ * coordinates.
+ *
+ * <p>A cell obtained from a mesh belongs to the mesh: it stops working ({@link
+ * IllegalStateException}) once the mesh's geometry has been changed through its Java object or
+ * that object has been disposed. A cell made by a subclass's constructor from a mesh alone is
+ * not attached to any cell of it: it has no nodes.
+ *
+ * <p>Interpolation reads per-node data of the whole mesh: the values or vectors arrays are
+ * indexed by the cell's node indices, so they must be longer than the largest of them.
+ */
 public class PbCell extends NativeObject {
-    protected PbCell(long handle) {
-        super(handle);
+    static {
+        JarInitializer.init();
     }
+
+    private final PbMesh owner;
+    private final int generation;
+    private int[] nodeIndices;
+
+    /** A view of a cell owned by a mesh (owner null: the mesh is not known). */
+    PbCell(long handle, PbMesh owner) {
+        super(handle);
+        this.owner = owner;
+        this.generation = owner == null ? 0 : owner.generation;
+    }
+
+    /** A cell made by a subclass's constructor, registered as the peer of its native cell. */
+    protected PbCell(long handle) {
+        this(handle, null);
+        ManagedObjects.registerPeer(handle, this);
+    }
+
+    /** The native handle of a cell that is still valid. */
+    final long cellHandle() {
+        long h = handle();
+        if (owner != null && (owner.isDisposed() || owner.generation != generation)) {
+            throw new IllegalStateException("the cell's mesh has changed since the cell was obtained");
+        }
+        return h;
+    }
+
+    /** The components of parametric coordinates (a new array). */
+    static float[] coordinates(SbVec3f pcoord) {
+        return Checks.notNull(pcoord, "pcoord").getValue();
+    }
+
+    public int getNumFacets() {
+        return getNumFacetsImpl(cellHandle());
+    }
+
+    public int getNumEdges() {
+        return getNumEdgesImpl(cellHandle());
+    }
+
+    public int getNumNodes() {
+        return getNumNodesImpl(cellHandle());
+    }
+
+    /** The cell's index in its mesh (-1 for a cell that is not attached to one). */
+    public int getIndex() {
+        return getIndexImpl(cellHandle());
+    }
+
+    /** The mesh index of node i of the cell. */
+    public int getNodeIndex(int i) {
+        return nodeIndices()[Checks.index(i, nodeIndices().length, "node")];
+    }
+
+    public SbVec3f getNodeCoord(int i) {
+        long h = cellHandle();
+        Checks.index(i, nodeIndices().length, "node");
+        float[] out = new float[3];
+        getNodeCoordImpl(h, i, out);
+        return new SbVec3f(out);
+    }
+
+    public float getLongestEdgeLength() {
+        return getLongestEdgeLengthImpl(cellHandle());
+    }
+
+    public float getVolume() {
+        return getVolumeImpl(cellHandle());
+    }
+
+    public float getArea() {
+        return getAreaImpl(cellHandle());
+    }
+
+    /** The bounding box: xmin, ymin, zmin, xmax, ymax, zmax. */
+    public float[] getBoundingBox() {
+        float[] box = new float[6];
+        getBoundingBoxImpl(cellHandle(), box);
+        return box;
+    }
+
+    /** The bounds xmin, ymin, zmin, xmax, ymax, zmax (all 0 for a cell without nodes). */
+    public float[] getBounds() {
+        float[][] out = new float[6][1];
+        getBoundsImpl(cellHandle(), out[0], out[1], out[2], out[3], out[4], out[5]);
+        float[] bounds = new float[6];
+        for (int i = 0; i < 6; i++) {
+            bounds[i] = out[i][0];
+        }
+        return bounds;
+    }
+
+    public SbVec3f getCenter() {
+        float[] out = new float[3];
+        getCenterImpl(cellHandle(), out);
+        return new SbVec3f(out);
+    }
+
+    /**
+     * Finds the parametric coordinates of a point (into pcoord[0..2]); returns 1 when the point
+     * lies in the cell within the tolerance, 0 otherwise.
+     */
+    public int locatePoint(SbVec3f point, float tolerance, float[] pcoord) {
+        long h = cellHandle();
+        float[] p = Checks.notNull(point, "point").getValue();
+        return locatePointImpl(h, p, tolerance, Checks.length(pcoord, 3, "pcoord"));
+    }
+
+    /** The per-node values of the mesh interpolated at the parametric coordinates. */
+    public float getValue(SbVec3f pcoord, float[] values) {
+        long h = cellHandle();
+        float[] p = Checks.notNull(pcoord, "pcoord").getValue();
+        return getValueImpl(h, p, Checks.length(values, valueSpan(), "values"));
+    }
+
+    /** The per-node vectors of the mesh interpolated at the parametric coordinates. */
+    public SbVec3f getValue(SbVec3f pcoord, SbVec3f[] vectors) {
+        long h = cellHandle();
+        float[] p = Checks.notNull(pcoord, "pcoord").getValue();
+        float[] out = new float[3];
+        getValueImpl1(h, p, checkVectors(vectors), out);
+        return new SbVec3f(out);
+    }
+
+    /** As {@link #getValue(SbVec3f, float[])}, with the parametric coordinates in pcoord[0..2]. */
+    public float getValue(float[] pcoord, float[] values) {
+        long h = cellHandle();
+        Checks.length(pcoord, 3, "pcoord");
+        return getValueImpl2(h, pcoord, Checks.length(values, valueSpan(), "values"));
+    }
+
+    /** As {@link #getValue(SbVec3f, SbVec3f[])}, with the parametric coordinates in pcoord[0..2]. */
+    public SbVec3f getValue(float[] pcoord, SbVec3f[] vectors) {
+        long h = cellHandle();
+        Checks.length(pcoord, 3, "pcoord");
+        float[] out = new float[3];
+        getValueImpl3(h, pcoord, checkVectors(vectors), out);
+        return new SbVec3f(out);
+    }
+
+    private SbVec3f[] checkVectors(SbVec3f[] vectors) {
+        return Checks.noNullElements(Checks.length(vectors, valueSpan(), "vectors"), "vectors");
+    }
+
+    /** The node indices of the cell, read once (a valid cell does not change). */
+    private int[] nodeIndices() {
+        long h = cellHandle();
+        if (nodeIndices == null) {
+            int[] nodes = new int[getNumNodesImpl(h)];
+            for (int i = 0; i < nodes.length; i++) {
+                nodes[i] = getNodeIndexImpl(h, i);
+            }
+            nodeIndices = nodes;
+        }
+        return nodeIndices;
+    }
+
+    /** Number of per-node values the cell reads: its largest node index + 1. */
+    private int valueSpan() {
+        int span = 0;
+        for (int n : nodeIndices()) {
+            span = Math.max(span, n + 1);
+        }
+        return span;
+    }
+
+    private native int getNumFacetsImpl(long handle);
+
+    private native int getNumEdgesImpl(long handle);
+
+    private native int getNumNodesImpl(long handle);
+
+    private native int getIndexImpl(long handle);
+
+    private native int getNodeIndexImpl(long handle, int i);
+
+    private native void getNodeCoordImpl(long handle, int i, float[] out);
+
+    private native float getLongestEdgeLengthImpl(long handle);
+
+    private native float getVolumeImpl(long handle);
+
+    private native float getAreaImpl(long handle);
+
+    private native void getBoundingBoxImpl(long handle, float[] out);
+
+    private native void getBoundsImpl(long handle, float[] xmin, float[] ymin, float[] zmin, float[] xmax,
+            float[] ymax, float[] zmax);
+
+    private native void getCenterImpl(long handle, float[] out);
+
+    private native int locatePointImpl(long handle, float[] point, float tolerance, float[] pcoordOut);
+
+    private native float getValueImpl(long handle, float[] pcoord, float[] values);
+
+    private native void getValueImpl1(long handle, float[] pcoord, Object[] vectors, float[] out);
+
+    private native float getValueImpl2(long handle, float[] pcoord, float[] values);
+
+    private native void getValueImpl3(long handle, float[] pcoord, Object[] vectors, float[] out);
 }

@@ -1,10 +1,451 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.MeshPeers;
+import java.nio.ByteBuffer;
+import java.nio.FloatBuffer;
 
-/** Base of every mesh: structured grids, unstructured meshes and one-dimensional meshes. */
+/**
+ * Base of every mesh: structured grids, unstructured meshes and one-dimensional meshes.
+ *
+ * <p>A mesh holds numbered data sets: values sets (one float per node or per cell), vecs sets
+ * (one vector per node) and strings sets (one string per node). The set index is the caller's
+ * choice; adding a set under an index in use replaces that set.
+ *
+ * <p>Views into the mesh: the direct buffers ({@link #getDirectValuesSet}, {@link
+ * #getDirectVecsSet}, {@link #getCoordinates}) alias the mesh's own memory, and the cells it
+ * returns belong to it. A buffer must not be used once its set has been removed or replaced or
+ * the geometry has changed; a cell refuses to work ({@link IllegalStateException}) once the
+ * geometry has been changed through this object. Native meshes are never freed: disposing of
+ * the Java object only forgets the handle.
+ */
 public abstract class PbMesh extends NativeObject {
+    static {
+        JarInitializer.init();
+        MeshPeers.install(new Views());
+        ManagedObjects.registerWrapper(PbMesh.class.getName(), MeshPeers::meshOf);
+        ManagedObjects.registerWrapper(PbMesh2D.class.getName(), MeshPeers::mesh2DOf);
+        ManagedObjects.registerWrapper(PbMesh3D.class.getName(), MeshPeers::mesh3DOf);
+        ManagedObjects.registerWrapper(PbCell.class.getName(), MeshPeers::cellOf);
+    }
+
+    /** How a values set is bound to the mesh. */
+    public enum DataBindings {
+        /** One value per cell. */
+        PER_CELL(JarInitializer.value(DataBindings::getPERCELLNative)),
+        /** One value per node. */
+        PER_NODE(JarInitializer.value(DataBindings::getPERNODENative));
+
+        private final int value;
+
+        DataBindings(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static DataBindings fromValue(int value) {
+            for (DataBindings b : values()) {
+                if (b.value == value) {
+                    return b;
+                }
+            }
+            return null;
+        }
+
+        private static native int getPERCELLNative();
+
+        private static native int getPERNODENative();
+    }
+
+    /** Changes each time the geometry is replaced through this object; cells compare it. */
+    int generation;
+
+    /** Wraps a native mesh (made by a subclass's constructor, or owned elsewhere). */
     protected PbMesh(long handle) {
         super(handle);
+        ManagedObjects.registerPeer(handle, this);
     }
+
+    /** Records a change of geometry: the cells handed out so far stop working. */
+    final void geometryChanged() {
+        generation++;
+    }
+
+    // --- counts -------------------------------------------------------------------------
+
+    public int getNumNodes() {
+        return getNumNodesImpl(handle());
+    }
+
+    public int getNumCells() {
+        return getNumCellsImpl(handle());
+    }
+
+    public boolean isDataDuplicated() {
+        return isDataDuplicatedImpl(handle());
+    }
+
+    /** The binding of a values set (PER_NODE for a missing set). */
+    public DataBindings getValuesBinding(int set) {
+        return DataBindings.fromValue(getValuesBindingImpl(handle(), set));
+    }
+
+    public float getVolume() {
+        return getVolumeImpl(handle());
+    }
+
+    public float getArea() {
+        return getAreaImpl(handle());
+    }
+
+    /** The cell of that index, owned by the mesh, or null when the mesh has no such cell. */
+    public PbCell getCell(int cellIndex) {
+        long h = handle();
+        Checks.index(cellIndex, getNumCellsImpl(h), "cellIndex");
+        return cellView(getCellImpl(h, cellIndex));
+    }
+
+    public int getNumValuesSet() {
+        return getNumValuesSetImpl(handle());
+    }
+
+    public int getNumStringsSet() {
+        return getNumStringsSetImpl(handle());
+    }
+
+    public int getNumVecsSet() {
+        return getNumVecsSetImpl(handle());
+    }
+
+    // --- data sets ------------------------------------------------------------------------
+
+    /** Adds a values set with one value per node. */
+    public void addValuesSet(int set, float[] values, String name) {
+        long h = handle();
+        Checks.length(values, getNumNodesImpl(h), "values");
+        Checks.notNull(name, "name");
+        addValuesSetImpl(h, set, values, name);
+    }
+
+    /** Adds a values set with one value per cell or per node. */
+    public void addValuesSet(int set, float[] values, DataBindings binding, String name) {
+        long h = handle();
+        Checks.notNull(binding, "binding");
+        Checks.length(values, binding == DataBindings.PER_CELL ? getNumCellsImpl(h) : getNumNodesImpl(h), "values");
+        Checks.notNull(name, "name");
+        addValuesSetImpl1(h, set, values, binding.getValue(), name);
+    }
+
+    /**
+     * Adds a vecs set with one vector per node. A null array adds a set without data (its
+     * getters return null).
+     */
+    public void addVecsSet(int set, SbVec3f[] vectors, String name) {
+        long h = handle();
+        if (vectors != null) {
+            Checks.noNullElements(Checks.length(vectors, getNumNodesImpl(h), "vectors"), "vectors");
+        }
+        Checks.notNull(name, "name");
+        addVecsSetImpl(h, set, vectors, name);
+    }
+
+    /** Adds a strings set with one string per node (null elements become empty strings). */
+    public void addStringsSet(int set, String[] strings, String name) {
+        long h = handle();
+        Checks.length(strings, getNumNodesImpl(h), "strings");
+        Checks.notNull(name, "name");
+        addStringsSetImpl(h, set, strings, name);
+    }
+
+    /** The name of a values set, or null when there is no such set. */
+    public String getValuesSetName(int set) {
+        return getValuesSetNameImpl(handle(), set);
+    }
+
+    public String getStringsSetName(int set) {
+        return getStringsSetNameImpl(handle(), set);
+    }
+
+    public String getVecsSetName(int set) {
+        return getVecsSetNameImpl(handle(), set);
+    }
+
+    /** A copy of a values set (one value per cell or per node), or null when it has no data. */
+    public float[] getValuesSet(int set) {
+        return getValuesSetImpl(handle(), set);
+    }
+
+    /**
+     * The mesh's own values set, without a copy, or null when it has no data. Writes through the
+     * buffer change the mesh's data.
+     */
+    public FloatBuffer getDirectValuesSet(int set) {
+        return Checks.floats((ByteBuffer) getDirectValuesSetImpl(handle(), set));
+    }
+
+    /** A copy of a vecs set, or null when it has no data. */
+    public SbVec3f[] getVecsSet(int set) {
+        long h = handle();
+        if (getVecsSetImpl(h, set) == 0) {
+            return null;
+        }
+        FloatBuffer floats = Checks.floats((ByteBuffer) getDirectVecsSetImpl(h, set));
+        SbVec3f[] vectors = new SbVec3f[floats.capacity() / 3];
+        for (int i = 0; i < vectors.length; i++) {
+            vectors[i] = new SbVec3f(floats.get(3 * i), floats.get(3 * i + 1), floats.get(3 * i + 2));
+        }
+        return vectors;
+    }
+
+    /** The mesh's own vecs set (x, y, z per node), without a copy, or null when it has no data. */
+    public FloatBuffer getDirectVecsSet(int set) {
+        return Checks.floats((ByteBuffer) getDirectVecsSetImpl(handle(), set));
+    }
+
+    /** Removes a values set; true when it existed. */
+    public boolean removeValuesSet(int set) {
+        return removeValuesSetImpl(handle(), set);
+    }
+
+    public boolean removeStringsSet(int set) {
+        return removeStringsSetImpl(handle(), set);
+    }
+
+    public boolean removeVecsSet(int set) {
+        return removeVecsSetImpl(handle(), set);
+    }
+
+    public void removeAllValuesSet() {
+        removeAllValuesSetImpl(handle());
+    }
+
+    public void removeAllStringsSet() {
+        removeAllStringsSetImpl(handle());
+    }
+
+    public void removeAllVecsSet() {
+        removeAllVecsSetImpl(handle());
+    }
+
+    /** The smallest value of a set into min[0]; false when the set has none (min[0] is then 0). */
+    public boolean getMinValuesSet(int set, float[] min) {
+        return getMinValuesSetImpl(handle(), set, Checks.length(min, 1, "min"));
+    }
+
+    public boolean getMaxValuesSet(int set, float[] max) {
+        return getMaxValuesSetImpl(handle(), set, Checks.length(max, 1, "max"));
+    }
+
+    /** The smallest vector length of a set into min[0]; false when the set has none. */
+    public boolean getMinVecsSet(int set, float[] min) {
+        return getMinVecsSetImpl(handle(), set, Checks.length(min, 1, "min"));
+    }
+
+    public boolean getMaxVecsSet(int set, float[] max) {
+        return getMaxVecsSetImpl(handle(), set, Checks.length(max, 1, "max"));
+    }
+
+    // --- geometry -------------------------------------------------------------------------
+
+    /**
+     * Replaces the node coordinates of a mesh that keeps coordinate arrays (a null array keeps
+     * that coordinate); other meshes ignore the call. Each array must have as many values as
+     * {@link #getCoordinates} reports for it (the node count unless the class says otherwise).
+     */
+    public void setCoordinates(float[] x, float[] y, float[] z) {
+        long h = handle();
+        Checks.optional(x, coordinatesLength(h, 0), "x");
+        Checks.optional(y, coordinatesLength(h, 1), "y");
+        Checks.optional(z, coordinatesLength(h, 2), "z");
+        setCoordinatesImpl(h, x, y, z);
+        geometryChanged();
+    }
+
+    /** Number of values of coordinate array axis (0 x, 1 y, 2 z) that setCoordinates reads. */
+    long coordinatesLength(long handle, int axis) {
+        return getNumNodesImpl(handle);
+    }
+
+    /**
+     * The mesh's coordinate arrays x, y, z without a copy; an element is null when the mesh
+     * keeps no such array.
+     */
+    public FloatBuffer[] getCoordinates() {
+        Object[] x = new Object[1];
+        Object[] y = new Object[1];
+        Object[] z = new Object[1];
+        getCoordinatesImpl(handle(), x, y, z);
+        return new FloatBuffer[] {Checks.floats(x), Checks.floats(y), Checks.floats(z)};
+    }
+
+    public SbVec3f getNodeCoord(int nodeIndex) {
+        long h = handle();
+        Checks.index(nodeIndex, getNumNodesImpl(h), "nodeIndex");
+        float[] out = new float[3];
+        getNodeCoordImpl(h, nodeIndex, out);
+        return new SbVec3f(out);
+    }
+
+    /** The bounding box: xmin, ymin, zmin, xmax, ymax, zmax. */
+    public float[] getBoundingBox() {
+        float[] box = new float[6];
+        getBoundingBoxImpl(handle(), box);
+        return box;
+    }
+
+    /** The box of the smallest cell into box[0..5]; returns that cell's index (0 without cells). */
+    public int getSmallestCellBox(float[] box) {
+        int[] cell = new int[1];
+        getSmallestCellBoxImpl(handle(), cell, Checks.length(box, 6, "box"));
+        return cell[0];
+    }
+
+    /** The box of the biggest cell into box[0..5]; returns that cell's index (0 without cells). */
+    public int getBiggestCellBox(float[] box) {
+        int[] cell = new int[1];
+        getBiggestCellBoxImpl(handle(), cell, Checks.length(box, 6, "box"));
+        return cell[0];
+    }
+
+    /**
+     * The cell that contains the point, trying the adjacent cell (which may be null) first; its
+     * parametric coordinates go into pcoord[0..2]. Null when no cell contains the point.
+     */
+    public PbCell findContainingCell(SbVec3f point, float tolerance, float[] pcoord, PbCell adjacentCell) {
+        long h = handle();
+        float[] p = Checks.notNull(point, "point").getValue();
+        Checks.length(pcoord, 3, "pcoord");
+        long adjacent = adjacentCell == null ? 0 : adjacentCell.cellHandle();
+        return cellView(findContainingCellImpl(h, p, tolerance, pcoord, adjacent));
+    }
+
+    public PbCell findContainingCell(SbVec3f point, float tolerance, float[] pcoord) {
+        long h = handle();
+        float[] p = Checks.notNull(point, "point").getValue();
+        Checks.length(pcoord, 3, "pcoord");
+        return cellView(findContainingCellImpl1(h, p, tolerance, pcoord));
+    }
+
+    /** A view of a cell of this mesh, or null for address 0. */
+    final PbCell cellView(long address) {
+        return address == 0 ? null : new PbCell(address, this);
+    }
+
+    // --- views of meshes and cells owned elsewhere ---------------------------------------------
+
+    private static final class View extends PbMesh {
+        View(long handle) {
+            super(handle);
+        }
+    }
+
+    /** Makes the Java objects that {@link MeshPeers} hands out. */
+    private static final class Views implements MeshPeers.Factory {
+        @Override
+        public PbMesh mesh(long address) {
+            return new View(address);
+        }
+
+        @Override
+        public PbMesh2D mesh2D(long address) {
+            return new PbMesh2D.View(address);
+        }
+
+        @Override
+        public PbMesh3D mesh3D(long address) {
+            return new PbMesh3D.View(address);
+        }
+
+        @Override
+        public PbCell cell(long address) {
+            return new PbCell(address, null);
+        }
+    }
+
+    private native int getNumNodesImpl(long handle);
+
+    private native int getNumCellsImpl(long handle);
+
+    private native boolean isDataDuplicatedImpl(long handle);
+
+    private native int getValuesBindingImpl(long handle, int set);
+
+    private native float getVolumeImpl(long handle);
+
+    private native float getAreaImpl(long handle);
+
+    private native long getCellImpl(long handle, int cellIndex);
+
+    private native int getNumValuesSetImpl(long handle);
+
+    private native int getNumStringsSetImpl(long handle);
+
+    private native int getNumVecsSetImpl(long handle);
+
+    private native void addValuesSetImpl(long handle, int set, float[] values, String name);
+
+    private native void addValuesSetImpl1(long handle, int set, float[] values, int binding, String name);
+
+    private native void addVecsSetImpl(long handle, int set, Object[] vectors, String name);
+
+    private native void addStringsSetImpl(long handle, int set, String[] strings, String name);
+
+    private native String getValuesSetNameImpl(long handle, int set);
+
+    private native String getStringsSetNameImpl(long handle, int set);
+
+    private native String getVecsSetNameImpl(long handle, int set);
+
+    private native float[] getValuesSetImpl(long handle, int set);
+
+    private native Object getDirectValuesSetImpl(long handle, int set);
+
+    private native long getVecsSetImpl(long handle, int set);
+
+    private native Object getDirectVecsSetImpl(long handle, int set);
+
+    private native boolean removeValuesSetImpl(long handle, int set);
+
+    private native boolean removeStringsSetImpl(long handle, int set);
+
+    private native boolean removeVecsSetImpl(long handle, int set);
+
+    private native void removeAllValuesSetImpl(long handle);
+
+    private native void removeAllStringsSetImpl(long handle);
+
+    private native void removeAllVecsSetImpl(long handle);
+
+    private native boolean getMinValuesSetImpl(long handle, int set, float[] out);
+
+    private native boolean getMaxValuesSetImpl(long handle, int set, float[] out);
+
+    private native boolean getMinVecsSetImpl(long handle, int set, float[] out);
+
+    private native boolean getMaxVecsSetImpl(long handle, int set, float[] out);
+
+    private native void setCoordinatesImpl(long handle, float[] x, float[] y, float[] z);
+
+    private native void getCoordinatesImpl(long handle, Object[] xOut, Object[] yOut, Object[] zOut);
+
+    private native void getNodeCoordImpl(long handle, int nodeIndex, float[] out);
+
+    private native void getBoundingBoxImpl(long handle, float[] out);
+
+    private native void getSmallestCellBoxImpl(long handle, int[] cellOut, float[] boxOut);
+
+    private native void getBiggestCellBoxImpl(long handle, int[] cellOut, float[] boxOut);
+
+    private native long findContainingCellImpl(long handle, float[] point, float tolerance, float[] pcoordOut,
+            long adjacentCell);
+
+    private native long findContainingCellImpl1(long handle, float[] point, float tolerance, float[] pcoordOut);
 }

@@ -1,0 +1,54 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A curvilinear grid: x and y are given per node (numX * numY each). The mesh keeps its
+ * arrays: {@link #getCoordinates} gives x, y and z (null without elevations), one value per
+ * node. Its cells are quadrangles.
+ */
+public class PbCartesianGrid2D extends PbGrid2D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    public PbCartesianGrid2D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated));
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbCartesianGrid2D(PbCartesianGrid2D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbCartesianGrid2D(long handle) {
+        super(handle);
+    }
+
+    /** A grid of numX x numY nodes, x and y given per node. */
+    public PbCartesianGrid2D(int numX, int numY, float[] x, float[] y, boolean isDataDuplicated) {
+        super(create(numX, numY, x, y, null, isDataDuplicated));
+    }
+
+    /** As above, with one elevation per node in z. */
+    public PbCartesianGrid2D(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
+        super(create(numX, numY, x, y, Checks.notNull(z, "z"), isDataDuplicated));
+    }
+
+    private static long create(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
+        checkArrays(numX, numY, x, y, z, false);
+        return z == null ? ctorImpl2(numX, numY, x, y, isDataDuplicated)
+                : ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numX, int numY, float[] x, float[] y, boolean isDataDuplicated);
+
+    private static native long ctorImpl3(int numX, int numY, float[] x, float[] y, float[] z,
+            boolean isDataDuplicated);
+}

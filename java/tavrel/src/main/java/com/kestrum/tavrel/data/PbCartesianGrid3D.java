@@ -1,0 +1,46 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A curvilinear grid: x, y and z are given per node. The mesh keeps its arrays ({@link
+ * #getCoordinates}). Its cells are hexahedra.
+ */
+public class PbCartesianGrid3D extends PbGrid3D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    public PbCartesianGrid3D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated));
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbCartesianGrid3D(PbCartesianGrid3D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbCartesianGrid3D(long handle) {
+        super(handle);
+    }
+
+    /** A grid of numX x numY x numZ nodes, x, y and z given per node. */
+    public PbCartesianGrid3D(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
+        super(create(numX, numY, numZ, x, y, z, isDataDuplicated));
+    }
+
+    private static long create(int numX, int numY, int numZ, float[] x, float[] y, float[] z,
+            boolean isDataDuplicated) {
+        checkArrays(numX, numY, numZ, x, y, z, false);
+        return ctorImpl2(numX, numY, numZ, x, y, z, isDataDuplicated);
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numX, int numY, int numZ, float[] x, float[] y, float[] z,
+            boolean isDataDuplicated);
+}

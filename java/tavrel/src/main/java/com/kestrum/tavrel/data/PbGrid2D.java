@@ -1,0 +1,102 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * Base of the two-dimensional structured grids of numX x numY nodes: node (i, j) has the index
+ * i * numY + j and cell (i, j) the index i * (numY - 1) + j.
+ */
+public abstract class PbGrid2D extends PbMesh2D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Whether x and y hold one value per column and per row rather than one per node. */
+    private final boolean perAxis;
+
+    protected PbGrid2D(long handle) {
+        this(handle, false);
+    }
+
+    PbGrid2D(long handle, boolean perAxis) {
+        super(handle);
+        this.perAxis = perAxis;
+    }
+
+    /** The node counts {numX, numY}. */
+    public int[] getDim() {
+        int[] x = new int[1];
+        int[] y = new int[1];
+        getDimImpl(handle(), x, y);
+        return new int[] {x[0], y[0]};
+    }
+
+    public SbVec3f getNodeCoord(int i, int j) {
+        long h = handle();
+        int[] dim = getDim();
+        Checks.index(i, dim[0], "i");
+        Checks.index(j, dim[1], "j");
+        float[] out = new float[3];
+        getNodeCoordImpl(h, i, j, out);
+        return new SbVec3f(out);
+    }
+
+    /**
+     * The (i, j) of node n. An n outside the grid gives indices outside it; a grid without
+     * nodes in its second direction gives {-1, -1}.
+     */
+    public int[] getNodeIndices(int n) {
+        int[] i = new int[1];
+        int[] j = new int[1];
+        getNodeIndicesImpl(handle(), n, i, j);
+        return new int[] {i[0], j[0]};
+    }
+
+    /** The (i, j) of cell n; {-1, -1} for a grid with fewer than two nodes in its second direction. */
+    public int[] getCellIndices(int n) {
+        int[] i = new int[1];
+        int[] j = new int[1];
+        getCellIndicesImpl(handle(), n, i, j);
+        return new int[] {i[0], j[0]};
+    }
+
+    /** Replaces the geometry; x and y are read as each grid keeps them (see the class). */
+    public void setGeometry(int numX, int numY, float[] x, float[] y) {
+        long h = handle();
+        checkArrays(numX, numY, x, y, null, perAxis);
+        setGeometryImpl(h, numX, numY, x, y);
+        geometryChanged();
+    }
+
+    /** Replaces the geometry, with one elevation per node in z. */
+    public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
+        long h = handle();
+        checkArrays(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);
+        setGeometryImpl1(h, numX, numY, x, y, z);
+        geometryChanged();
+    }
+
+    /**
+     * Checks the arrays of a numX x numY grid: x and y with one value per node, or per column and
+     * per row (perAxis); z, when not null, one per node.
+     */
+    static void checkArrays(int numX, int numY, float[] x, float[] y, float[] z, boolean perAxis) {
+        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
+        Checks.length(x, perAxis ? numX : n, "x");
+        Checks.length(y, perAxis ? numY : n, "y");
+        Checks.optional(z, n, "z");
+    }
+
+    private native void getNodeCoordImpl(long handle, int i, int j, float[] out);
+
+    private native void getDimImpl(long handle, int[] out1, int[] out2);
+
+    private native void getNodeIndicesImpl(long handle, int n, int[] iOut, int[] jOut);
+
+    private native void getCellIndicesImpl(long handle, int n, int[] iOut, int[] jOut);
+
+    private native void setGeometryImpl(long handle, int numX, int numY, float[] x, float[] y);
+
+    private native void setGeometryImpl1(long handle, int numX, int numY, float[] x, float[] y, float[] z);
+}

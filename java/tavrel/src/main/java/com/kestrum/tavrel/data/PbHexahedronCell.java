@@ -1,0 +1,38 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A hexahedron cell. */
+public class PbHexahedronCell extends PbCell {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    public PbHexahedronCell(PbMesh mesh) {
+        super(ctorImpl(handleOf(mesh, "mesh")));
+    }
+
+    /** A copy of another cell, nodes included. */
+    public PbHexahedronCell(PbHexahedronCell other) {
+        super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
+    }
+
+    /** Number of floats that {@link #getDerivs} writes: 3 per node of the cell type. */
+    public static final int DERIVS_LENGTH = 24;
+
+    /**
+     * The derivatives of the 8 shape functions at the parametric coordinates: 8 by u, then
+     * 8 by v, then 8 by w, into derivs[0..23].
+     */
+    public void getDerivs(SbVec3f pcoord, float[] derivs) {
+        getDerivsImpl(cellHandle(), coordinates(pcoord), Checks.length(derivs, DERIVS_LENGTH, "derivs"));
+    }
+
+    private native void getDerivsImpl(long handle, float[] pcoord, float[] derivs);
+
+    private static native long ctorImpl(long mesh);
+
+    private static native long ctorImpl1(long other);
+}

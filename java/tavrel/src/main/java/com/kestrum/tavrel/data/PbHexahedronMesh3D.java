@@ -1,0 +1,54 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A three-dimensional mesh of hexahedra (4 nodes of the bottom face, then the 4 of the top
+ * face, in the same turn).
+ */
+public class PbHexahedronMesh3D extends PbIndexedMesh3D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
+            flag says. */
+    public PbHexahedronMesh3D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated));
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbHexahedronMesh3D(PbHexahedronMesh3D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbHexahedronMesh3D(long handle) {
+        super(handle);
+    }
+
+    /** A mesh of numNodes nodes and hexahedra given by 8 node indices each. */
+    public PbHexahedronMesh3D(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes,
+            boolean isDataDuplicated) {
+        super(ctorImpl2(checkFixed(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
+                numHexahedra, hexahedraNodes, isDataDuplicated));
+    }
+
+    /** Replaces the geometry. */
+    public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes) {
+        long h = handle();
+        setGeometryImpl(h, checkFixed(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
+                numHexahedra, hexahedraNodes);
+        geometryChanged();
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellNodes, boolean isDataDuplicated);
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellNodes);
+}

@@ -1,0 +1,151 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import java.nio.FloatBuffer;
+
+/**
+ * An unstructured two-dimensional mesh of triangles and quadrangles. The mesh keeps its node
+ * arrays ({@link #getNodes}, {@link #getCoordinates}).
+ */
+public class PbIndexedMesh2D extends PbMesh2D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    public PbIndexedMesh2D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated));
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbIndexedMesh2D(PbIndexedMesh2D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbIndexedMesh2D(long handle) {
+        super(handle);
+    }
+
+    /**
+     * A mesh of numNodes nodes and numCells cells: cellTypes[c] is the number of nodes of cell c
+     * (3 or 4), cellIndex lists the nodes of every cell, cell after cell.
+     */
+    public PbIndexedMesh2D(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex,
+            boolean isDataDuplicated) {
+        super(ctorImpl2(check(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
+                cellIndex, isDataDuplicated));
+    }
+
+    /** As above, with one elevation per node in z. */
+    public PbIndexedMesh2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex, boolean isDataDuplicated) {
+        super(ctorImpl3(check(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
+                numCells, cellTypes, cellIndex, isDataDuplicated));
+    }
+
+    /** Replaces the geometry (see the constructor). */
+    public void setGeometry(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex) {
+        long h = handle();
+        setGeometryImpl(h, check(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
+                cellIndex);
+        geometryChanged();
+    }
+
+    /** Replaces the geometry, with one elevation per node in z. */
+    public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex) {
+        long h = handle();
+        setGeometryImpl1(h, check(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
+                numCells, cellTypes, cellIndex);
+        geometryChanged();
+    }
+
+    /** Checks a mesh whose cells all have perCell nodes, listed in cellNodes; returns numNodes. */
+    static int checkFixed(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell, int[] cellNodes,
+            String name) {
+        Checks.cells(nodes(numNodes, x, y, z), numCells, perCell, cellNodes, name);
+        return numNodes;
+    }
+
+    /** Checks the nodes (z may be null); returns numNodes. */
+    static int nodes(int numNodes, float[] x, float[] y, float[] z) {
+        Checks.count(numNodes, "numNodes");
+        Checks.length(x, numNodes, "x");
+        Checks.length(y, numNodes, "y");
+        Checks.optional(z, numNodes, "z");
+        return numNodes;
+    }
+
+    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex) {
+        Checks.cells(nodes(numNodes, x, y, z), numCells, cellTypes, cellIndex, 3, 4);
+        return numNodes;
+    }
+
+    /** The node arrays x, y, z without a copy (z is null without elevations). */
+    public FloatBuffer[] getNodes() {
+        Object[] x = new Object[1];
+        Object[] y = new Object[1];
+        Object[] z = new Object[1];
+        getNodesImpl(handle(), x, y, z);
+        return new FloatBuffer[] {Checks.floats(x), Checks.floats(y), Checks.floats(z)};
+    }
+
+    /** The node arrays x and y without a copy. */
+    public FloatBuffer[] get2DNodes() {
+        Object[] x = new Object[1];
+        Object[] y = new Object[1];
+        get2DNodesImpl(handle(), x, y);
+        return new FloatBuffer[] {Checks.floats(x), Checks.floats(y)};
+    }
+
+    public void setElemOrientation(ElemOrientations orientation) {
+        setElemOrientationImpl(handle(), Checks.notNull(orientation, "orientation").getValue());
+    }
+
+    /** How the cells are oriented. */
+    public enum ElemOrientations {
+        ORIENTATION_AS_IS(JarInitializer.value(ElemOrientations::getORIENTATIONASISNative)),
+        ORIENTATION_Z_POS(JarInitializer.value(ElemOrientations::getORIENTATIONZPOSNative)),
+        ORIENTATION_Z_NEG(JarInitializer.value(ElemOrientations::getORIENTATIONZNEGNative));
+
+        private final int value;
+
+        ElemOrientations(int value) {
+            this.value = value;
+        }
+
+        public int getValue() {
+            return value;
+        }
+
+        private static native int getORIENTATIONASISNative();
+
+        private static native int getORIENTATIONZPOSNative();
+
+        private static native int getORIENTATIONZNEGNative();
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes,
+            int[] cellIndex, boolean isDataDuplicated);
+
+    private static native long ctorImpl3(int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellTypes, int[] cellIndex, boolean isDataDuplicated);
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x, float[] y, int numCells,
+            int[] cellTypes, int[] cellIndex);
+
+    private native void setGeometryImpl1(long handle, int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellTypes, int[] cellIndex);
+
+    private native void getNodesImpl(long handle, Object[] xOut, Object[] yOut, Object[] zOut);
+
+    private native void get2DNodesImpl(long handle, Object[] xOut, Object[] yOut);
+
+    private native void setElemOrientationImpl(long handle, int orientation);
+}

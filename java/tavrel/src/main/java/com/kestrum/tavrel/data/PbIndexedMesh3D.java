@@ -1,0 +1,92 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import java.nio.FloatBuffer;
+
+/**
+ * An unstructured three-dimensional mesh of tetrahedra, pyramids, wedges and hexahedra. The
+ * mesh keeps its node arrays ({@link #getNodes}, {@link #getCoordinates}).
+ */
+public class PbIndexedMesh3D extends PbMesh3D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    public PbIndexedMesh3D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated));
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbIndexedMesh3D(PbIndexedMesh3D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbIndexedMesh3D(long handle) {
+        super(handle);
+    }
+
+    /**
+     * A mesh of numNodes nodes and numCells cells: cellTypes[c] is the number of nodes of cell c
+     * (4 tetrahedron, 5 pyramid, 6 wedge, 8 hexahedron), cellIndex lists the nodes of every
+     * cell, cell after cell.
+     */
+    public PbIndexedMesh3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex, boolean isDataDuplicated) {
+        super(ctorImpl2(check(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
+                cellIndex, isDataDuplicated));
+    }
+
+    /** Replaces the geometry (see the constructor). */
+    public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex) {
+        long h = handle();
+        setGeometryImpl(h, check(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
+                cellIndex);
+        geometryChanged();
+    }
+
+    /** Checks a mesh whose cells all have perCell nodes, listed in cellNodes; returns numNodes. */
+    static int checkFixed(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell, int[] cellNodes,
+            String name) {
+        Checks.cells(nodes(numNodes, x, y, z), numCells, perCell, cellNodes, name);
+        return numNodes;
+    }
+
+    /** Checks the nodes; returns numNodes. */
+    static int nodes(int numNodes, float[] x, float[] y, float[] z) {
+        Checks.count(numNodes, "numNodes");
+        Checks.length(x, numNodes, "x");
+        Checks.length(y, numNodes, "y");
+        Checks.length(z, numNodes, "z");
+        return numNodes;
+    }
+
+    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex) {
+        Checks.cells(nodes(numNodes, x, y, z), numCells, cellTypes, cellIndex, 4, 5, 6, 8);
+        return numNodes;
+    }
+
+    /** The node arrays x, y, z without a copy. */
+    public FloatBuffer[] getNodes() {
+        Object[] x = new Object[1];
+        Object[] y = new Object[1];
+        Object[] z = new Object[1];
+        getNodesImpl(handle(), x, y, z);
+        return new FloatBuffer[] {Checks.floats(x), Checks.floats(y), Checks.floats(z)};
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellTypes, int[] cellIndex, boolean isDataDuplicated);
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellTypes, int[] cellIndex);
+
+    private native void getNodesImpl(long handle, Object[] xOut, Object[] yOut, Object[] zOut);
+}

@@ -1,0 +1,47 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A one-dimensional mesh of nodes at given abscissas. It keeps its x array ({@link
+ * #getCoordinates} gives x and null for y and z).
+ */
+public class PbIrregularMesh1D extends PbMesh1D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. */
+    public PbIrregularMesh1D() {
+        super(ctorImpl());
+    }
+
+    /** A copy of another mesh. */
+    public PbIrregularMesh1D(PbIrregularMesh1D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** numNodes nodes at the abscissas x. */
+    public PbIrregularMesh1D(int numNodes, float[] x) {
+        super(ctorImpl2(check(numNodes, x), x));
+    }
+
+    public void setGeometry(int numNodes, float[] x) {
+        long h = handle();
+        setGeometryImpl(h, check(numNodes, x), x);
+        geometryChanged();
+    }
+
+    private static int check(int numNodes, float[] x) {
+        Checks.length(x, Checks.count(numNodes, "numNodes"), "x");
+        return numNodes;
+    }
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numNodes, float[] x);
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x);
+}

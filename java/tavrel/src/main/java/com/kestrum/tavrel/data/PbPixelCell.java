@@ -1,0 +1,24 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A pixel (an axis-aligned quadrangle of a rectilinear or regular grid) cell. */
+public class PbPixelCell extends PbCell {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    public PbPixelCell(PbMesh mesh) {
+        super(ctorImpl(handleOf(mesh, "mesh")));
+    }
+
+    /** A copy of another cell, nodes included. */
+    public PbPixelCell(PbPixelCell other) {
+        super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
+    }
+
+    private static native long ctorImpl(long mesh);
+
+    private static native long ctorImpl1(long other);
+}

@@ -1,0 +1,86 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A regular grid: numX x numY nodes evenly spread over a rectangle. The mesh keeps no
+ * coordinate arrays. {@link #setGeometry(int, int, float[], float[])} takes the extent from the
+ * first and last elements of x (numX values) and y (numY values). Its cells are pixels.
+ */
+public class PbRegularCartesianGrid2D extends PbGrid2D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    public PbRegularCartesianGrid2D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated), true);
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbRegularCartesianGrid2D(PbRegularCartesianGrid2D other) {
+        super(ctorImpl1(handleOf(other, "other")), true);
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbRegularCartesianGrid2D(long handle) {
+        super(handle, true);
+    }
+
+    /** numX x numY nodes evenly spread over [xmin, xmax] x [ymin, ymax]. */
+    public PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax,
+            boolean isDataDuplicated) {
+        super(ctorImpl2(counts(numX, numY, null), numY, xmin, ymin, xmax, ymax, isDataDuplicated), true);
+    }
+
+    /** As above, with one elevation per node in z. */
+    public PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z,
+            boolean isDataDuplicated) {
+        super(ctorImpl3(counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax, ymax, z,
+                isDataDuplicated), true);
+    }
+
+    /** A grid over the extent of another one, with new node counts. */
+    public PbRegularCartesianGrid2D(int numX, int numY, PbRegularCartesianGrid2D grid) {
+        super(ctorImpl4(counts(numX, numY, null), numY, handleOf(grid, "grid")), true);
+    }
+
+    /** Replaces the geometry: numX x numY nodes over [xmin, xmax] x [ymin, ymax]. */
+    public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax) {
+        long h = handle();
+        setGeometryImpl(h, counts(numX, numY, null), numY, xmin, ymin, xmax, ymax);
+        geometryChanged();
+    }
+
+    /** As above, with one elevation per node in z. */
+    public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
+        long h = handle();
+        setGeometryImpl1(h, counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax, ymax, z);
+        geometryChanged();
+    }
+
+    /** Checks the counts (and the elevations when given); returns numX. */
+    private static int counts(int numX, int numY, float[] z) {
+        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
+        Checks.optional(z, n, "z");
+        return numX;
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numX, int numY, float xmin, float ymin, float xmax, float ymax,
+            boolean isDataDuplicated);
+
+    private static native long ctorImpl3(int numX, int numY, float xmin, float ymin, float xmax, float ymax,
+            float[] z, boolean isDataDuplicated);
+
+    private static native long ctorImpl4(int numX, int numY, long grid);
+
+    private native void setGeometryImpl(long handle, int numX, int numY, float xmin, float ymin, float xmax,
+            float ymax);
+
+    private native void setGeometryImpl1(long handle, int numX, int numY, float xmin, float ymin, float xmax,
+            float ymax, float[] z);
+}

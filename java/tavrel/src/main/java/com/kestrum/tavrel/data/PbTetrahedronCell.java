@@ -1,0 +1,24 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A tetrahedron cell. */
+public class PbTetrahedronCell extends PbCell {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    public PbTetrahedronCell(PbMesh mesh) {
+        super(ctorImpl(handleOf(mesh, "mesh")));
+    }
+
+    /** A copy of another cell, nodes included. */
+    public PbTetrahedronCell(PbTetrahedronCell other) {
+        super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
+    }
+
+    private static native long ctorImpl(long mesh);
+
+    private static native long ctorImpl1(long other);
+}

@@ -1,0 +1,24 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A triangle cell. */
+public class PbTriangleCell extends PbCell {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    public PbTriangleCell(PbMesh mesh) {
+        super(ctorImpl(handleOf(mesh, "mesh")));
+    }
+
+    /** A copy of another cell, nodes included. */
+    public PbTriangleCell(PbTriangleCell other) {
+        super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
+    }
+
+    private static native long ctorImpl(long mesh);
+
+    private static native long ctorImpl1(long other);
+}

@@ -1,0 +1,87 @@
+package com.kestrum.tavrel.data;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A two-dimensional mesh of triangles.
+ */
+public class PbTriangleMesh2D extends PbIndexedMesh2D {
+    static {
+        JarInitializer.init();
+    }
+
+    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
+            flag says. */
+    public PbTriangleMesh2D(boolean isDataDuplicated) {
+        super(ctorImpl(isDataDuplicated));
+    }
+
+    /** A copy of another mesh: geometry and data sets. */
+    public PbTriangleMesh2D(PbTriangleMesh2D other) {
+        super(ctorImpl1(handleOf(other, "other")));
+    }
+
+    /** A view of a native mesh, for subclasses. */
+    protected PbTriangleMesh2D(long handle) {
+        super(handle);
+    }
+
+    /** A mesh of numNodes nodes and triangles given by 3 node indices each. */
+    public PbTriangleMesh2D(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes,
+            boolean isDataDuplicated) {
+        super(ctorImpl2(checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
+                numTriangles, triangleNodes, isDataDuplicated));
+    }
+
+    /** As above, with one elevation per node in z. */
+    public PbTriangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes,
+            boolean isDataDuplicated) {
+        super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+                "triangleNodes"), x, y, z, numTriangles, triangleNodes, isDataDuplicated));
+    }
+
+    /** Replaces the geometry. */
+    public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
+        long h = handle();
+        setGeometryImpl(h, checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
+                numTriangles, triangleNodes);
+        geometryChanged();
+    }
+
+    /** Replaces the geometry, with one elevation per node in z. */
+    public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles,
+            int[] triangleNodes) {
+        long h = handle();
+        setGeometryImpl2(h, checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+                "triangleNodes"), x, y, z, numTriangles, triangleNodes);
+        geometryChanged();
+    }
+
+    /**
+     * Replaces the nodes and triangulates them as a fan around node 0, in the order given (right
+     * for a convex polygon given in order).
+     */
+    public void setGeometry(int numNodes, float[] x, float[] y) {
+        long h = handle();
+        setGeometryImpl1(h, nodes(numNodes, x, y, null), x, y);
+        geometryChanged();
+    }
+
+    private static native long ctorImpl(boolean isDataDuplicated);
+
+    private static native long ctorImpl1(long other);
+
+    private static native long ctorImpl2(int numNodes, float[] x, float[] y, int numCells, int[] cellNodes,
+            boolean isDataDuplicated);
+
+    private static native long ctorImpl3(int numNodes, float[] x, float[] y, float[] z, int numCells,
+            int[] cellNodes, boolean isDataDuplicated);
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x, float[] y, int numCells,
+            int[] cellNodes);
+
+    private native void setGeometryImpl2(long handle, int numNodes, float[] x, float[] y, float[] z,
+            int numCells, int[] cellNodes);
+
+    private native void setGeometryImpl1(long handle, int numNodes, float[] x, float[] y);
+}

@@ -1,0 +1,28 @@
+// A rectilinear grid: x has numX abscissas and y numY ordinates; node (i, j)
+// is (x[i], y[j]). It keeps its arrays: getCoordinates gives x (numX), y (numY)
+// and z (numX * numY, null without elevations); setCoordinates replaces each
+// non-null array with as many values. Its cells are pixels.
+#pragma once
+
+#include <Tavrel/PbGrid2D.h>
+
+class PbParalCartesianGrid2D : public PbGrid2D {
+ public:
+  explicit PbParalCartesianGrid2D(int isDataDuplicated);
+  PbParalCartesianGrid2D(const PbParalCartesianGrid2D& other);
+  PbParalCartesianGrid2D(int numX, int numY, const float* x, const float* y, int isDataDuplicated);
+  PbParalCartesianGrid2D(int numX, int numY, const float* x, const float* y, const float* z, int isDataDuplicated);
+  void setCoordinates(const float* x, const float* y, const float* z) override;
+  void getCoordinates(const float*& x, const float*& y, const float*& z, int& nx, int& ny, int& nz) const override;
+  void setGeometry(int numX, int numY, const float* x, const float* y) override;
+  void setGeometry(int numX, int numY, const float* x, const float* y, const float* z) override;
+
+ protected:
+  SbVec2f nodeXY(int i, int j) const override;
+  PbCell* newCell(int cellIndex) const override;
+
+ private:
+  void assign(int numX, int numY, const float* x, const float* y, const float* z);
+  std::vector<float> xs;
+  std::vector<float> ys;
+};

@@ -1,0 +1,16 @@
+// A quadrangle cell (see PbCell.h).
+#pragma once
+
+#include <Tavrel/PbCell.h>
+
+class PbQuadrangleCell : public PbCell {
+ public:
+  // A cell of the mesh that is not attached to any of its cells.
+  explicit PbQuadrangleCell(const PbMesh* mesh);
+  PbQuadrangleCell(const PbQuadrangleCell& other);
+  // Derivatives of the shape functions at pcoord (see PbCell.h for the layout).
+  void getDerivs(const SbVec3f& pcoord, float* derivs) const;
+
+  // Attached to cell `index` of the mesh (used by the meshes; not journaled).
+  PbQuadrangleCell(const PbMesh* mesh, int index, const std::vector<int>& nodes);
+};
