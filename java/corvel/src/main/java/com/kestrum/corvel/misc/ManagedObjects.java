@@ -75,6 +75,24 @@ public final class ManagedObjects {
      * The Java object for the native object at the address, as an instance of the dotted class
      * name: the registered peer when it is one, otherwise a new wrapper; null for address 0.
      */
+    /**
+     * The Java object for the native object at the address as an instance of the class: its
+     * registered peer, else a new wrapper; null for address 0 or when the class has no wrapper.
+     */
+    public static Object find(Class<?> wanted, long address) {
+        if (address == 0) {
+            return null;
+        }
+        Object peer = peerOf(address);
+        boolean disposed = peer instanceof NativeObject
+                && ((NativeObject) peer).getNativeResourceHandleInternal() != address;
+        if (wanted.isInstance(peer) && !disposed) {
+            return peer;
+        }
+        LongFunction<?> factory = WRAPPERS.get(wanted.getName());
+        return factory == null ? null : factory.apply(address);
+    }
+
     public static Object get(String dottedClassName, long address) {
         try {
             return getManagedObject(dottedClassName, address);

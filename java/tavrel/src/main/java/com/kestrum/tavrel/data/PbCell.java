@@ -20,6 +20,7 @@ import com.kestrum.tavrel.internal.JarInitializer;
 public class PbCell extends NativeObject {
     static {
         JarInitializer.init();
+        ManagedObjects.registerWrapper(PbCell.class.getName(), address -> new PbCell(address, null));
     }
 
     private final PbMesh owner;

@@ -4,7 +4,6 @@ import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.MeshPeers;
 import java.nio.ByteBuffer;
 import java.nio.FloatBuffer;
 
@@ -25,11 +24,7 @@ import java.nio.FloatBuffer;
 public abstract class PbMesh extends NativeObject {
     static {
         JarInitializer.init();
-        MeshPeers.install(new Views());
-        ManagedObjects.registerWrapper(PbMesh.class.getName(), MeshPeers::meshOf);
-        ManagedObjects.registerWrapper(PbMesh2D.class.getName(), MeshPeers::mesh2DOf);
-        ManagedObjects.registerWrapper(PbMesh3D.class.getName(), MeshPeers::mesh3DOf);
-        ManagedObjects.registerWrapper(PbCell.class.getName(), MeshPeers::cellOf);
+        ManagedObjects.registerWrapper(PbMesh.class.getName(), View::new);
     }
 
     /** How a values set is bound to the mesh. */
@@ -344,29 +339,6 @@ public abstract class PbMesh extends NativeObject {
     private static final class View extends PbMesh {
         View(long handle) {
             super(handle);
-        }
-    }
-
-    /** Makes the Java objects that {@link MeshPeers} hands out. */
-    private static final class Views implements MeshPeers.Factory {
-        @Override
-        public PbMesh mesh(long address) {
-            return new View(address);
-        }
-
-        @Override
-        public PbMesh2D mesh2D(long address) {
-            return new PbMesh2D.View(address);
-        }
-
-        @Override
-        public PbMesh3D mesh3D(long address) {
-            return new PbMesh3D.View(address);
-        }
-
-        @Override
-        public PbCell cell(long address) {
-            return new PbCell(address, null);
         }
     }
 

@@ -3,12 +3,14 @@ package com.kestrum.tavrel.data;
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.MeshPeers;
+import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the two-dimensional meshes: nodes in the xy plane, with an optional elevation. */
 public abstract class PbMesh2D extends PbMesh {
     static {
         JarInitializer.init();
+        ManagedObjects.registerWrapper(PbMesh2D.class.getName(), View::new);
     }
 
     /** How the fault-mesh computation extrapolates values. */
@@ -70,7 +72,7 @@ public abstract class PbMesh2D extends PbMesh {
         if (vectors != null && vectors.length > 0) {
             Checks.noNullElements(Checks.length(vectors, count, "vectors"), "vectors");
         }
-        return MeshPeers.mesh2DOf(getFaultMeshImpl1(h, count, nodes, vectors));
+        return JavaViews.find(PbMesh2D.class, getFaultMeshImpl1(h, count, nodes, vectors), null);
     }
 
     /** A view of a 2D mesh owned elsewhere. */

@@ -1,7 +1,15 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.internal.JarInitializer;
+
 /** Base of the three-dimensional meshes. */
 public abstract class PbMesh3D extends PbMesh {
+    static {
+        JarInitializer.init();
+        ManagedObjects.registerWrapper(PbMesh3D.class.getName(), View::new);
+    }
+
     protected PbMesh3D(long handle) {
         super(handle);
     }

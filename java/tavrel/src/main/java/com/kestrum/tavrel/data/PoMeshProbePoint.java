@@ -25,7 +25,7 @@ import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
 public class PoMeshProbePoint extends PoMesh {
     static {
         JarInitializer.init();
-        JavaViews.register(PoMeshProbePoint.class, PoMeshProbePoint::new);
+        ManagedObjects.registerWrapper(PoMeshProbePoint.class.getName(), PoMeshProbePoint::new);
     }
 
     private static final int MOTION = 0;
@@ -38,12 +38,14 @@ public class PoMeshProbePoint extends PoMesh {
     /** A new probe that holds one reference on its native node. */
     public PoMeshProbePoint() {
         this(ctorImpl());
-        ManagedObjects.registerPeer(handle(), this);
     }
 
     /** A Java object for the native probe at the handle (non-zero); takes a reference on it. */
     protected PoMeshProbePoint(long handle) {
         super(handle);
+        // Events of this probe reach Java as this object (it holds a reference on the node, so
+        // its address cannot be reused while it lives).
+        registerAsPeer(false);
     }
 
     /** The name of the class's toolkit type. */

@@ -7,7 +7,7 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.corvel.SbVec3f;
-import com.kestrum.tavrel.internal.MeshPeers;
+import com.kestrum.tavrel.internal.JavaViews;
 import com.kestrum.tavrel.testkit.Journal;
 import com.kestrum.tavrel.testkit.Natives;
 import java.util.List;
@@ -150,7 +150,7 @@ class CellTest {
                 .getCell(0);
         float[] pcoord = new float[3];
         long copy = (long) Natives.callStatic(PbHexahedronCell.class, "ctorImpl1", handle(source));
-        PbCell cell = MeshPeers.cellOf(copy);
+        PbCell cell = JavaViews.find(PbCell.class, copy, null);
         assertEquals(8, cell.getNumNodes());
         assertEquals(1f, cell.getVolume(), 1e-6);
         assertEquals(1, cell.locatePoint(new SbVec3f(0.5f, 0.5f, 0.5f), 0, pcoord));

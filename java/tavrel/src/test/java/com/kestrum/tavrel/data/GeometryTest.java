@@ -12,7 +12,7 @@ import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.corvel.SbVec3f;
-import com.kestrum.tavrel.internal.MeshPeers;
+import com.kestrum.tavrel.internal.JavaViews;
 import com.kestrum.tavrel.testkit.Journal;
 import java.nio.ByteBuffer;
 import java.nio.FloatBuffer;
@@ -246,7 +246,7 @@ class GeometryTest {
         assertEquals(4, fault.getNumNodes());
         assertEquals(2, fault.getNumCells());
         assertArrayEquals(new float[] {1, 2, 3, 4}, fault.getValuesSet(1));
-        assertSame(fault, MeshPeers.mesh2DOf(handle(fault)));
+        assertSame(fault, JavaViews.find(PbMesh2D.class, handle(fault), null));
 
         Journal.start();
         mesh.getFaultMesh(1, new int[] {3}, new SbVec3f[] {new SbVec3f(0, 0, 1)});
@@ -267,11 +267,11 @@ class GeometryTest {
     @Test
     void meshAddressesGiveTheirJavaPeersOrViews() {
         PbCartesianGrid3D grid = new PbCartesianGrid3D(true);
-        assertSame(grid, MeshPeers.meshOf(handle(grid)));
-        assertSame(grid, MeshPeers.mesh3DOf(handle(grid)));
-        assertNull(MeshPeers.meshOf(0));
+        assertSame(grid, JavaViews.find(PbMesh.class, handle(grid), null));
+        assertSame(grid, JavaViews.find(PbMesh3D.class, handle(grid), null));
+        assertNull(JavaViews.find(PbMesh.class, 0, null));
         PbCell cell = new PbRegularCartesianGrid2D(2, 2, 0, 0, 1, 1, true).getCell(0);
-        PbCell view = MeshPeers.cellOf(handle(cell));
+        PbCell view = JavaViews.find(PbCell.class, handle(cell), null);
         assertEquals(handle(cell), handle(view));
         assertEquals(4, view.getNumNodes());
         assertEquals(pointer(handle(cell)), pointer(handle(view)));

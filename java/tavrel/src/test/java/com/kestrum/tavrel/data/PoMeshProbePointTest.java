@@ -134,7 +134,7 @@ class PoMeshProbePointTest {
         assertEquals(setter.name, e.tag());
         assertSame(probe, e.probe(), "the probe arrives as its own Java object");
         assertEquals(CELL_A, e.cellHandle());
-        assertNull(e.cell(), "no cell views yet");
+        assertEquals(CELL_A, e.cell().getNativeResourceHandleInternal(), "a view of the cell");
         assertEquals("data of " + setter.name, e.userData());
         assertSame(Thread.currentThread(), e.thread());
     }
