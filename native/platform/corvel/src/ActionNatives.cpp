@@ -79,6 +79,16 @@ JNIEXPORT jstring JNICALL Java_com_kestrum_corvel_fields_SoField_getNameNative(J
   return StringHelper::fromNativeString(env, from<SoField>(handle)->getName());
 }
 
+JNIEXPORT jstring JNICALL Java_com_kestrum_corvel_fields_SoField_getValueNative(JNIEnv* env, jclass, jlong handle) {
+  return StringHelper::fromNativeString(env, from<SoField>(handle)->getValueString());
+}
+
+JNIEXPORT void JNICALL Java_com_kestrum_corvel_fields_SoField_setValueNative(JNIEnv* env, jclass, jlong handle,
+                                                                           jstring value) {
+  StringHelper text(env, value);
+  from<SoField>(handle)->setValueString(SbString(text.toUTFString()));
+}
+
 JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_SoInput_newNative(JNIEnv* env, jclass, jstring text) {
   StringHelper utf(env, text);
   return handleOf(new SoInput(utf.toUTFString()));

@@ -20,6 +20,15 @@
 //
 // raiseEvent(event, cell) raises one event at once with the given cell, as the
 // probe does during a move; it changes nothing in the probe's state.
+//
+// The probe's place is its field "position", three numbers "x y z" (initially
+// "0 0 0"). When an action traverses the probe and the field names another
+// point than the last one probed (or the probe has not probed yet), the probe
+// probes there: setPosition(point) searches the containing cell in the mesh
+// set with setMesh (tolerance 1e-4; the previous cell is not used as a hint,
+// since the mesh may have replaced its cells since) and moves there with
+// moveTo. Without a mesh every point is
+// outside. A field text that is not three numbers is ignored.
 #pragma once
 
 #include <Corvel/SbVec.h>
@@ -52,6 +61,7 @@ class PoMeshProbePoint : public PoMesh {
   const Callback& getCallback(Event event) const { return callbacks[event]; }
 
   void moveTo(const SbVec3f& position, const PbCell* cell, long cellIndex);
+  void setPosition(const SbVec3f& point);
   void raiseEvent(Event event, const PbCell* cell);
 
   const SbVec3f& getPosition() const { return position; }
@@ -59,11 +69,20 @@ class PoMeshProbePoint : public PoMesh {
   long getCurrentCellIndex() const { return currentCellIndex; }
   bool isInsideMesh() const { return currentCellIndex >= 0; }
 
+  void doAction(SoAction* action) override;
+  void GLRender(SoGLRenderAction* action) override;
+  void callback(SoCallbackAction* action) override;
+
  protected:
   ~PoMeshProbePoint() override;
 
  private:
+  // Probes at the field's point when it is not the last point probed.
+  void probeFieldPosition();
+
   Callback callbacks[4];
+  SoField* positionField;
+  bool probed = false;
   SbVec3f position;
   const PbCell* currentCell = nullptr;
   long currentCellIndex = -1;

@@ -1,9 +1,51 @@
 #include <Corvel/CallJournal.h>
+#include <Tavrel/PbCell.h>
+#include <Tavrel/PbMesh.h>
 #include <Tavrel/PoMeshProbePoint.h>
+
+#include <cstdio>
 
 SO_KIT_SOURCE(PoMeshProbePoint, PoMesh, "PoMeshProbePoint", {"probeMarker"})
 
-PoMeshProbePoint::PoMeshProbePoint() { CallJournal::record("PoMeshProbePoint::PoMeshProbePoint"); }
+PoMeshProbePoint::PoMeshProbePoint() : positionField(addOwnField("position")) {
+  CallJournal::record("PoMeshProbePoint::PoMeshProbePoint");
+  positionField->setValueString("0 0 0");
+}
+
+void PoMeshProbePoint::setPosition(const SbVec3f& point) {
+  CallJournal::record("PoMeshProbePoint::setPosition", point);
+  const PbMesh* mesh = getMesh();
+  const PbCell* cell = nullptr;
+  if (mesh != nullptr) {
+    SbVec3f pcoord;
+    cell = mesh->findContainingCell(point, 1e-4f, pcoord);
+  }
+  probed = true;
+  moveTo(point, cell, cell != nullptr ? cell->getIndex() : -1);
+}
+
+void PoMeshProbePoint::probeFieldPosition() {
+  float x, y, z;
+  char extra;
+  if (std::sscanf(positionField->getValueString().getString(), "%f %f %f %c", &x, &y, &z, &extra) != 3) return;
+  SbVec3f point(x, y, z);
+  if (!probed || point != position) setPosition(point);
+}
+
+void PoMeshProbePoint::doAction(SoAction* action) {
+  probeFieldPosition();
+  PoMesh::doAction(action);
+}
+
+void PoMeshProbePoint::GLRender(SoGLRenderAction* action) {
+  probeFieldPosition();
+  PoMesh::GLRender(action);
+}
+
+void PoMeshProbePoint::callback(SoCallbackAction* action) {
+  probeFieldPosition();
+  PoMesh::callback(action);
+}
 PoMeshProbePoint::~PoMeshProbePoint() = default;
 
 void PoMeshProbePoint::setMotionCallback(PoMeshProbePointCB* function, void* userData) {

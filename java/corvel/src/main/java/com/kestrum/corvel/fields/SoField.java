@@ -20,5 +20,22 @@ public class SoField extends NativeObject {
         return getNameNative(handle());
     }
 
+    /** The field's value in its text form (for a vector field, "x y z"). */
+    public String getValue() {
+        return getValueNative(handle());
+    }
+
+    /** Sets the field's value from its text form; the node uses it when next traversed. */
+    public void setValue(String value) {
+        if (value == null) {
+            throw new NullPointerException("value is null");
+        }
+        setValueNative(handle(), value);
+    }
+
     private static native String getNameNative(long handle);
+
+    private static native String getValueNative(long handle);
+
+    private static native void setValueNative(long handle, String value);
 }

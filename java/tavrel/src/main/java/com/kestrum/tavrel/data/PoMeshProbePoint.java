@@ -59,6 +59,14 @@ public class PoMeshProbePoint extends PoMesh {
     }
 
     /** Sets the callback object of the motion event and its user data; null detaches the event. */
+    /**
+     * Moves the probe: sets its field "position". The probe probes its mesh there when an action
+     * next traverses it, raising its events then.
+     */
+    public void setPosition(float x, float y, float z) {
+        getField("position").setValue(x + " " + y + " " + z);
+    }
+
     public void setMotionCallback(PoProbeCB callback, Object userData) {
         register(MOTION, this::setMotionCallbackImpl, callback, userData);
     }
