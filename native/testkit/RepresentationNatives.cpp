@@ -1,9 +1,11 @@
 // com.kestrum.tavrel.testkit.Representations: what the representation nodes
-// keep in plain members, node-kit catalogs, and node references.
+// keep in plain members, the cells they selected, node-kit catalogs, and node
+// references.
 
 #include <jni.h>
 
 #include <Corvel/SoBaseKit.h>
+#include <Tavrel/PoMesh.h>
 #include <Tavrel/PoMeshCrossSection.h>
 
 
@@ -16,6 +18,15 @@ extern "C" {
 JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Representations_crossSectionMethod(JNIEnv*, jclass,
                                                                                         jlong node) {
   return static_cast<jint>(tavrel::fromHandle<PoMeshCrossSection>(node)->getCrossSectionMethod());
+}
+
+// The cells a representation accepted in its last drawing or callback traversal.
+JNIEXPORT jintArray JNICALL Java_com_kestrum_tavrel_testkit_Representations_selectedCells(JNIEnv* env, jclass,
+                                                                                       jlong node) {
+  const std::vector<int>& cells = tavrel::fromHandle<PoMesh>(node)->selectedCells();
+  jintArray result = env->NewIntArray(static_cast<jsize>(cells.size()));
+  if (result != nullptr) env->SetIntArrayRegion(result, 0, static_cast<jsize>(cells.size()), cells.data());
+  return result;
 }
 
 // The type name of the class that owns a node-kit catalog.

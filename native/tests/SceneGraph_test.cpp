@@ -4,7 +4,9 @@
 #include <Corvel/SoAction.h>
 #include <Corvel/SoChildList.h>
 #include <Corvel/SoGroup.h>
+#include <Tavrel/PbTriangleMesh2D.h>
 #include <Tavrel/PoCellFilter.h>
+#include <Tavrel/PoMeshFilled.h>
 
 #include <string>
 
@@ -36,6 +38,43 @@ TEST(PoCellFilter, SelectsCellsByAskingTheFilterAboutEachCell) {
   EXPECT_EQ(PoCellFilter::selectCells(&filter, 4, values), (std::vector<int>{1, 3}));
   EXPECT_EQ(PoCellFilter::selectCells(nullptr, 3, nullptr), (std::vector<int>{0, 1, 2}));
   EXPECT_EQ(PoCellFilter::selectCells(&filter, 2, nullptr), (std::vector<int>{}));
+}
+
+TEST(PoMesh, AsksTheCellFilterTraversedBeforeItAboutEachCellWithItsValue) {
+  const float x[] = {0, 1, 1, 0}, y[] = {0, 0, 1, 1};
+  const int triangles[] = {0, 1, 2, 0, 2, 3};
+  PbTriangleMesh2D mesh(4, x, y, 2, triangles, 1);
+  const float perNode[] = {3, -3, -6, 6};  // cell means -2 and 1
+  mesh.addValuesSet(0, perNode, SbString("v"));
+  SoGroup* root = new SoGroup;
+  root->ref();
+  PoMeshFilled* before = new PoMeshFilled;
+  PoMeshFilled* after = new PoMeshFilled;
+  before->setMesh(&mesh);
+  after->setMesh(&mesh);
+  root->addChild(before);
+  root->addChild(new NegativeValues);
+  root->addChild(after);
+
+  SoCallbackAction callback;
+  callback.apply(root);
+  EXPECT_EQ(before->selectedCells(), (std::vector<int>{0, 1}));
+  EXPECT_EQ(after->selectedCells(), (std::vector<int>{0}));
+
+  const float perCell[] = {5, -5};
+  mesh.addValuesSet(0, perCell, PbMesh::PER_CELL, SbString("v"));
+  SoGLRenderAction render;
+  render.apply(root);
+  EXPECT_EQ(after->selectedCells(), (std::vector<int>{1}));
+
+  mesh.removeValuesSet(0);  // every cell's value is 0 then
+  render.apply(root);
+  EXPECT_EQ(after->selectedCells(), (std::vector<int>{}));
+  EXPECT_EQ(before->selectedCells(), (std::vector<int>{0, 1}));
+  before->setMesh(static_cast<PbMesh2D*>(nullptr));  // nothing to ask about
+  callback.apply(root);
+  EXPECT_EQ(before->selectedCells(), (std::vector<int>{}));
+  root->unref();
 }
 
 TEST(SoGroup, WritesAndTraversesItsChildrenInOrder) {

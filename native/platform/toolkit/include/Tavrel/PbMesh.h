@@ -102,6 +102,11 @@ class PbMesh {
   // Node indices of a cell (empty when the mesh has no such cell).
   virtual void cellNodes(int cellIndex, std::vector<int>& nodes) const;
   const PbCell* cellAt(int cellIndex) const;
+  // One value per cell from a values set: the set's own value for a PER_CELL
+  // set, the mean of the values of the cell's nodes for a PER_NODE set (node
+  // indices outside the mesh are left out; a cell without nodes gets 0), and 0
+  // for every cell when the set is missing or has no data.
+  std::vector<float> cellValues(int set) const;
 
  protected:
   explicit PbMesh(int isDataDuplicated);

@@ -1,8 +1,11 @@
 // A node that tells the representations which cells to draw: acceptCell(i, v)
 // answers whether cell i, whose value is v, is accepted. acceptCell is pure.
 //
-// doAction only records its call and traverses the node's children; write
-// writes nothing (a cell filter is not written to files).
+// doAction records its call, makes the filter the current cell filter of the
+// action's state (as PoNode's action operations do, see PoNode.h) and
+// traverses the node's children; write writes nothing (a cell filter is not
+// written to files). The representations traversed afterwards ask the current
+// filter about their cells (PoMesh.h).
 #pragma once
 
 #include <Tavrel/PoNode.h>
@@ -22,6 +25,11 @@ class PoCellFilter : public PoNode {
   // is null), and keeps the indices of the accepted ones. A null filter
   // accepts every cell.
   static std::vector<int> selectCells(const PoCellFilter* filter, int numCells, const float* values);
+
+  // --- Used inside this toolkit (not journaled) ---
+  // Makes the filter the current cell filter of the action's state, if the
+  // action has one.
+  void makeCurrent(SoAction* action) const;
 
  protected:
   PoCellFilter();

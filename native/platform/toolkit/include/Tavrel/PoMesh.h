@@ -5,9 +5,25 @@
 // The node keeps the addresses it is given: it neither copies nor frees the
 // objects, and the getters return exactly the address last set (null before
 // any set). A null address is accepted and means "none".
+//
+// Drawing (GLRender) and callback traversals select the cells to draw: the
+// representation asks the state's current cell filter (the last PoCellFilter
+// the traversal went through, see SoState.h) about every cell of its mesh,
+// with the cell's value, and keeps the indices of the accepted cells
+// (selectedCells, replaced by each such traversal). Without a filter every
+// cell is accepted. The value of a cell comes from the mesh's values set 0:
+// its value for a per-cell set, the mean of the cell's nodes' values for a
+// per-node set, and 0 without that set or without data in it
+// (PbMesh::cellValues). The mesh is the one given to the most derived
+// setter: a 2D (3D) representation's PoMesh2D (PoMesh3D) mesh, else the
+// PoMesh one. Without a mesh nothing is asked and no cell is selected. Each
+// selection is journaled as "PoMesh::selectCells(filter, numCells,
+// [accepted cells])". Other actions select nothing.
 #pragma once
 
 #include <Tavrel/PoDessvane.h>
+
+#include <vector>
 
 class PbMesh;
 class PbDataMapping;
@@ -34,11 +50,24 @@ class PoMesh : public PoDessvane {
   void setIsovaluesList(PbIsovaluesList* isovalues);
   PbIsovaluesList* getIsovaluesList() const;
 
+  void GLRender(SoGLRenderAction* action) override;
+  void callback(SoCallbackAction* action) override;
+
+  // --- Used inside this toolkit (not journaled) ---
+  // The cells accepted by the last drawing or callback traversal.
+  const std::vector<int>& selectedCells() const { return selected; }
+
  protected:
   PoMesh();
   ~PoMesh() override;
 
+  // The mesh drawn (see above).
+  virtual const PbMesh* drawnMesh() const;
+
  private:
+  void selectCells(SoAction* action);
+
+  std::vector<int> selected;
   PbMesh* mesh = nullptr;
   PbDataMapping* dataMapping = nullptr;
   PbDataMapping* moduleDataMapping = nullptr;

@@ -20,6 +20,7 @@ class PoMesh2D : public PoMesh {
  protected:
   PoMesh2D();
   ~PoMesh2D() override;
+  const PbMesh* drawnMesh() const override;
 
  private:
   PbMesh2D* mesh2D = nullptr;

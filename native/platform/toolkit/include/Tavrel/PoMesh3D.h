@@ -18,6 +18,7 @@ class PoMesh3D : public PoMesh {
  protected:
   PoMesh3D();
   ~PoMesh3D() override;
+  const PbMesh* drawnMesh() const override;
 
  private:
   PbMesh3D* mesh3D = nullptr;

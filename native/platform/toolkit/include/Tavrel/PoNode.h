@@ -3,6 +3,14 @@
 // The action operations below are the extension's own: each records its call
 // and then does what SoNode does (traverse the node's children, or, for
 // write, write the node). All other operations are SoNode's.
+//
+// A cell filter (PoCellFilter) traversed by one of these operations becomes
+// the current cell filter of the action's state (SoState::setCellFilter)
+// before its children are traversed, so that the representations traversed
+// after it ask it about their cells. PoNode's operations are where every filter comes,
+// whatever class or language implements it (the binding runs PoNode's own
+// operation for a filter written in Java), so PoCellFilter does not override
+// them. An action that was never applied has no state: nothing is set then.
 #pragma once
 
 #include <Corvel/SoNode.h>

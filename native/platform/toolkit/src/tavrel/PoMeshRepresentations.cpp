@@ -1,6 +1,11 @@
 // The mesh representation node kits: types, catalogs and the objects they keep.
 
 #include <Corvel/CallJournal.h>
+#include <Corvel/SoAction.h>
+#include <Corvel/SoState.h>
+#include <Tavrel/PbMesh2D.h>
+#include <Tavrel/PbMesh3D.h>
+#include <Tavrel/PoCellFilter.h>
 #include <Tavrel/PoBaseStreamLine.h>
 #include <Tavrel/PoCellEdges.h>
 #include <Tavrel/PoCellFacets.h>
@@ -103,6 +108,33 @@ PbMesh2D* PoMesh2D::getMesh() const { return given("PoMesh2D::getMesh", mesh2D);
 void PoMesh3D::setMesh(PbMesh3D* m) { keep("PoMesh3D::setMesh", mesh3D, m); }
 
 PbMesh3D* PoMesh3D::getMesh() const { return given("PoMesh3D::getMesh", mesh3D); }
+
+// --- cells drawn -----------------------------------------------------------------
+
+const PbMesh* PoMesh::drawnMesh() const { return mesh; }
+
+const PbMesh* PoMesh2D::drawnMesh() const { return mesh2D ? mesh2D : PoMesh::drawnMesh(); }
+
+const PbMesh* PoMesh3D::drawnMesh() const { return mesh3D ? mesh3D : PoMesh::drawnMesh(); }
+
+void PoMesh::selectCells(SoAction* action) {
+  const PbMesh* drawn = drawnMesh();
+  if (drawn == nullptr) {
+    selected.clear();
+    return;
+  }
+  const SoState* state = action->getState();
+  const PoCellFilter* filter = state != nullptr ? state->getCellFilter() : nullptr;
+  const std::vector<float> values = drawn->cellValues(0);
+  const int numCells = static_cast<int>(values.size());
+  selected = PoCellFilter::selectCells(filter, numCells, values.data());
+  CallJournal::record("PoMesh::selectCells", static_cast<const void*>(filter), numCells,
+                      journalArray(selected.data(), static_cast<long>(selected.size())));
+}
+
+void PoMesh::GLRender(SoGLRenderAction* action) { selectCells(action); }
+
+void PoMesh::callback(SoCallbackAction* action) { selectCells(action); }
 
 void PoMeshContouring::setFormat(PbNumericDisplayFormat* f) { keep("PoMeshContouring::setFormat", format, f); }
 

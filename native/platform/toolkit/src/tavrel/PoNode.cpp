@@ -1,5 +1,6 @@
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoAction.h>
+#include <Corvel/SoState.h>
 #include <Tavrel/PoCellFilter.h>
 #include <Tavrel/PoNode.h>
 
@@ -8,10 +9,19 @@ SO_NODE_ABSTRACT_SOURCE(PoNode, SoNode, "PoNode")
 PoNode::PoNode() = default;
 PoNode::~PoNode() = default;
 
-// Each records "PoNode::<op>(action)" and does SoNode's work.
+namespace {
+// A cell filter becomes the state's current one (see PoNode.h).
+void enterState(PoNode* node, SoAction* action) {
+  if (const auto* filter = dynamic_cast<const PoCellFilter*>(node)) filter->makeCurrent(action);
+}
+}  // namespace
+
+// Each records "PoNode::<op>(action)", lets a cell filter enter the state and
+// does SoNode's work.
 #define PO_NODE_ACTION(op, ActionClass)                                 \
   void PoNode::op(ActionClass* action) {                                \
     CallJournal::record("PoNode::" #op, static_cast<const void*>(action)); \
+    enterState(this, action);                                           \
     SoNode::op(action);                                                 \
   }
 
@@ -34,6 +44,7 @@ PoCellFilter::~PoCellFilter() = default;
 
 void PoCellFilter::doAction(SoAction* action) {
   CallJournal::record("PoCellFilter::doAction", static_cast<const void*>(action));
+  makeCurrent(action);
   traverseChildren(action);
 }
 
@@ -46,4 +57,8 @@ std::vector<int> PoCellFilter::selectCells(const PoCellFilter* filter, int numCe
   for (int i = 0; i < numCells; ++i)
     if (filter == nullptr || filter->acceptCell(i, values ? values[i] : 0.0f)) accepted.push_back(i);
   return accepted;
+}
+
+void PoCellFilter::makeCurrent(SoAction* action) const {
+  if (SoState* state = action != nullptr ? action->getState() : nullptr) state->setCellFilter(this);
 }

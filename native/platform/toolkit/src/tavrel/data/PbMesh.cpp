@@ -230,6 +230,29 @@ const PbMesh::ValuesSet* PbMesh::valuesSet(int set) const {
   return it == values.end() ? nullptr : &it->second;
 }
 
+std::vector<float> PbMesh::cellValues(int set) const {
+  std::vector<float> result(static_cast<std::size_t>(numCells), 0.0f);
+  const ValuesSet* s = valuesSet(set);
+  if (s == nullptr || !s->hasData) return result;
+  if (s->binding == PER_CELL) {
+    std::copy(s->data.begin(), s->data.begin() + numCells, result.begin());
+    return result;
+  }
+  std::vector<int> nodes;
+  for (int c = 0; c < numCells; ++c) {
+    cellNodes(c, nodes);
+    double sum = 0;
+    int counted = 0;
+    for (int n : nodes)
+      if (n >= 0 && n < numNodes) {
+        sum += s->data[n];
+        ++counted;
+      }
+    if (counted > 0) result[c] = static_cast<float>(sum / counted);
+  }
+  return result;
+}
+
 PbMesh::DataBinding PbMesh::getValuesBinding(int set) const {
   CallJournal::record("PbMesh::getValuesBinding", set);
   const ValuesSet* s = valuesSet(set);

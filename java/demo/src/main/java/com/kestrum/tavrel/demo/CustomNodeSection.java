@@ -4,8 +4,13 @@ import com.kestrum.corvel.actions.SoCallbackAction;
 import com.kestrum.corvel.actions.SoGLRenderAction;
 import com.kestrum.corvel.actions.SoWriteAction;
 import com.kestrum.corvel.nodes.SoGroup;
+import com.kestrum.tavrel.data.PbMesh;
+import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
+import com.kestrum.tavrel.data.PoMeshFilled;
 import com.kestrum.tavrel.nodes.PoCellFilter;
 import com.kestrum.tavrel.nodes.PoNode;
+import java.util.ArrayList;
+import java.util.List;
 
 /** A node and a cell filter written in Java, used by the toolkit. */
 final class CustomNodeSection implements Demo.Section {
@@ -27,10 +32,12 @@ final class CustomNodeSection implements Demo.Section {
         }
     }
 
-    /** Accepts the cells whose value lies in [low, high]. */
+    /** Accepts the cells whose value lies in [low, high]; remembers what it was asked and answered. */
     static final class ValueRangeFilter extends PoCellFilter {
         private final float low;
         private final float high;
+        final List<String> answers = new ArrayList<>();
+        final List<Integer> accepted = new ArrayList<>();
 
         ValueRangeFilter() {
             this(0, 0);
@@ -43,7 +50,12 @@ final class CustomNodeSection implements Demo.Section {
 
         @Override
         public boolean acceptCell(int cellIndex, float value) {
-            return value >= low && value <= high;
+            boolean accept = value >= low && value <= high;
+            answers.add("cell " + cellIndex + " (value " + value + "): " + (accept ? "accepted" : "rejected"));
+            if (accept) {
+                accepted.add(cellIndex);
+            }
+            return accept;
         }
     }
 
@@ -73,17 +85,24 @@ final class CustomNodeSection implements Demo.Section {
             System.out.print("Written by the toolkit:\n" + write.getOutput());
         }
 
-        float[] cellValues = {0.1f, 0.45f, 0.8f, 0.3f, 0.95f, 0.5f};
-        try (ValueRangeFilter filter = new ValueRangeFilter(0.3f, 0.8f)) {
-            // A representation asks its filter about every cell of its mesh with the cell's value.
-            StringBuilder accepted = new StringBuilder();
-            for (int cell = 0; cell < cellValues.length; cell++) {
-                if (filter.acceptCell(cell, cellValues[cell])) {
-                    accepted.append(accepted.length() == 0 ? "" : ", ").append(cell);
-                }
+        // A grid of 4 x 3 nodes has 3 x 2 cells; the representation draws them with their values (set 0).
+        try (PbMesh grid = new PbRegularCartesianGrid2D(4, 3, 0f, 0f, 3f, 2f, false);
+                ValueRangeFilter filter = new ValueRangeFilter(0.3f, 0.8f);
+                PoMeshFilled filled = new PoMeshFilled();
+                SoGroup scene = new SoGroup();
+                SoGLRenderAction render = new SoGLRenderAction()) {
+            grid.addValuesSet(0, new float[] {0.1f, 0.45f, 0.8f, 0.3f, 0.95f, 0.5f}, PbMesh.DataBindings.PER_CELL,
+                    "temperature");
+            filled.setMesh(grid);
+            scene.addChild(filter); // the filter comes first: the representation after it asks it
+            scene.addChild(filled);
+            render.apply(scene);
+            System.out.println("Rendering a PoMeshFilled of " + grid.getNumCells() + " cells after cell filter "
+                    + filter.getTypeName() + " (values in [0.3, 0.8]); the toolkit asked:");
+            for (String answer : filter.answers) {
+                System.out.println("  " + answer);
             }
-            System.out.println("Cell filter " + filter.getTypeName() + " accepts the cells with values in [0.3, 0.8]: "
-                    + accepted);
+            System.out.println("Cells drawn: " + filter.accepted);
         }
     }
 }

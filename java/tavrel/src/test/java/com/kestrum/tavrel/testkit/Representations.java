@@ -3,7 +3,10 @@ package com.kestrum.tavrel.testkit;
 import java.util.Arrays;
 import java.util.List;
 
-/** What representation nodes keep in plain members, node-kit catalogs and node references. */
+/**
+ * What representation nodes keep in plain members, the cells they selected, node-kit catalogs
+ * and node references.
+ */
 public final class Representations {
     static {
         TestLibrary.ensureLoaded();
@@ -13,6 +16,12 @@ public final class Representations {
 
     /** The cross-section method member of a native PoMeshCrossSection. */
     public static native int crossSectionMethod(long node);
+
+    /**
+     * The cells that a native representation (a PoMesh) accepted in its last drawing or callback
+     * traversal, asking the traversal's current cell filter.
+     */
+    public static native int[] selectedCells(long node);
 
     /** The type name of the class that owns the catalog. */
     public static native String catalogOwner(long catalog);
