@@ -1,7 +1,7 @@
 // Base of the representations of a two-dimensional mesh.
 //
 // setMesh(PbMesh2D*) hides PoMesh::setMesh: the stand-in keeps the 2D mesh in
-// a member of its own (it only knows the mesh classes by name), so the 2D
+// a member of its own, so the 2D
 // getter returns what the 2D setter stored and PoMesh's getter what PoMesh's
 // setter stored.
 #pragma once
