@@ -11,8 +11,10 @@ public class PbHexahedronMesh3D extends PbIndexedMesh3D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
-            flag says. */
+    /**
+     * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
+     * given whatever the flag says.
+     */
     public PbHexahedronMesh3D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }

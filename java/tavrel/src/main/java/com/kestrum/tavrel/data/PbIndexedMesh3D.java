@@ -12,7 +12,10 @@ public class PbIndexedMesh3D extends PbMesh3D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /**
+     * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
+     * given whatever the flag says.
+     */
     public PbIndexedMesh3D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }

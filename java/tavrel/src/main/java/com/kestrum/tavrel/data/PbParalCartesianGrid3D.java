@@ -12,7 +12,10 @@ public class PbParalCartesianGrid3D extends PbGrid3D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /**
+     * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
+     * given whatever the flag says.
+     */
     public PbParalCartesianGrid3D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated), true);
     }

@@ -11,7 +11,10 @@ public class PbPolarGrid2D extends PbGrid2D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the flag says. */
+    /**
+     * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
+     * given whatever the flag says.
+     */
     public PbPolarGrid2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated), true);
     }

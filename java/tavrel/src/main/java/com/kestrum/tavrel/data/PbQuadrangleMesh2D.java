@@ -10,8 +10,10 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
         JarInitializer.init();
     }
 
-    /** An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is given whatever the
-            flag says. */
+    /**
+     * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
+     * given whatever the flag says.
+     */
     public PbQuadrangleMesh2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
