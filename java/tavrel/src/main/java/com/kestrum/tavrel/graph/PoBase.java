@@ -178,6 +178,25 @@ public abstract class PoBase extends SoBaseKit {
         return JavaViews.find(PoBase.class, handle, null);
     }
 
+    /**
+     * A new graph node of the toolkit type of that name (a class with a constructor without
+     * arguments), made by the toolkit as it makes nodes it reads from a file; the Java object
+     * returned holds the only reference on it. Null when the toolkit makes no node of that name.
+     *
+     * @throws IllegalArgumentException when the type is not a graph node type
+     */
+    public static PoBase createInstance(String typeName) {
+        SoNode made = SoNode.createInstance(notNull(typeName, "typeName"));
+        if (made == null || made instanceof PoBase) {
+            return (PoBase) made;
+        }
+        try {
+            return of(made);
+        } finally {
+            made.dispose();
+        }
+    }
+
     /** The name of the class's toolkit type. */
     public static String getClassTypeName() {
         return getClassTypeId();
