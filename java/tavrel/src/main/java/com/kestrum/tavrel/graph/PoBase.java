@@ -2,9 +2,18 @@ package com.kestrum.tavrel.graph;
 
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
+import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
+import com.kestrum.corvel.actions.SoDistributeAction;
 import com.kestrum.corvel.actions.SoGLRenderAction;
 import com.kestrum.corvel.actions.SoGetBoundingBoxAction;
+import com.kestrum.corvel.actions.SoGetMatrixAction;
+import com.kestrum.corvel.actions.SoGetPrimitiveCountAction;
+import com.kestrum.corvel.actions.SoHandleEventAction;
+import com.kestrum.corvel.actions.SoPickAction;
+import com.kestrum.corvel.actions.SoRayPickAction;
+import com.kestrum.corvel.actions.SoSearchAction;
+import com.kestrum.corvel.actions.SoWriteAction;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.corvel.nodes.SoNode;
@@ -342,7 +351,20 @@ public abstract class PoBase extends SoBaseKit {
         }
     }
 
-    // --- traversals that may rebuild the node --------------------------------------------
+    // --- operations during which the toolkit may rebuild the node ----------------------------
+    //
+    // A traversal (or a touch) may rebuild a modified node and so call its listeners, which may
+    // dispose of it: each runs under the same protection as rebuild().
+
+    @Override
+    public void touch() {
+        rebuilding(h -> super.touch());
+    }
+
+    @Override
+    public void doAction(SoAction action) {
+        rebuilding(h -> super.doAction(action));
+    }
 
     @Override
     public void GLRender(SoGLRenderAction action) {
@@ -357,6 +379,61 @@ public abstract class PoBase extends SoBaseKit {
     @Override
     public void getBoundingBox(SoGetBoundingBoxAction action) {
         rebuilding(h -> super.getBoundingBox(action));
+    }
+
+    @Override
+    public void getMatrix(SoGetMatrixAction action) {
+        rebuilding(h -> super.getMatrix(action));
+    }
+
+    @Override
+    public void handleEvent(SoHandleEventAction action) {
+        rebuilding(h -> super.handleEvent(action));
+    }
+
+    @Override
+    public void pick(SoPickAction action) {
+        rebuilding(h -> super.pick(action));
+    }
+
+    @Override
+    public void rayPick(SoRayPickAction action) {
+        rebuilding(h -> super.rayPick(action));
+    }
+
+    @Override
+    public void search(SoSearchAction action) {
+        rebuilding(h -> super.search(action));
+    }
+
+    @Override
+    public void write(SoWriteAction action) {
+        rebuilding(h -> super.write(action));
+    }
+
+    @Override
+    public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
+        rebuilding(h -> super.getPrimitiveCount(action));
+    }
+
+    @Override
+    public void distribute(SoDistributeAction action) {
+        rebuilding(h -> super.distribute(action));
+    }
+
+    @Override
+    public void GLRenderBelowPath(SoGLRenderAction action) {
+        rebuilding(h -> super.GLRenderBelowPath(action));
+    }
+
+    @Override
+    public void GLRenderInPath(SoGLRenderAction action) {
+        rebuilding(h -> super.GLRenderInPath(action));
+    }
+
+    @Override
+    public void GLRenderOffPath(SoGLRenderAction action) {
+        rebuilding(h -> super.GLRenderOffPath(action));
     }
 
     // --- disposal during a rebuild ----------------------------------------------------------

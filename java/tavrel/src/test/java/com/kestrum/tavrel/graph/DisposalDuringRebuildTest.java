@@ -14,6 +14,7 @@ import java.util.ArrayList;
 import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
+import java.util.function.BiConsumer;
 import java.util.function.Consumer;
 import org.junit.jupiter.api.Test;
 
@@ -28,14 +29,18 @@ class DisposalDuringRebuildTest {
         calls.put("rebuild", PoBase::rebuild);
         calls.put("touchKit", PoBase::touchKit);
         calls.put("setDomain", n -> n.setDomain(new PbDomain()));
-        calls.put("GLRender", n -> {
-            n.setUpdateMethod(PoBase.UpdateMethodTypes.UPDATEMETHODONACTION);
-            n.touchKit();
-            try (SoGLRenderAction render = new SoGLRenderAction()) {
-                n.GLRender(render);
-            }
-        });
+        calls.put("GLRender", n -> render(n, SoNode::GLRender));
+        calls.put("GLRenderInPath", n -> render(n, SoNode::GLRenderInPath)); // the toolkit's calls GLRender
         return calls;
+    }
+
+    /** A change that waits for a traversal, then the node's render operation called directly. */
+    private static void render(PoBase node, BiConsumer<SoNode, SoGLRenderAction> operation) {
+        node.setUpdateMethod(PoBase.UpdateMethodTypes.UPDATEMETHODONACTION);
+        node.touchKit();
+        try (SoGLRenderAction render = new SoGLRenderAction()) {
+            operation.accept(node, render);
+        }
     }
 
     /**
