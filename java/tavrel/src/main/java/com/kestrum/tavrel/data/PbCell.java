@@ -37,7 +37,7 @@ public class PbCell extends NativeObject {
     /** A cell made by a subclass's constructor, registered as the peer of its native cell. */
     protected PbCell(long handle) {
         this(handle, null);
-        ManagedObjects.registerPeer(handle, this);
+        registerAsPeer(false);
     }
 
     /** The native handle of a cell that is still valid. */

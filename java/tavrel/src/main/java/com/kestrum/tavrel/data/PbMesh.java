@@ -66,7 +66,7 @@ public abstract class PbMesh extends NativeObject {
     /** Wraps a native mesh (made by a subclass's constructor, or owned elsewhere). */
     protected PbMesh(long handle) {
         super(handle);
-        ManagedObjects.registerPeer(handle, this);
+        registerAsPeer(false);
     }
 
     /** Records a change of geometry: the cells handed out so far stop working. */

@@ -1,0 +1,139 @@
+package com.kestrum.tavrel;
+
+import static org.junit.jupiter.api.Assertions.assertEquals;
+import static org.junit.jupiter.api.Assertions.assertFalse;
+import static org.junit.jupiter.api.Assertions.assertTrue;
+
+import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.data.PbCell;
+import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
+import com.kestrum.tavrel.data.PbRegularMesh1D;
+import com.kestrum.tavrel.data.PbTriangleCell;
+import com.kestrum.tavrel.data.PoMeshFilled;
+import com.kestrum.tavrel.data.PoMeshProbePoint;
+import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
+import com.kestrum.tavrel.nodes.PoCellFilter;
+import com.kestrum.tavrel.testkit.ChildJvm;
+import java.lang.reflect.Field;
+import java.util.List;
+import java.util.Map;
+import java.util.regex.Pattern;
+import org.junit.jupiter.params.ParameterizedTest;
+import org.junit.jupiter.params.provider.EnumSource;
+
+/**
+ * Public call sequences that once killed the JVM (or ran it out of heap), each run in a child
+ * JVM: the child runs the scenario and prints what the library answered; a crash, a sanitizer
+ * report or an uncaught error is a failure here, not a dead test run.
+ *
+ * <p>The meshes are large on purpose: memory freed under a Java view is then made of blocks big
+ * enough for free to give back to the system, so that a read of it faults instead of finding
+ * stale data.
+ */
+class CrashRegressionTest {
+    /** Printed by the child when the scenario ran to its end. */
+    private static final String DONE = "scenario done";
+
+    /** A scenario: what the child does, its JVM options, and a pattern its output must match. */
+    enum Scenario {
+        /** Meshes and cells made and disposed, in a small heap. */
+        PEERS_DISPOSED(List.of("-Xmx16m"), "peer table entries: \\d{1,2}\\R"),
+        /** Meshes and cells made and dropped without disposal, in a small heap. */
+        PEERS_COLLECTED(List.of("-Xmx16m"), "peer table entries: \\d{1,2}\\R");
+
+        final List<String> jvmOptions;
+        final Pattern expected;
+
+        Scenario(List<String> jvmOptions, String expected) {
+            this.jvmOptions = jvmOptions;
+            this.expected = Pattern.compile(expected);
+        }
+    }
+
+    public static void main(String[] args) throws Exception {
+        Scenario scenario = Scenario.valueOf(args[0]);
+        switch (scenario) {
+            case PEERS_DISPOSED -> Scenarios.peers(true);
+            case PEERS_COLLECTED -> Scenarios.peers(false);
+        }
+        System.out.println(DONE);
+    }
+
+    @ParameterizedTest
+    @EnumSource(Scenario.class)
+    void runsToItsEndInAChildJvm(Scenario scenario) throws Exception {
+        ChildJvm.Result r = ChildJvm.run(CrashRegressionTest.class, scenario.jvmOptions, 300, scenario.name());
+        assertFalse(r.crashed(), r::describe);
+        assertFalse(r.jniWarning(), r::describe);
+        assertEquals(0, r.exitCode(), r::describe);
+        assertTrue(r.output().contains(DONE), r::describe);
+        assertTrue(scenario.expected.matcher(r.output()).find(), () -> "no match of " + scenario.expected + ": "
+                + r.describe());
+    }
+
+    /** The scenarios, run in the child. */
+    static final class Scenarios {
+        /** Cells of the filter scenarios' mesh. */
+        static final int FILTER_CELLS = 499 * 499;
+
+        private Scenarios() {}
+
+        /** A grid of (n-1)^2 cells over [0, 1]^2, every cell made (they are made when first used). */
+        private static PbRegularCartesianGrid2D gridWithEveryCell(int n) {
+            PbRegularCartesianGrid2D grid = new PbRegularCartesianGrid2D(n, n, 0, 0, 1, 1, false);
+            grid.getArea();
+            return grid;
+        }
+
+        /** Accepts every cell; disposes itself when asked about cell disposeAt. */
+        static final class DisposingFilter extends PoCellFilter {
+            int asked;
+            int disposeAt = -1;
+
+            DisposingFilter() {
+                super("CrashRegressionDisposingFilter");
+            }
+
+            @Override
+            public boolean acceptCell(int cellIndex, float value) {
+                asked++;
+                if (cellIndex == disposeAt) {
+                    dispose();
+                }
+                return true;
+            }
+        }
+
+        private static PoMeshFilled filledOver(PbRegularCartesianGrid2D grid) {
+            PoMeshFilled filled = new PoMeshFilled();
+            filled.setMesh(grid);
+            return filled;
+        }
+
+        /**
+         * Meshes and cells, each disposed or dropped (200,000 of each: their table entries alone
+         * would need more than the 16 MB heap); reports the peer table's size once the
+         * collected peers could have been dropped.
+         */
+        static void peers(boolean dispose) throws Exception {
+            for (int i = 0; i < 200_000; i++) {
+                PbRegularMesh1D mesh = new PbRegularMesh1D();
+                PbTriangleCell cell = new PbTriangleCell(mesh);
+                if (dispose) {
+                    cell.dispose();
+                    mesh.dispose();
+                }
+            }
+            Field field = ManagedObjects.class.getDeclaredField("PEERS");
+            field.setAccessible(true);
+            Map<?, ?> table = (Map<?, ?>) field.get(null);
+            for (int i = 0; i < 100 && table.size() > 10; i++) {
+                System.gc();
+                Thread.sleep(20);
+                new PbRegularMesh1D().dispose();  // a registration drops the entries of collected peers
+            }
+            System.out.println("peer table entries: " + table.size());
+        }
+    }
+}
