@@ -37,6 +37,8 @@ class CrashRegressionTest {
 
     /** A scenario: what the child does, its JVM options, and a pattern its output must match. */
     enum Scenario {
+        /** A node count that fits an int but no Java array, on a mesh with a strings set. */
+        HUGE_NODE_COUNT(List.of(), "refused: java.lang.IllegalArgumentException: numNodes"),
         /** Meshes and cells made and disposed, in a small heap. */
         PEERS_DISPOSED(List.of("-Xmx16m"), "peer table entries: \\d{1,2}\\R"),
         /** Meshes and cells made and dropped without disposal, in a small heap. */
@@ -54,6 +56,7 @@ class CrashRegressionTest {
     public static void main(String[] args) throws Exception {
         Scenario scenario = Scenario.valueOf(args[0]);
         switch (scenario) {
+            case HUGE_NODE_COUNT -> Scenarios.hugeNodeCount();
             case PEERS_DISPOSED -> Scenarios.peers(true);
             case PEERS_COLLECTED -> Scenarios.peers(false);
         }
@@ -109,6 +112,18 @@ class CrashRegressionTest {
             PoMeshFilled filled = new PoMeshFilled();
             filled.setMesh(grid);
             return filled;
+        }
+
+        static void hugeNodeCount() {
+            try (PbRegularMesh1D mesh = new PbRegularMesh1D(2, 0, 1)) {
+                mesh.addStringsSet(0, new String[] {"a", "b"}, "labels");
+                try {
+                    mesh.setGeometry(Integer.MAX_VALUE, 0, 1);
+                    System.out.println("accepted: " + mesh.getNumNodes());
+                } catch (IllegalArgumentException e) {
+                    System.out.println("refused: " + e);
+                }
+            }
         }
 
         /**
