@@ -14,7 +14,9 @@ import com.kestrum.tavrel.data.PoMeshFilled;
 import com.kestrum.tavrel.data.PoMeshProbePoint;
 import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
 import com.kestrum.tavrel.nodes.PoCellFilter;
+import com.kestrum.tavrel.nodes.PoNode;
 import com.kestrum.tavrel.testkit.ChildJvm;
+import com.kestrum.tavrel.testkit.Representations;
 import java.lang.reflect.Field;
 import java.util.List;
 import java.util.Map;
@@ -37,6 +39,11 @@ class CrashRegressionTest {
 
     /** A scenario: what the child does, its JVM options, and a pattern its output must match. */
     enum Scenario {
+        /** A filter applied alone, then disposed; a representation rendered with that action. */
+        FILTER_DISPOSED_AFTER_APPLY(List.of(), "cells drawn: " + Scenarios.FILTER_CELLS + "\\R"),
+        /** A filter that disposes itself in acceptCell, asked by a representation. */
+        FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL(List.of(), "asked after the apply: 0\\R"
+                + "asked during the traversal: " + Scenarios.FILTER_CELLS + ", disposed: true\\R"),
         /** A node count that fits an int but no Java array, on a mesh with a strings set. */
         HUGE_NODE_COUNT(List.of(), "refused: java.lang.IllegalArgumentException: numNodes"),
         /** Meshes and cells made and disposed, in a small heap. */
@@ -56,6 +63,8 @@ class CrashRegressionTest {
     public static void main(String[] args) throws Exception {
         Scenario scenario = Scenario.valueOf(args[0]);
         switch (scenario) {
+            case FILTER_DISPOSED_AFTER_APPLY -> Scenarios.filterDisposedAfterApply();
+            case FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL -> Scenarios.filterDisposingItselfInAcceptCell();
             case HUGE_NODE_COUNT -> Scenarios.hugeNodeCount();
             case PEERS_DISPOSED -> Scenarios.peers(true);
             case PEERS_COLLECTED -> Scenarios.peers(false);
@@ -112,6 +121,60 @@ class CrashRegressionTest {
             PoMeshFilled filled = new PoMeshFilled();
             filled.setMesh(grid);
             return filled;
+        }
+
+        /** A filter applied alone and disposed; a representation rendered with that action after. */
+        static void filterDisposedAfterApply() {
+            PbRegularCartesianGrid2D grid = gridWithEveryCell(500);
+            try (SoGLRenderAction render = new SoGLRenderAction(); PoMeshFilled filled = filledOver(grid)) {
+                DisposingFilter filter = new DisposingFilter();
+                render.apply(filter);
+                filter.dispose();
+                filled.GLRender(render);
+                System.out.println("cells drawn: " + Representations.selectedCells(filled.getNativeResourceHandleInternal()).length);
+            }
+        }
+
+        /** Renders a filter, then a representation, as a group of both would, holding neither. */
+        static final class FilterThenRepresentation extends PoNode {
+            private final PoCellFilter filter;
+            private final PoMeshFilled representation;
+
+            FilterThenRepresentation(PoCellFilter filter, PoMeshFilled representation) {
+                super("CrashRegressionFilterThenRepresentation");
+                this.filter = filter;
+                this.representation = representation;
+            }
+
+            @Override
+            public void GLRender(SoGLRenderAction action) {
+                filter.GLRender(action);
+                representation.GLRender(action);
+            }
+        }
+
+        /**
+         * A filter that disposes itself in acceptCell, asked by a representation: once after the
+         * apply that made it current has returned, once during a traversal in which only its Java
+         * object referenced it.
+         */
+        static void filterDisposingItselfInAcceptCell() {
+            PbRegularCartesianGrid2D grid = gridWithEveryCell(500);
+            try (SoGLRenderAction render = new SoGLRenderAction(); PoMeshFilled filled = filledOver(grid)) {
+                DisposingFilter afterApply = new DisposingFilter();
+                afterApply.disposeAt = 0;
+                render.apply(afterApply);
+                filled.GLRender(render);
+                System.out.println("asked after the apply: " + afterApply.asked);
+                afterApply.dispose();
+
+                DisposingFilter during = new DisposingFilter();
+                during.disposeAt = 0;
+                try (FilterThenRepresentation root = new FilterThenRepresentation(during, filled)) {
+                    render.apply(root);
+                }
+                System.out.println("asked during the traversal: " + during.asked + ", disposed: " + during.isDisposed());
+            }
         }
 
         static void hugeNodeCount() {
