@@ -39,6 +39,8 @@ class CrashRegressionTest {
 
     /** A scenario: what the child does, its JVM options, and a pattern its output must match. */
     enum Scenario {
+        /** A listener disposes the probe (its Java object holds the last reference) mid-render. */
+        PROBE_DISPOSED_BY_ITS_LISTENER(List.of(), "probe disposed: true"),
         /** A filter applied alone, then disposed; a representation rendered with that action. */
         FILTER_DISPOSED_AFTER_APPLY(List.of(), "cells drawn: " + Scenarios.FILTER_CELLS + "\\R"),
         /** A filter that disposes itself in acceptCell, asked by a representation. */
@@ -63,6 +65,7 @@ class CrashRegressionTest {
     public static void main(String[] args) throws Exception {
         Scenario scenario = Scenario.valueOf(args[0]);
         switch (scenario) {
+            case PROBE_DISPOSED_BY_ITS_LISTENER -> Scenarios.probeDisposedByItsListener();
             case FILTER_DISPOSED_AFTER_APPLY -> Scenarios.filterDisposedAfterApply();
             case FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL -> Scenarios.filterDisposingItselfInAcceptCell();
             case HUGE_NODE_COUNT -> Scenarios.hugeNodeCount();
@@ -96,6 +99,26 @@ class CrashRegressionTest {
             PbRegularCartesianGrid2D grid = new PbRegularCartesianGrid2D(n, n, 0, 0, 1, 1, false);
             grid.getArea();
             return grid;
+        }
+
+        static void probeDisposedByItsListener() {
+            PbRegularCartesianGrid2D grid = gridWithEveryCell(600);
+            PoMeshProbePoint probe = new PoMeshProbePoint();
+            probe.setMesh(grid);
+            int[] events = new int[1];
+            PoProbeCB disposer = new PoProbeCB((p, cell, handle, data) -> {
+                events[0]++;
+                probe.dispose();
+            });
+            probe.setEnterMeshCallback(disposer, null);
+            probe.setChangeCellCallback(disposer, null);
+            probe.setMotionCallback(disposer, null);
+            probe.setPosition(0.5f, 0.5f, 0);
+            try (SoGLRenderAction render = new SoGLRenderAction()) {
+                probe.GLRender(render);
+            }
+            System.out.println("events: " + events[0]);
+            System.out.println("probe disposed: " + probe.isDisposed());
         }
 
         /** Accepts every cell; disposes itself when asked about cell disposeAt. */

@@ -85,52 +85,52 @@ public abstract class PoNode extends SoNode {
 
     @Override
     public void doAction(SoAction action) {
-        doActionImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::doActionImpl);
     }
 
     @Override
     public void GLRender(SoGLRenderAction action) {
-        GLRenderImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::GLRenderImpl);
     }
 
     @Override
     public void callback(SoCallbackAction action) {
-        callbackImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::callbackImpl);
     }
 
     @Override
     public void getBoundingBox(SoGetBoundingBoxAction action) {
-        getBoundingBoxImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::getBoundingBoxImpl);
     }
 
     @Override
     public void getMatrix(SoGetMatrixAction action) {
-        getMatrixImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::getMatrixImpl);
     }
 
     @Override
     public void handleEvent(SoHandleEventAction action) {
-        handleEventImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::handleEventImpl);
     }
 
     @Override
     public void pick(SoPickAction action) {
-        pickImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::pickImpl);
     }
 
     @Override
     public void search(SoSearchAction action) {
-        searchImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::searchImpl);
     }
 
     @Override
     public void write(SoWriteAction action) {
-        writeImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::writeImpl);
     }
 
     @Override
     public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
-        getPrimitiveCountImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::getPrimitiveCountImpl);
     }
 
     private static native long ctorImpl();
