@@ -2,18 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
-import com.kestrum.corvel.actions.SoAction;
-import com.kestrum.corvel.actions.SoCallbackAction;
-import com.kestrum.corvel.actions.SoDistributeAction;
-import com.kestrum.corvel.actions.SoGLRenderAction;
-import com.kestrum.corvel.actions.SoGetBoundingBoxAction;
-import com.kestrum.corvel.actions.SoGetMatrixAction;
-import com.kestrum.corvel.actions.SoGetPrimitiveCountAction;
-import com.kestrum.corvel.actions.SoHandleEventAction;
-import com.kestrum.corvel.actions.SoPickAction;
-import com.kestrum.corvel.actions.SoRayPickAction;
-import com.kestrum.corvel.actions.SoSearchAction;
-import com.kestrum.corvel.actions.SoWriteAction;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.corvel.nodes.SoNode;
@@ -41,8 +29,9 @@ import java.util.function.LongConsumer;
  * are then dropped. An exception thrown by a listener surfaces from the Java call that made the
  * node rebuild (later events of that call are dropped).
  *
- * <p>A listener may dispose of the node it receives: the node is then disposed when the call that
- * rebuilt it returns, not while it is being rebuilt.
+ * <p>A listener may dispose of the node it receives: the Java object is disposed at once, and the
+ * native node is let go when the Java call that rebuilt it returns, never while the toolkit is
+ * rebuilding it. Later events of that call hand listeners a new view of the node.
  *
  * <p>The Java object is the registered Java object of its native node, so callbacks receive it.
  */
@@ -157,9 +146,6 @@ public abstract class PoBase extends SoBaseKit {
         void onRebuild(PoBase node);
     }
 
-    private final Object lifecycle = new Object();
-    private int callsInProgress;
-    private boolean disposeRequested;
     private PbDomain domain;
     private final List<PoRebuildCB> preCallbacks = new ArrayList<>();
     private final List<PoRebuildCB> postCallbacks = new ArrayList<>();
@@ -351,127 +337,17 @@ public abstract class PoBase extends SoBaseKit {
         }
     }
 
-    // --- operations during which the toolkit may rebuild the node ----------------------------
-    //
-    // A traversal (or a touch) may rebuild a modified node and so call its listeners, which may
-    // dispose of it: each runs under the same protection as rebuild().
-
-    @Override
-    public void touch() {
-        rebuilding(h -> super.touch());
-    }
-
-    @Override
-    public void doAction(SoAction action) {
-        rebuilding(h -> super.doAction(action));
-    }
-
-    @Override
-    public void GLRender(SoGLRenderAction action) {
-        rebuilding(h -> super.GLRender(action));
-    }
-
-    @Override
-    public void callback(SoCallbackAction action) {
-        rebuilding(h -> super.callback(action));
-    }
-
-    @Override
-    public void getBoundingBox(SoGetBoundingBoxAction action) {
-        rebuilding(h -> super.getBoundingBox(action));
-    }
-
-    @Override
-    public void getMatrix(SoGetMatrixAction action) {
-        rebuilding(h -> super.getMatrix(action));
-    }
-
-    @Override
-    public void handleEvent(SoHandleEventAction action) {
-        rebuilding(h -> super.handleEvent(action));
-    }
-
-    @Override
-    public void pick(SoPickAction action) {
-        rebuilding(h -> super.pick(action));
-    }
-
-    @Override
-    public void rayPick(SoRayPickAction action) {
-        rebuilding(h -> super.rayPick(action));
-    }
-
-    @Override
-    public void search(SoSearchAction action) {
-        rebuilding(h -> super.search(action));
-    }
-
-    @Override
-    public void write(SoWriteAction action) {
-        rebuilding(h -> super.write(action));
-    }
-
-    @Override
-    public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
-        rebuilding(h -> super.getPrimitiveCount(action));
-    }
-
-    @Override
-    public void distribute(SoDistributeAction action) {
-        rebuilding(h -> super.distribute(action));
-    }
-
-    @Override
-    public void GLRenderBelowPath(SoGLRenderAction action) {
-        rebuilding(h -> super.GLRenderBelowPath(action));
-    }
-
-    @Override
-    public void GLRenderInPath(SoGLRenderAction action) {
-        rebuilding(h -> super.GLRenderInPath(action));
-    }
-
-    @Override
-    public void GLRenderOffPath(SoGLRenderAction action) {
-        rebuilding(h -> super.GLRenderOffPath(action));
-    }
-
-    // --- disposal during a rebuild ----------------------------------------------------------
-
-    /**
-     * Releases the node's reference; called while this object is rebuilding the node (from a
-     * rebuild listener, say), it takes effect when that call returns.
-     */
-    @Override
-    public void dispose() {
-        synchronized (lifecycle) {
-            if (callsInProgress > 0) {
-                disposeRequested = true;
-                return;
-            }
-            super.dispose();
-        }
-    }
-
     /**
      * Runs a native call with the node's handle during which the node may be rebuilt, and so call
-     * Java: the node is not disposed before the call returns.
+     * Java, holding the node: disposing it from a listener frees the native node only when the
+     * call returns. (The traversals of {@link SoNode} hold their node the same way.)
      */
     private void rebuilding(LongConsumer call) {
-        long h;
-        synchronized (lifecycle) {
-            h = handle();
-            callsInProgress++;
-        }
+        long h = enter();
         try {
             call.accept(h);
         } finally {
-            synchronized (lifecycle) {
-                if (--callsInProgress == 0 && disposeRequested) {
-                    disposeRequested = false;
-                    super.dispose();
-                }
-            }
+            leave();
         }
     }
 

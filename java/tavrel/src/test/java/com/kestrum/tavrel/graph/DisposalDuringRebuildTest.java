@@ -19,8 +19,9 @@ import java.util.function.Consumer;
 import org.junit.jupiter.api.Test;
 
 /**
- * A node disposed by its own rebuild listener keeps its reference until the call that rebuilt it
- * returns: the toolkit never finishes a rebuild on a freed node.
+ * A node disposed by its own rebuild listener is disposed in Java at once but keeps its native
+ * reference until the call that rebuilt it returns: the toolkit never finishes a rebuild on a
+ * freed node.
  */
 class DisposalDuringRebuildTest {
     /** The calls that rebuild a node, with the update method they need. */
@@ -44,8 +45,8 @@ class DisposalDuringRebuildTest {
     }
 
     /**
-     * Each call with a pre- and a post-rebuild listener that dispose of the node (the only holder
-     * of its reference), then use it; prints one line per call and "done".
+     * Each call with a pre- or a post-rebuild listener that disposes of the node (the only holder
+     * of its reference), then tries to use it; prints one line per call and "done".
      */
     public static void main(String[] args) {
         for (Map.Entry<String, Consumer<PoBase>> call : rebuildingCalls().entrySet()) {
@@ -54,7 +55,12 @@ class DisposalDuringRebuildTest {
                 List<String> seen = new ArrayList<>();
                 PoBase.RebuildListener disposeAndUse = n -> {
                     n.dispose();
-                    seen.add("built=" + n.isBuilt());
+                    try {
+                        n.isBuilt();
+                        seen.add("usable");
+                    } catch (IllegalStateException e) {
+                        seen.add("refused");
+                    }
                 };
                 if (pre) {
                     node.addPreRebuildListener(disposeAndUse);
@@ -74,28 +80,33 @@ class DisposalDuringRebuildTest {
         assertFalse(r.crashed(), r::describe);
         assertEquals(0, r.exitCode(), r::describe);
         for (String call : rebuildingCalls().keySet()) {
-            assertTrue(r.output().contains(call + " pre [built=false] disposed=true"), r::describe);
-            assertTrue(r.output().contains(call + " post [built=true] disposed=true"), r::describe);
+            assertTrue(r.output().contains(call + " pre [refused] disposed=true"), r::describe);
+            assertTrue(r.output().contains(call + " post [refused] disposed=true"), r::describe);
         }
         assertTrue(r.output().contains("done"), r::describe);
     }
 
     @Test
-    void theReferenceIsGivenBackWhenTheCallReturns() {
+    void theReferenceIsGivenBackWhenTheCallReturnsAndLaterListenersGetANewView() {
         PoBase node = rectangle();
         long h = Natives.handle(node);
-        Nodes.ref(h); // a second reference, to watch the count after the Java object is gone
+        Nodes.ref(h); // a reference of the test's own, to watch the count once the Java object is gone
         try {
             List<Integer> counts = new ArrayList<>();
+            List<PoBase> received = new ArrayList<>();
             node.addPreRebuildListener(n -> {
                 n.dispose();
-                counts.add(refCount(h));
-                n.touchKit(); // still usable: the rebuild in progress only marks it
+                counts.add(refCount(h)); // the test's and the held one
             });
+            node.addPostRebuildListener(received::add);
             node.rebuild();
+            PoBase view = received.get(0);
+            counts.add(refCount(h)); // the test's and the view's
+            view.dispose();
             counts.add(refCount(h));
-            assertEquals(List.of(2, 1), counts);
+            assertEquals(List.of(2, 2, 1), counts);
             assertTrue(node.isDisposed());
+            assertTrue(view != node, "the post-rebuild listener got a new view");
         } finally {
             Nodes.unref(h);
         }
