@@ -88,10 +88,11 @@ class PoBaseTest {
     }
 
     @Test
-    void aRebuildOnAnotherJavaThreadCallsTheListenersOnThatThread() throws Exception {
-        List<String> events = new ArrayList<>();
-        node.addPreRebuildListener(n -> events.add("pre on " + Thread.currentThread().getName()));
-        node.addPostRebuildListener(n -> events.add("post on " + Thread.currentThread().getName()));
+    void aRebuildOnAnotherJavaThreadCallsTheListenersInOrderOnThatThread() throws Exception {
+        List<String> threads = new ArrayList<>();
+        noteEvents(node);
+        node.addPreRebuildListener(n -> threads.add(Thread.currentThread().getName()));
+        node.addPostRebuildListener(n -> threads.add(Thread.currentThread().getName()));
         AtomicReference<Throwable> failure = new AtomicReference<>();
         Thread worker = new Thread(() -> {
             try {
@@ -100,10 +101,14 @@ class PoBaseTest {
                 failure.set(t);
             }
         }, "rebuilder");
+        Journal.start();
         worker.start();
         worker.join();
+        List<String> calls = Journal.stop();
         assertNull(failure.get());
-        assertEquals(List.of("pre on rebuilder", "post on rebuilder"), events);
+        assertEquals(List.of("PoRectangle::rebuild()", "pre modified=true builds=0", "PoRectangle::build()",
+                "post modified=false built=true builds=1"), calls);
+        assertEquals(List.of("rebuilder", "rebuilder"), threads);
     }
 
     /** The calls that change the node, and what the journal shows of them. */
