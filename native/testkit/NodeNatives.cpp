@@ -222,6 +222,10 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Nodes_unref(JNIEnv*, jcla
   from(node)->unref();
 }
 
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Nodes_refCount(JNIEnv*, jclass, jlong node) {
+  return from(node)->getRefCount();
+}
+
 JNIEXPORT jstring JNICALL Java_com_kestrum_tavrel_testkit_Nodes_typeName(JNIEnv* env, jclass, jlong node) {
   return StringHelper::fromNativeString(env, from(node)->getTypeId().getName());
 }

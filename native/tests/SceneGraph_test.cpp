@@ -4,6 +4,7 @@
 #include <Corvel/SoAction.h>
 #include <Corvel/SoChildList.h>
 #include <Corvel/SoGroup.h>
+#include <Corvel/SoState.h>
 #include <Tavrel/PbTriangleMesh2D.h>
 #include <Tavrel/PoCellFilter.h>
 #include <Tavrel/PoMeshFilled.h>
@@ -75,6 +76,87 @@ TEST(PoMesh, AsksTheCellFilterTraversedBeforeItAboutEachCellWithItsValue) {
   callback.apply(root);
   EXPECT_EQ(before->selectedCells(), (std::vector<int>{}));
   root->unref();
+}
+
+namespace {
+// Renders as a group does, and records what it sees first: the action's
+// state, and, when it applies the action to `inner` during its own
+// traversal, the state once that inner apply has returned. With `filter`, it
+// renders the filter first and records the filter's reference count then.
+class StateRecorder : public SoGroup {
+ public:
+  void GLRender(SoGLRenderAction* action) override {
+    state = action->getState();
+    if (filter != nullptr) {
+      filter->GLRender(action);
+      filterRefs = filter->getRefCount();
+    }
+    if (inner != nullptr) {
+      action->apply(inner);
+      stateAfterInner = action->getState();
+    }
+    SoGroup::GLRender(action);
+  }
+
+  SoNode* inner = nullptr;
+  PoCellFilter* filter = nullptr;
+  SoState* state = nullptr;
+  SoState* stateAfterInner = nullptr;
+  int filterRefs = 0;
+};
+}  // namespace
+
+TEST(SoAction, HasAStateOnlyDuringApplyAndOneForEachApply) {
+  StateRecorder* outer = new StateRecorder;
+  StateRecorder* inner = new StateRecorder;
+  outer->ref();
+  inner->ref();
+  outer->inner = inner;
+  SoGLRenderAction render;
+  EXPECT_EQ(render.getState(), nullptr);
+  render.apply(outer);
+  EXPECT_NE(outer->state, nullptr);
+  EXPECT_NE(inner->state, nullptr);
+  EXPECT_NE(inner->state, outer->state);
+  EXPECT_EQ(outer->stateAfterInner, outer->state);
+  EXPECT_EQ(render.getState(), nullptr);
+
+  SoState other(&render);
+  inner->state = &other;
+  inner->GLRender(&render);  // a direct call, outside apply
+  EXPECT_EQ(inner->state, nullptr);
+  inner->unref();
+  outer->unref();
+}
+
+TEST(SoState, HoldsAReferenceOnItsCurrentFilterUntilTheTraversalEnds) {
+  NegativeValues* filter = new NegativeValues;
+  filter->ref();
+  StateRecorder* root = new StateRecorder;
+  root->ref();
+  root->filter = filter;
+  SoGLRenderAction render;
+  render.apply(root);
+  EXPECT_EQ(root->filterRefs, 2);
+  EXPECT_EQ(filter->getRefCount(), 1);
+
+  // Outside apply the filter becomes no one's current filter: a representation
+  // then selects every cell.
+  const float x[] = {0, 1, 1, 0}, y[] = {0, 0, 1, 1};
+  const int triangles[] = {0, 1, 2, 0, 2, 3};
+  PbTriangleMesh2D mesh(4, x, y, 2, triangles, 1);
+  const float perCell[] = {5, -5};
+  mesh.addValuesSet(0, perCell, PbMesh::PER_CELL, SbString("v"));
+  PoMeshFilled* filled = new PoMeshFilled;
+  filled->ref();
+  filled->setMesh(&mesh);
+  filter->GLRender(&render);
+  EXPECT_EQ(filter->getRefCount(), 1);
+  filled->GLRender(&render);
+  EXPECT_EQ(filled->selectedCells(), (std::vector<int>{0, 1}));
+  filled->unref();
+  root->unref();
+  filter->unref();
 }
 
 TEST(SoGroup, WritesAndTraversesItsChildrenInOrder) {

@@ -1,6 +1,7 @@
 // Actions: traversals of a scene graph. apply(node) makes a fresh traversal
-// state and calls the node's operation of the action's kind, which traverses
-// further as the node decides.
+// state, calls the node's operation of the action's kind, which traverses
+// further as the node decides, and drops the state when the traversal is done
+// (see SoState.h). Outside apply an action has no state.
 #pragma once
 
 #include <Corvel/SoSubClass.h>
@@ -51,6 +52,7 @@ class SoAction {
   void apply(SoNode* node);
   // Calls the node's operation for this kind of action.
   virtual void traverse(SoNode* node);
+  // The state of the traversal in progress; null outside apply.
   SoState* getState() const { return state; }
   // Number of nodes this action has traversed since it was made.
   int getNodesTraversed() const { return nodesTraversed; }

@@ -10,8 +10,8 @@
 // representation asks the state's current cell filter (the last PoCellFilter
 // the traversal went through, see SoState.h) about every cell of its mesh,
 // with the cell's value, and keeps the indices of the accepted cells
-// (selectedCells, replaced by each such traversal). Without a filter every
-// cell is accepted. The value of a cell comes from the mesh's values set 0:
+// (selectedCells, replaced by each such traversal). Without a filter, or
+// outside apply (where an action has no state), every cell is accepted. The value of a cell comes from the mesh's values set 0:
 // its value for a per-cell set, the mean of the cell's nodes' values for a
 // per-node set, and 0 without that set or without data in it
 // (PbMesh::cellValues). The mesh is the one given to the most derived

@@ -1,5 +1,6 @@
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoAction.h>
+#include <Corvel/SoBase.h>
 #include <Corvel/SoNode.h>
 #include <Corvel/SoState.h>
 
@@ -23,10 +24,13 @@ SoAction::~SoAction() { delete state; }
 
 void SoAction::apply(SoNode* node) {
   CallJournal::record("SoAction::apply", getTypeId(), static_cast<const void*>(node));
-  delete state;
+  SoState* outer = state;
   state = new SoState(this);
   node->ref();
   traverse(node);
+  // The state goes first: it may hold a reference on the node itself.
+  delete state;
+  state = outer;
   node->unrefNoDelete();
 }
 
@@ -36,7 +40,18 @@ void SoAction::traverse(SoNode* node) {
 }
 
 SoState::SoState(SoAction* action) : action(action) {}
-SoState::~SoState() = default;
+
+SoState::~SoState() {
+  if (cellFilterNode != nullptr) cellFilterNode->unref();
+}
+
+void SoState::setCellFilter(const PoCellFilter* filter, const SoBase* node) {
+  // The new reference first: the filter may be the current one.
+  if (node != nullptr) node->ref();
+  if (cellFilterNode != nullptr) cellFilterNode->unref();
+  cellFilter = filter;
+  cellFilterNode = node;
+}
 
 SO_ACTION_SOURCE(SoCallbackAction, SoAction, "CallbackAction", callback)
 SO_ACTION_SOURCE(SoGetBoundingBoxAction, SoAction, "GetBoundingBoxAction", getBoundingBox)

@@ -60,5 +60,5 @@ std::vector<int> PoCellFilter::selectCells(const PoCellFilter* filter, int numCe
 }
 
 void PoCellFilter::makeCurrent(SoAction* action) const {
-  if (SoState* state = action != nullptr ? action->getState() : nullptr) state->setCellFilter(this);
+  if (SoState* state = action != nullptr ? action->getState() : nullptr) state->setCellFilter(this, this);
 }

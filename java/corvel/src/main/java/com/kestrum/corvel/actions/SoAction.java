@@ -43,9 +43,12 @@ public class SoAction extends NativeObject {
         return new long[] {handle};
     }
 
-    /** Applies the action to the scene graph under {@code node}. */
+    /**
+     * Applies the action to the scene graph under {@code node}. Disposing the action or the node
+     * during the traversal (from a Java node or a listener) lets go of them once it is over.
+     */
     public void apply(SoNode node) {
-        applyNative(handle(), handleOf(node, "node"));
+        callWith(node, "node", SoAction::applyNative);
     }
 
     /** The number of nodes this action has traversed since it was made. */

@@ -1,5 +1,7 @@
 package com.kestrum.corvel.misc;
 
+import java.lang.ref.Reference;
+import java.lang.ref.ReferenceQueue;
 import java.lang.ref.WeakReference;
 import java.util.Map;
 import java.util.concurrent.ConcurrentHashMap;
@@ -15,6 +17,9 @@ import java.util.function.Supplier;
  *       peer itself. The table holds a peer weakly, or strongly when it is registered to be kept
  *       alive (a Java-extended node, whose native node calls it back through a weak reference:
  *       it stays reachable until it is unregistered, when its Java object is disposed).
+ *       Disposing a peer unregisters it; the entry of a weakly held peer that was collected
+ *       without being disposed is dropped by the next registration, so the table holds no more
+ *       entries than there are live peers (plus those collected since the last registration).
  *   <li>Wrappers: for each Java class name, a factory that makes a Java view of a native
  *       object that has no peer. Classes register their factory in their static initialiser.
  *   <li>Types: for each toolkit type name that a Java class registered, a factory for new
@@ -23,23 +28,26 @@ import java.util.function.Supplier;
  */
 public final class ManagedObjects {
     private static final Map<Long, Peer> PEERS = new ConcurrentHashMap<>();
+    /** The entries whose weakly held peer has been collected. */
+    private static final ReferenceQueue<Object> COLLECTED = new ReferenceQueue<>();
     private static final Map<String, LongFunction<?>> WRAPPERS = new ConcurrentHashMap<>();
     private static final Map<String, Supplier<? extends NativeObject>> TYPES = new ConcurrentHashMap<>();
 
     private ManagedObjects() {}
 
-    /** A registered peer, held weakly or strongly. */
-    private static final class Peer {
-        private final WeakReference<Object> weak;
+    /** A registered peer, held weakly or strongly; queued in COLLECTED once collected. */
+    private static final class Peer extends WeakReference<Object> {
+        private final long address;
         private final Object strong;
 
-        Peer(Object peer, boolean keepAlive) {
-            this.weak = new WeakReference<>(peer);
+        Peer(long address, Object peer, boolean keepAlive) {
+            super(peer, COLLECTED);
+            this.address = address;
             this.strong = keepAlive ? peer : null;
         }
 
-        Object get() {
-            return strong != null ? strong : weak.get();
+        Object peer() {
+            return strong != null ? strong : get();
         }
     }
 
@@ -53,7 +61,8 @@ public final class ManagedObjects {
      * until {@link #unregisterPeer(long, Object)}.
      */
     public static void registerPeer(long address, Object peer, boolean keepAlive) {
-        PEERS.put(address, new Peer(peer, keepAlive));
+        dropCollected();
+        PEERS.put(address, new Peer(address, peer, keepAlive));
     }
 
     public static void unregisterPeer(long address) {
@@ -62,13 +71,21 @@ public final class ManagedObjects {
 
     /** Unregisters the peer of the address if it is still {@code peer}. */
     public static void unregisterPeer(long address, Object peer) {
-        PEERS.computeIfPresent(address, (a, p) -> p.get() == peer || p.get() == null ? null : p);
+        PEERS.computeIfPresent(address, (a, p) -> p.peer() == peer || p.peer() == null ? null : p);
+    }
+
+    /** Drops the entries of collected peers (an entry that was replaced since stays). */
+    private static void dropCollected() {
+        for (Reference<?> r = COLLECTED.poll(); r != null; r = COLLECTED.poll()) {
+            Peer p = (Peer) r;
+            PEERS.remove(p.address, p);
+        }
     }
 
     /** The registered peer of the address, or null. */
     public static Object peerOf(long address) {
         Peer p = PEERS.get(address);
-        return p == null ? null : p.get();
+        return p == null ? null : p.peer();
     }
 
     /**

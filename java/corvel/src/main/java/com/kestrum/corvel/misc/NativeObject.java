@@ -1,5 +1,7 @@
 package com.kestrum.corvel.misc;
 
+import java.lang.invoke.MethodHandles;
+import java.lang.invoke.VarHandle;
 import java.lang.ref.Cleaner;
 
 /**
@@ -12,15 +14,39 @@ import java.lang.ref.Cleaner;
  * Every method of a disposed object that needs its native object throws
  * {@link IllegalStateException}.
  *
+ * <p>A native call that may call back into Java (a traversal, an applied action, anything that
+ * raises events) holds its receiver and its object arguments while it runs ({@link #enter()},
+ * {@link #callWith}). Disposing a held object, from a callback of that very call for instance,
+ * disposes the Java object at once (its methods throw {@link IllegalStateException} from then
+ * on) but frees the native object only when the last call holding it returns, on that call's
+ * thread; a native object is never freed under a native call that is using it.
+ *
  * <p>Like the toolkit objects they stand for, these objects are not thread-safe: a caller that
  * shares one between threads serialises the calls, disposal included.
  */
 public abstract class NativeObject implements AutoCloseable {
     private static final Cleaner CLEANER = Cleaner.create();
+    private static final VarHandle HANDLE;
+    private static final VarHandle HOLDS;
+
+    static {
+        try {
+            MethodHandles.Lookup lookup = MethodHandles.lookup();
+            HANDLE = lookup.findVarHandle(NativeObject.class, "handle", long.class);
+            HOLDS = lookup.findVarHandle(NativeObject.class, "holds", int.class);
+        } catch (ReflectiveOperationException e) {
+            throw new ExceptionInInitializerError(e);
+        }
+    }
 
     private volatile long handle;
     private final Cleaner.Cleanable cleanable;
     private volatile boolean registeredPeer;
+    /**
+     * Two for each native call in progress that holds this object, plus one once it has been
+     * disposed: the native object is released when the count comes to exactly one.
+     */
+    private volatile int holds;
 
     /** A view of a native object that is owned elsewhere. */
     protected NativeObject(long handle) {
@@ -74,16 +100,92 @@ public abstract class NativeObject implements AutoCloseable {
         return handle == 0;
     }
 
-    /** Frees the native object if this object owns it; later calls do nothing. */
+    /**
+     * Frees the native object if this object owns it, at once or, while native calls hold this
+     * object, when the last of them returns; later calls do nothing. The Java object is disposed
+     * at once either way.
+     */
     public void dispose() {
         long h = handle;
-        if (h == 0) {
+        if (h == 0 || !HANDLE.compareAndSet(this, h, 0L)) {
             return;
         }
         if (registeredPeer) {
             ManagedObjects.unregisterPeer(h, this);
         }
-        handle = 0;
+        if ((int) HOLDS.getAndAdd(this, 1) == 0) {
+            release();
+        }
+    }
+
+    /**
+     * Holds this object for a native call that may call back into Java and returns its handle;
+     * the caller must {@link #leave()} when the call returns (in a finally block).
+     *
+     * @throws IllegalStateException when the object has been disposed
+     */
+    protected final long enter() {
+        HOLDS.getAndAdd(this, 2);
+        long h = handle;
+        if (h == 0) {
+            leave();
+            throw new IllegalStateException(getClass().getSimpleName() + " has been disposed");
+        }
+        return h;
+    }
+
+    /** Ends a hold of {@link #enter()}; releases the native object if it was disposed meanwhile. */
+    protected final void leave() {
+        if ((int) HOLDS.getAndAdd(this, -2) == 3) {
+            release();
+        }
+    }
+
+    /** As {@link #enter()}, for an argument that must be present and live. */
+    protected static long enter(NativeObject argument, String name) {
+        if (argument == null) {
+            throw new NullPointerException(name + " is null");
+        }
+        HOLDS.getAndAdd(argument, 2);
+        long h = argument.handle;
+        if (h == 0) {
+            argument.leave();
+            throw new IllegalStateException(name + " has been disposed");
+        }
+        return h;
+    }
+
+    /** Ends a hold of {@link #enter(NativeObject, String)}. */
+    protected static void leave(NativeObject argument) {
+        argument.leave();
+    }
+
+    /** A native call on the handles of its receiver and of one argument. */
+    @FunctionalInterface
+    protected interface HandleCall {
+        void call(long handle, long argument);
+    }
+
+    /**
+     * Makes a native call that may call back into Java, on this object and an argument that must
+     * be present and live, holding both until it returns.
+     */
+    protected final void callWith(NativeObject argument, String name, HandleCall call) {
+        long h = enter();
+        try {
+            long a = enter(argument, name);
+            try {
+                call.call(h, a);
+            } finally {
+                argument.leave();
+            }
+        } finally {
+            leave();
+        }
+    }
+
+    /** Runs the release action (at most once, whoever calls it). */
+    private void release() {
         if (cleanable != null) {
             cleanable.clean();
         }

@@ -23,6 +23,11 @@ import com.kestrum.corvel.misc.NativeObject;
  * Java object is made and given back when it is disposed or collected; the native node lives
  * while the toolkit or any Java object still references it.
  *
+ * <p>The operations that traverse (those taking an action), {@link #copy} and {@link
+ * #readInstance} may call back into Java; while they run, disposing the node or the action only
+ * marks the Java object disposed, and the native object is let go when the call returns (see
+ * {@link NativeObject}).
+ *
  * <p>The node's operations below run the toolkit's own implementation. A Java class that
  * extends a toolkit node (see com.kestrum.tavrel.nodes.PoNode) overrides them: the toolkit then
  * calls the Java override, and the override's {@code super} call reaches the toolkit's
@@ -109,7 +114,17 @@ public class SoNode extends NativeObject {
 
     /** Reads the node's fields from the input; true on success. */
     public boolean readInstance(SoInput in, short flags) {
-        return readInstanceNative(handle(), handleOf(in, "in"), flags);
+        long h = enter();  // reading may make nodes of Java classes
+        try {
+            long input = enter(in, "in");
+            try {
+                return readInstanceNative(h, input, flags);
+            } finally {
+                leave(in);
+            }
+        } finally {
+            leave();
+        }
     }
 
     /** The node's field of that name, or null. */
@@ -135,7 +150,12 @@ public class SoNode extends NativeObject {
 
     /** A new node of the same type. */
     public SoNode copy(boolean copyConnections) {
-        return of(copyNative(handle(), copyConnections));
+        long h = enter();  // the copy of a Java node's type is made by its Java class
+        try {
+            return of(copyNative(h, copyConnections));
+        } finally {
+            leave();
+        }
     }
 
     public boolean affectsState() {
@@ -156,63 +176,63 @@ public class SoNode extends NativeObject {
     }
 
     public void doAction(SoAction action) {
-        doActionNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::doActionNative);
     }
 
     public void GLRender(SoGLRenderAction action) {
-        GLRenderNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::GLRenderNative);
     }
 
     public void callback(SoCallbackAction action) {
-        callbackNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::callbackNative);
     }
 
     public void getBoundingBox(SoGetBoundingBoxAction action) {
-        getBoundingBoxNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::getBoundingBoxNative);
     }
 
     public void getMatrix(SoGetMatrixAction action) {
-        getMatrixNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::getMatrixNative);
     }
 
     public void handleEvent(SoHandleEventAction action) {
-        handleEventNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::handleEventNative);
     }
 
     public void pick(SoPickAction action) {
-        pickNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::pickNative);
     }
 
     public void rayPick(SoRayPickAction action) {
-        rayPickNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::rayPickNative);
     }
 
     public void search(SoSearchAction action) {
-        searchNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::searchNative);
     }
 
     public void write(SoWriteAction action) {
-        writeNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::writeNative);
     }
 
     public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
-        getPrimitiveCountNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::getPrimitiveCountNative);
     }
 
     public void distribute(SoDistributeAction action) {
-        distributeNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::distributeNative);
     }
 
     public void GLRenderBelowPath(SoGLRenderAction action) {
-        GLRenderBelowPathNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::GLRenderBelowPathNative);
     }
 
     public void GLRenderInPath(SoGLRenderAction action) {
-        GLRenderInPathNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::GLRenderInPathNative);
     }
 
     public void GLRenderOffPath(SoGLRenderAction action) {
-        GLRenderOffPathNative(handle(), handleOf(action, "action"));
+        callWith(action, "action", SoNode::GLRenderOffPathNative);
     }
 
     public void grabEventsSetup() {

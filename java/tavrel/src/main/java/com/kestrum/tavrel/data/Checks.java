@@ -18,21 +18,35 @@ final class Checks {
         return value;
     }
 
-    /** A count that must not be negative. */
+    /**
+     * The largest node or cell count of a mesh, and the largest grid dimension: every data set of
+     * the mesh must be able to come back to Java, and a vecs set of n vectors is a direct buffer of
+     * 12 n bytes (a buffer's capacity is an int) or an array of 3 n floats. A larger count could
+     * only fail in the toolkit, whose allocation failures end the process.
+     */
+    static final int MAX_COUNT = Integer.MAX_VALUE / 12;
+
+    /** A node or cell count, or a grid dimension: not negative and at most {@link #MAX_COUNT}. */
     static int count(int n, String name) {
         if (n < 0) {
             throw new IllegalArgumentException(name + " is negative: " + n);
         }
+        if (n > MAX_COUNT) {
+            throw new IllegalArgumentException(name + " is " + n + ", more than " + MAX_COUNT
+                    + ", the most nodes or cells a mesh can have (its data sets must fit in Java arrays)");
+        }
         return n;
     }
 
-    /** The product of counts, which must fit in an int (the toolkit counts nodes in ints). */
+    /** The product of grid dimensions: the node count, at most {@link #MAX_COUNT}. */
     static int product(int... counts) {
         long p = 1;
         for (int c : counts) {
             p *= c;
-            if (p > Integer.MAX_VALUE) {
-                throw new IllegalArgumentException("too many nodes: " + java.util.Arrays.toString(counts));
+            if (p > MAX_COUNT) {
+                throw new IllegalArgumentException("too many nodes: " + java.util.Arrays.toString(counts)
+                        + " make more than " + MAX_COUNT
+                        + ", the most nodes a mesh can have (its data sets must fit in Java arrays)");
             }
         }
         return (int) p;

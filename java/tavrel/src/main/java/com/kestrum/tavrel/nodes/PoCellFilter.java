@@ -57,7 +57,7 @@ public abstract class PoCellFilter extends PoNode {
 
     @Override
     public void doAction(SoAction action) {
-        doActionImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::doActionImpl);
     }
 
     @Override

@@ -34,6 +34,10 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * CustomPoNode.&lt;operation&gt;." with the exception as its cause; the rest of that traversal
  * no longer calls Java.
  *
+ * <p>An override may dispose its node, or the action, while the toolkit is using them: the Java
+ * object is disposed at once, and the native one is let go when the Java call that started the
+ * traversal ({@code apply}, or a node operation called directly) returns.
+ *
  * <p>The toolkit may call a node as long as it references it, so a node stays reachable (it is
  * not collected) until it is disposed: dispose nodes you no longer need, e.g. with
  * try-with-resources. {@link #getRenderEngineMode()} is asked once, while the object is being
@@ -85,52 +89,52 @@ public abstract class PoNode extends SoNode {
 
     @Override
     public void doAction(SoAction action) {
-        doActionImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::doActionImpl);
     }
 
     @Override
     public void GLRender(SoGLRenderAction action) {
-        GLRenderImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::GLRenderImpl);
     }
 
     @Override
     public void callback(SoCallbackAction action) {
-        callbackImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::callbackImpl);
     }
 
     @Override
     public void getBoundingBox(SoGetBoundingBoxAction action) {
-        getBoundingBoxImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::getBoundingBoxImpl);
     }
 
     @Override
     public void getMatrix(SoGetMatrixAction action) {
-        getMatrixImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::getMatrixImpl);
     }
 
     @Override
     public void handleEvent(SoHandleEventAction action) {
-        handleEventImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::handleEventImpl);
     }
 
     @Override
     public void pick(SoPickAction action) {
-        pickImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::pickImpl);
     }
 
     @Override
     public void search(SoSearchAction action) {
-        searchImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::searchImpl);
     }
 
     @Override
     public void write(SoWriteAction action) {
-        writeImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::writeImpl);
     }
 
     @Override
     public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
-        getPrimitiveCountImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::getPrimitiveCountImpl);
     }
 
     private static native long ctorImpl();

@@ -60,6 +60,9 @@ public final class Nodes {
 
     public static native void unref(long node);
 
+    /** The node's reference count, read without taking a reference. */
+    public static native int refCount(long node);
+
     public static native String typeName(long node);
 
     public static native boolean typeIsBad(long node);
