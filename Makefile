@@ -1,20 +1,45 @@
 # Build and test entry points. See README.md.
 #
 #   make demo    builds everything and runs the demo
-#   make test    builds everything and runs every test (native and Java)
+#   make test    builds everything and runs every test: the native tests and JUnit (JDK 17),
+#                both again against a build with AddressSanitizer and UBSan, and JUnit on the
+#                newest JDK of version 21 or newer on the machine, if there is one
+#   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
 #   make bench   runs the JMH benchmarks
 
-BUILD_DIR   ?= native/build
-MVN         ?= mvn -B -f java/pom.xml
-NATIVE_LIBS := $(BUILD_DIR)/lib
+BUILD_DIR      ?= native/build
+ASAN_BUILD_DIR ?= native/build-asan
+MVN            ?= mvn -B -f java/pom.xml
+NATIVE_LIBS    := $(BUILD_DIR)/lib
 
-.PHONY: all native java demo test native-test java-test bench clean
+# The sanitizer runtime, preloaded into the test JVMs that load the sanitizer build (the
+# native test program links it itself).
+ASAN_RUNTIME ?= $(shell gcc -print-file-name=libasan.so)
+# The JVM handles its own signals (SIGSEGV is part of its normal work); any report aborts the
+# process; the sleep lets a report written into a pipe reach the output first. The same options
+# are in the profile "sanitizers" of java/tavrel/pom.xml.
+SANITIZER_ENV := ASAN_OPTIONS=handle_segv=0:allow_user_segv_handler=1:detect_leaks=0:abort_on_error=1:sleep_before_dying=1 \
+                 UBSAN_OPTIONS=halt_on_error=1:abort_on_error=1:print_stacktrace=1
+
+# The Java runtime (home folder) that JUnit also runs on; empty skips that run.
+NEWEST_JDK ?= $(shell scripts/newest-jdk 21)
+
+.PHONY: all native native-asan java demo test native-test java-test native-test-asan java-test-asan \
+	java-test-newest-jdk soak bench clean
+# The test runs share Maven's output folders: one at a time.
+.NOTPARALLEL:
 
 all: java
 
 native:
 	cmake -S native -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 	cmake --build $(BUILD_DIR)
+
+# Every native library and the native test program with -fsanitize=address,undefined; unoptimised,
+# which compiles four times faster than -O2 with the sanitizers and hides no faulty access.
+native-asan:
+	cmake -S native -B $(ASAN_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTAVREL_SANITIZE=ON
+	cmake --build $(ASAN_BUILD_DIR)
 
 java: native
 	$(MVN) -q package -DskipTests
@@ -28,7 +53,31 @@ native-test: native
 java-test: native
 	$(MVN) verify
 
-test: native-test java-test
+native-test-asan: native-asan
+	$(SANITIZER_ENV) scripts/run-native-tests $(ASAN_BUILD_DIR)/bin/native_tests
+
+java-test-asan: native-asan
+	@test -f "$(ASAN_RUNTIME)" || { echo "no AddressSanitizer runtime: gcc -print-file-name=libasan.so" >&2; exit 1; }
+	$(MVN) -pl tavrel -am test -Psanitizers -Dsanitizer.runtime=$(ASAN_RUNTIME) \
+		-Dtest.native.dir=$(abspath $(ASAN_BUILD_DIR))/lib
+
+java-test-newest-jdk: native
+	@if [ -z "$(NEWEST_JDK)" ]; then \
+		echo "JUnit on a newer JDK: no Java runtime of version 21 or newer found, skipped"; \
+	else \
+		echo "JUnit on $(NEWEST_JDK)"; \
+		$(MVN) -pl tavrel -am test -Djvm=$(NEWEST_JDK)/bin/java -Dtest.reports.suffix=-newest-jdk; \
+	fi
+
+test: native-test java-test native-test-asan java-test-asan java-test-newest-jdk
+
+# Each data path 1,000,000 times in one JVM (SOAK_OPTS: -Dsoak.iterations=N, -Dsoak.paths=a,b).
+SOAK_OPTS ?=
+soak: native
+	$(MVN) -q -Psoak package -DskipTests
+	java -Xms256m -Xmx256m -XX:+AlwaysPreTouch -XX:+UseSerialGC --enable-native-access=ALL-UNNAMED \
+		-Dkestrum.native.dir=$(abspath $(NATIVE_LIBS)) $(SOAK_OPTS) \
+		-cp "java/soak/target/tavrel-soak.jar:java/soak/target/lib/*" com.kestrum.tavrel.soak.Soak
 
 # JMH benchmarks (BENCHMARKS.md). BENCH_OPTS sets forks, iterations, ...: -Dbench.forks=1
 BENCH_OPTS ?=
@@ -38,5 +87,5 @@ bench: native
 		com.kestrum.tavrel.benchmarks.RunBenchmarks
 
 clean:
-	rm -rf $(BUILD_DIR)
+	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR)
 	$(MVN) -q clean

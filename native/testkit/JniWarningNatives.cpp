@@ -125,3 +125,12 @@ extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_pr
   // More local references than a native method may hold without asking.
   for (int i = 0; i < 40; ++i) env->NewStringUTF("leak");
 }
+
+extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_provokeExceptionPendingWarning(JNIEnv* env,
+                                                                                                            jclass cls) {
+  // A JNI call other than the exception functions while an exception is pending.
+  env->ThrowNew(env->FindClass("java/lang/IllegalStateException"), "pending");
+  jclass type = env->GetObjectClass(cls);
+  env->ExceptionClear();
+  env->DeleteLocalRef(type);
+}

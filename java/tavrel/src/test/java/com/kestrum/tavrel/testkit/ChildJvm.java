@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.testkit;
 
 import java.io.IOException;
+import java.lang.management.ManagementFactory;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
@@ -14,10 +15,11 @@ import java.util.regex.Pattern;
  * Runs the {@code main} of a test class in a child JVM, so that a test of something that could
  * crash the process sees the crash as a result instead of dying with it.
  *
- * <p>The child gets this JVM's executable, class path, {@code -Xcheck:jni}, the system properties
- * that locate the native libraries, and this process's environment (so a run under a sanitizer,
- * whose runtime is preloaded through the environment, sanitizes the child too). Its working
- * folder is a new temporary folder, where the JVM writes its error file if it crashes.
+ * <p>The child gets this JVM's executable, class path, {@code -Xcheck:jni}, its native-access
+ * permission, the system properties that locate the native libraries, and this process's
+ * environment (so a run under a sanitizer, whose runtime is preloaded through the environment,
+ * sanitizes the child too). Its working folder is a new temporary folder, where the JVM writes
+ * its error file if it crashes.
  */
 public final class ChildJvm {
     /** Lines that only a crash or a sanitizer writes. */
@@ -72,6 +74,12 @@ public final class ChildJvm {
         command.add(Path.of(System.getProperty("java.home"), "bin", "java").toString());
         command.add("-Xcheck:jni");
         command.add("-XX:+UseSerialGC");
+        // This JVM's permission for native access (JDK 24 and newer warn about System.load without it).
+        for (String option : ManagementFactory.getRuntimeMXBean().getInputArguments()) {
+            if (option.startsWith("--enable-native-access=")) {
+                command.add(option);
+            }
+        }
         for (String name : FORWARDED_PROPERTIES) {
             String value = System.getProperty(name);
             if (value != null) {

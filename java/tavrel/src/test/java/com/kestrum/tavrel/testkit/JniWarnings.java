@@ -16,8 +16,14 @@ public final class JniWarnings {
 
     private static native String[] drain();
 
-    /** Makes the JVM print a local-reference warning (to check that warnings are seen). */
+    /**
+     * Makes the JVM print a local-reference warning (to check that warnings are seen). Only
+     * JDKs before 20 check local-reference capacity under -Xcheck:jni.
+     */
     public static native void provokeLocalReferenceWarning();
+
+    /** Makes the JVM print a warning about a JNI call made while an exception is pending. */
+    public static native void provokeExceptionPendingWarning();
 
     /** The warnings printed since the last call. */
     public static List<String> take() {

@@ -1,0 +1,279 @@
+package com.kestrum.tavrel.soak;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.corvel.actions.SoAction;
+import com.kestrum.corvel.actions.SoCallbackAction;
+import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.nodes.SoGroup;
+import com.kestrum.tavrel.data.PbCell;
+import com.kestrum.tavrel.data.PbMesh.DataBindings;
+import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
+import com.kestrum.tavrel.data.PbTriangleMesh2D;
+import com.kestrum.tavrel.data.PoMeshFilled;
+import com.kestrum.tavrel.data.PoMeshProbePoint;
+import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
+import com.kestrum.tavrel.nodes.PoCellFilter;
+import com.kestrum.tavrel.nodes.PoNode;
+import java.nio.FloatBuffer;
+
+/**
+ * The data paths of the soak, one factory each: the factory makes what the path reuses (native
+ * meshes are never freed, so a path replaces the sets and the geometry of one mesh instead of
+ * making new meshes), the loop it returns runs one iteration of the path. A loop checks what it
+ * gets back, so that a path that stopped doing its work fails instead of looking lean.
+ */
+final class DataPaths {
+    private DataPaths() {}
+
+    /** One iteration of a path; close frees what the factory made. */
+    interface Loop extends AutoCloseable {
+        void step(int i);
+
+        @Override
+        default void close() {}
+    }
+
+    private static final int NODES = 5 * 5;
+    private static final int CELLS = 4 * 4;
+
+    /** A 5 x 5 node grid (16 cells) over the unit square. */
+    private static PbRegularCartesianGrid2D grid() {
+        return new PbRegularCartesianGrid2D(5, 5, 0, 0, 1, 1, true);
+    }
+
+    private static float[] values(int n) {
+        float[] values = new float[n];
+        for (int k = 0; k < n; k++) {
+            values[k] = k * 0.25f;
+        }
+        return values;
+    }
+
+    private static SbVec3f[] vectors(int n) {
+        SbVec3f[] vectors = new SbVec3f[n];
+        for (int k = 0; k < n; k++) {
+            vectors[k] = new SbVec3f(k, 1, -k);
+        }
+        return vectors;
+    }
+
+    private static void check(boolean condition, String what) {
+        if (!condition) {
+            throw new IllegalStateException(what);
+        }
+    }
+
+    /** Values and vecs sets replaced, then read back as Java arrays. */
+    static Loop setsByCopy() {
+        PbRegularCartesianGrid2D mesh = grid();
+        float[] values = values(NODES);
+        SbVec3f[] vectors = vectors(NODES);
+        return i -> {
+            int k = i % NODES;
+            values[k] = i;
+            mesh.addValuesSet(0, values, "values");
+            mesh.addVecsSet(1, vectors, "vectors");
+            float[] back = mesh.getValuesSet(0);
+            SbVec3f[] vectorsBack = mesh.getVecsSet(1);
+            check(back[k] == values[k] && vectorsBack.length == NODES, "sets read back");
+        };
+    }
+
+    /** Values and vecs sets replaced, then read through direct buffers over the mesh's memory. */
+    static Loop setsByDirectBuffer() {
+        PbRegularCartesianGrid2D mesh = grid();
+        float[] values = values(NODES);
+        SbVec3f[] vectors = vectors(NODES);
+        return i -> {
+            int k = i % NODES;
+            values[k] = i;
+            mesh.addValuesSet(0, values, DataBindings.PER_NODE, "values");
+            mesh.addVecsSet(1, vectors, "vectors");
+            FloatBuffer direct = mesh.getDirectValuesSet(0);
+            FloatBuffer directVectors = mesh.getDirectVecsSet(1);
+            check(direct.get(k) == values[k] && directVectors.capacity() == 3 * NODES, "direct buffers");
+        };
+    }
+
+    /** Strings sets added under alternating names, renamed by replacement, and removed. */
+    static Loop stringsSets() {
+        PbRegularCartesianGrid2D mesh = grid();
+        String[] labels = new String[NODES];
+        for (int k = 0; k < NODES; k++) {
+            labels[k] = "node " + k;
+        }
+        return i -> {
+            labels[i % NODES] = "node " + i;
+            String name = (i & 1) == 0 ? "labels" : "names";
+            mesh.addStringsSet(0, labels, name);
+            check(name.equals(mesh.getStringsSetName(0)), "strings set name");
+            if (i % 4 == 3) {
+                check(mesh.removeStringsSet(0), "strings set removed");
+            }
+        };
+    }
+
+    /**
+     * The geometry of a triangle mesh with a values, a vecs and a strings set replaced by one of
+     * four or one of six nodes in turn (the sets are resized each time); then a cell of the new
+     * geometry is measured.
+     */
+    static Loop geometryReplacement() {
+        float[] squareX = {0, 1, 1, 0};
+        float[] squareY = {0, 0, 1, 1};
+        float[] rectangleX = {0, 1, 2, 2, 1, 0};
+        float[] rectangleY = {0, 0, 0, 1, 1, 1};
+        PbTriangleMesh2D mesh = new PbTriangleMesh2D(4, squareX, squareY, 2, new int[] {0, 1, 2, 0, 2, 3}, true);
+        mesh.addValuesSet(0, values(4), "values");
+        mesh.addVecsSet(1, vectors(4), "vectors");
+        mesh.addStringsSet(2, new String[] {"a", "b", "c", "d"}, "labels");
+        return i -> {
+            boolean square = (i & 1) == 1;
+            if (square) {
+                mesh.setGeometry(4, squareX, squareY);
+            } else {
+                mesh.setGeometry(6, rectangleX, rectangleY);
+            }
+            PbCell cell = mesh.getCell(mesh.getNumCells() - 1);
+            check(Math.abs(mesh.getArea() - (square ? 1 : 2)) < 1e-5f && cell.getArea() > 0, "geometry replaced");
+            check(mesh.getValuesSet(0).length == (square ? 4 : 6), "sets resized");
+        };
+    }
+
+    /**
+     * A probe walking through a 4 x 1 cell grid and out again: each iteration moves it and
+     * applies an action, which raises its events (enter, change of cell, motion, leave); the
+     * listener reads the cell it is given and interpolates the set at the probe. The callback
+     * objects are made once: their native bridges are never freed, by design.
+     */
+    static Loop probeEvents() {
+        PbRegularCartesianGrid2D mesh = new PbRegularCartesianGrid2D(5, 2, 0, 0, 4, 1, true);
+        float[] values = new float[10];
+        for (int k = 0; k < 5; k++) {
+            values[2 * k] = values[2 * k + 1] = k * 10f;
+        }
+        mesh.addValuesSet(0, values, "ten times x");
+        float[] xs = {-0.5f, 0.5f, 0.75f, 1.5f, 3.5f, 4.5f};
+        float[] point = new float[3];
+        int[] events = new int[1];
+        PoMeshProbePoint probe = new PoMeshProbePoint();
+        SoCallbackAction action = new SoCallbackAction();
+        probe.setMesh(mesh);
+        PoProbeCB.Listener listener = (p, cell, cellHandle, event) -> {
+            events[0]++;
+            if (cell != null && event.equals("motion")) {
+                float[] pcoord = new float[3];
+                cell.locatePoint(new SbVec3f(point), 1e-4f, pcoord);
+                float value = cell.getValue(new SbVec3f(pcoord), values);
+                check(Math.abs(value - point[0] * 10) < 1e-3f && cell.getIndex() == (int) point[0],
+                        "value at the probe");
+            }
+        };
+        probe.setMotionCallback(new PoProbeCB(listener), "motion");
+        probe.setChangeCellCallback(new PoProbeCB(listener), "change");
+        probe.setEnterMeshCallback(new PoProbeCB(listener), "enter");
+        probe.setLeaveMeshCallback(new PoProbeCB(listener), "leave");
+        return new Loop() {
+            @Override
+            public void step(int i) {
+                int before = events[0];
+                point[0] = xs[i % xs.length];
+                point[1] = 0.5f;
+                probe.setPosition(point[0], point[1], 0);
+                action.apply(probe);
+                check(events[0] > before, "probe events");
+            }
+
+            @Override
+            public void close() {
+                action.dispose();
+                probe.dispose();
+            }
+        };
+    }
+
+    /** Counts the render traversals that reach it, then lets the toolkit traverse its children. */
+    static final class CountingNode extends PoNode {
+        static int renders;
+
+        CountingNode() {
+            super("SoakCountingNode");
+        }
+
+        @Override
+        public void GLRender(SoGLRenderAction action) {
+            renders++;
+            super.GLRender(action);
+        }
+    }
+
+    /** A Java node made, put in a group, rendered (the toolkit calls its override) and disposed. */
+    static Loop javaNodeTraversals() {
+        SoGLRenderAction render = new SoGLRenderAction();
+        return new Loop() {
+            @Override
+            public void step(int i) {
+                int before = CountingNode.renders;
+                try (CountingNode node = new CountingNode(); SoGroup root = new SoGroup()) {
+                    root.addChild(node);
+                    render.apply(root);
+                }
+                check(CountingNode.renders == before + 1, "Java node rendered");
+            }
+
+            @Override
+            public void close() {
+                render.dispose();
+            }
+        };
+    }
+
+    /** Accepts the cells whose value lies in a band, and counts the questions. */
+    static final class BandFilter extends PoCellFilter {
+        int asked;
+
+        BandFilter() {
+            super("SoakBandFilter");
+        }
+
+        @Override
+        public boolean acceptCell(int cellIndex, float value) {
+            asked++;
+            return value >= 1 && value < 3;
+        }
+    }
+
+    /**
+     * A Java cell filter before a representation of a 16-cell grid, asked by the toolkit about
+     * every cell in render and callback traversals, in turn.
+     */
+    static Loop cellFilterTraversals() {
+        PbRegularCartesianGrid2D mesh = grid();
+        mesh.addValuesSet(0, values(CELLS), DataBindings.PER_CELL, "per cell");
+        BandFilter filter = new BandFilter();
+        PoMeshFilled filled = new PoMeshFilled();
+        SoGroup root = new SoGroup();
+        SoAction[] actions = {new SoGLRenderAction(), new SoCallbackAction()};
+        filled.setMesh(mesh);
+        root.addChild(filter);
+        root.addChild(filled);
+        return new Loop() {
+            @Override
+            public void step(int i) {
+                int before = filter.asked;
+                actions[i & 1].apply(root);
+                check(filter.asked == before + CELLS, "filter asked about every cell");
+            }
+
+            @Override
+            public void close() {
+                for (SoAction action : actions) {
+                    action.dispose();
+                }
+                root.dispose();
+                filled.dispose();
+                filter.dispose();
+            }
+        };
+    }
+}
