@@ -23,7 +23,9 @@ import java.util.function.LongConsumer;
  * that rebuilds the node.
  *
  * <p>Rebuild events reach Java through callback objects ({@link PoRebuildCB}, with user data) or
- * through listeners ({@link #addPreRebuildListener}), which receive the node. This object keeps
+ * through listeners ({@link #addPreRebuildListener}), which receive the node. Each listener added
+ * makes a callback object, whose native bridge (a few bytes) is never freed: add listeners once,
+ * or register one callback object on many nodes, rather than adding listeners over and over. This object keeps
  * the callback objects it registered, so that events reach them while it is alive; a native node
  * that outlives its Java object (held by a scene graph) may find them collected, and its events
  * are then dropped. An exception thrown by a listener surfaces from the Java call that made the
