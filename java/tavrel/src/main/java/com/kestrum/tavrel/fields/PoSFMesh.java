@@ -2,12 +2,14 @@ package com.kestrum.tavrel.fields;
 
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.fields.SoField;
+import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.MeshViews;
 import com.kestrum.tavrel.nodes.PoMeshProperty;
 import java.lang.ref.WeakReference;
+import java.util.concurrent.atomic.AtomicBoolean;
 
 /**
  * Base of the single-value mesh fields: fields whose value is a whole mesh, held by value
@@ -36,12 +38,48 @@ public abstract class PoSFMesh extends SoField {
     /** The last view of the value handed out (held weakly: a view holds the field). */
     private WeakReference<PbMesh> view = new WeakReference<>(null);
 
+    /** Set once the native field has been freed (shared with the release action). */
+    private final AtomicBoolean freed;
+
     /** Owns the new native field at the handle, whose value is a mesh of meshClass. */
     PoSFMesh(long handle, Class<? extends PbMesh> meshClass) {
-        super(handle, deleting(handle));
+        this(handle, meshClass, new AtomicBoolean());
+    }
+
+    private PoSFMesh(long handle, Class<? extends PbMesh> meshClass, AtomicBoolean freed) {
+        super(handle, release(handle, freed));
         registerAsPeer(false);
+        this.freed = freed;
         this.meshClass = meshClass;
         this.meshAddress = valueAddress(handle);
+        MeshViews.releaseUnreachable();
+    }
+
+    /** Frees the native field; its address has no Java object any more. */
+    private static Runnable release(long handle, AtomicBoolean freed) {
+        Runnable delete = deleting(handle);
+        return () -> {
+            ManagedObjects.unregisterPeer(handle);
+            freed.set(true);
+            delete.run();
+        };
+    }
+
+    /**
+     * Disposes the field. While a view of its value holds it, the native field lives on, in its
+     * node too; a node that hands it out meanwhile gives this disposed object, whose methods
+     * throw {@link IllegalStateException}.
+     */
+    @Override
+    public void dispose() {
+        long h = getNativeResourceHandleInternal();
+        super.dispose();
+        if (h != 0 && !freed.get()) {
+            ManagedObjects.registerPeer(h, this, true);
+            if (freed.get()) {
+                ManagedObjects.unregisterPeer(h, this);
+            }
+        }
     }
 
     /** The name of the toolkit type of PoSFMesh. */

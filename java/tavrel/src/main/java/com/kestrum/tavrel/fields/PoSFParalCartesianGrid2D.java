@@ -60,7 +60,8 @@ public class PoSFParalCartesianGrid2D extends PoSFMesh {
      * three bits of the field type are kept. A field belongs to one node at a time: adding it to
      * another one takes it out of the first. The node does not own the field, and neither keeps
      * the other alive: a disposed field leaves its node, and a field whose node is gone belongs
-     * to none.
+     * to none. As the node may hand the field out by name, the field stays reachable from then on
+     * until it is disposed: dispose it when done.
      */
     public void addToContainer(SoNode container, String name, int fieldType, PbParalCartesianGrid2D initialValue) {
         long h = handle();
@@ -69,6 +70,7 @@ public class PoSFParalCartesianGrid2D extends PoSFMesh {
         long value = handleOf(initialValue, "initialValue");
         addFieldToContainerNative(h, node, name, fieldType, value);
         geometryChanged();
+        registerAsPeer(true);
     }
 
     /**

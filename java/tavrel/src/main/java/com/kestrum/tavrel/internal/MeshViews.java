@@ -19,6 +19,8 @@ import com.kestrum.tavrel.data.PbTetrahedronMesh3D;
 import com.kestrum.tavrel.data.PbTriangleMesh2D;
 import java.lang.ref.Cleaner;
 import java.util.Map;
+import java.util.Queue;
+import java.util.concurrent.ConcurrentLinkedQueue;
 import java.util.function.LongFunction;
 
 /**
@@ -28,10 +30,15 @@ import java.util.function.LongFunction;
  * <p>A view is an object of the mesh's own class that is never freed on its own. It holds its
  * owner (the node or field whose native object contains the mesh) for as long as the view is
  * reachable: disposing the owner then disposes the owner's Java object at once, but its native
- * object, and with it the mesh, is let go only once no view of it is reachable any more.
+ * object, and with it the mesh, is let go only once no view of it is reachable any more. That
+ * happens on a Java thread that makes a mesh node or field call (these methods, and the
+ * constructors of nodes and fields), never on the collector's thread, so that the toolkit is not
+ * used by two threads because of a collection.
  */
 public final class MeshViews {
     private static final Cleaner CLEANER = Cleaner.create();
+    /** The owners whose views have been collected, to be let go by a Java thread. */
+    private static final Queue<NativeObject> UNHELD = new ConcurrentLinkedQueue<>();
 
     private static final Map<Class<?>, LongFunction<? extends PbMesh>> VIEWS = Map.ofEntries(
             Map.entry(PbCartesianGrid2D.class, CartesianGrid2D::new),
@@ -59,6 +66,7 @@ public final class MeshViews {
      * @throws IllegalStateException when the owner has been disposed
      */
     public static <M extends PbMesh> M view(Class<M> meshClass, long address, NativeObject owner) {
+        releaseUnreachable();
         LongFunction<? extends PbMesh> maker = VIEWS.get(meshClass);
         if (maker == null) {
             throw new IllegalArgumentException("no view of " + meshClass.getName());
@@ -71,8 +79,15 @@ public final class MeshViews {
             Holds.release(owner);
             throw e;
         }
-        CLEANER.register(view, () -> Holds.release(owner));
+        CLEANER.register(view, () -> UNHELD.add(owner));
         return view;
+    }
+
+    /** Lets go of the owners of the views that have been collected (on the calling thread). */
+    public static void releaseUnreachable() {
+        for (NativeObject owner = UNHELD.poll(); owner != null; owner = UNHELD.poll()) {
+            Holds.release(owner);
+        }
     }
 
     /**
@@ -80,6 +95,7 @@ public final class MeshViews {
      * so far stop working, whichever Java object of the mesh they came from.
      */
     public static void geometryChanged(long meshAddress) {
+        releaseUnreachable();
         CartesianGrid2D.changedAt(meshAddress);
     }
 

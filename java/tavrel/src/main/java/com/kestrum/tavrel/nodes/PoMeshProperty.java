@@ -21,7 +21,8 @@ import java.lang.ref.WeakReference;
  * the node's mesh class that shows every later change of the node's geometry and data sets, and
  * that is never freed on its own. The view keeps the node's native object alive while the view
  * is reachable, so it stays valid even after the node has been disposed; cells obtained from it
- * stop working ({@link IllegalStateException}) once the node's geometry changes.
+ * stop working ({@link IllegalStateException}) once the node's geometry changes. A disposed
+ * node is let go once no view of its mesh is reachable, by the next mesh node or field call.
  */
 public abstract class PoMeshProperty extends SoNode {
     static {
@@ -61,6 +62,7 @@ public abstract class PoMeshProperty extends SoNode {
     PoMeshProperty(long handle, Class<? extends PbMesh> meshClass) {
         super(handle);
         this.meshClass = meshClass;
+        MeshViews.releaseUnreachable();
     }
 
     /** The name of the class's toolkit type. */

@@ -10,14 +10,18 @@ import static org.junit.jupiter.api.Assertions.assertSame;
 import static org.junit.jupiter.api.Assertions.assertThrows;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.tavrel.data.PbCell;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
 import com.kestrum.tavrel.data.PbTriangleMesh2D;
+import com.kestrum.tavrel.internal.MeshViews;
 import com.kestrum.tavrel.nodes.PoNode;
 import com.kestrum.tavrel.nodes.PoRegularCartesianGrid2D;
 import com.kestrum.tavrel.testkit.Fields;
+import com.kestrum.tavrel.testkit.Gc;
 import com.kestrum.tavrel.testkit.Journal;
+import java.lang.ref.WeakReference;
 import java.util.List;
 import java.util.stream.Collectors;
 import org.junit.jupiter.api.Test;
@@ -172,6 +176,31 @@ class MeshFieldTest {
             field.dispose();
             assertNull(second.getField("g"), "a disposed field leaves its node");
             assertEquals(List.of(), Fields.fieldData(handle(second)));
+        }
+    }
+
+    @Test
+    void aDisposedFieldThatAViewHoldsStaysInItsNodeAsTheDisposedObject() throws Exception {
+        try (SoGroup node = new SoGroup()) {
+            PoSFRegularCartesianGrid2D field = new PoSFRegularCartesianGrid2D();
+            field.addToContainer(node, "f", 0, grid(2, 2));
+            PbRegularCartesianGrid2D view = field.getValue();
+            field.dispose();
+            SoField found = node.getField("f");
+            assertSame(field, found, "not a new view of the field's memory");
+            assertThrows(IllegalStateException.class, found::get);
+            assertEquals(4, view.getNumNodes(), "the view holds the field");
+
+            WeakReference<PbRegularCartesianGrid2D> collected = new WeakReference<>(view);
+            view = null;
+            Gc.collect(collected);
+            long deadline = System.nanoTime() + 10_000_000_000L;
+            while (node.getField("f") != null) {  // let go by a mesh call once the collector has seen the view
+                assertTrue(System.nanoTime() < deadline, "the field was not let go");
+                MeshViews.releaseUnreachable();
+                Thread.sleep(10);
+            }
+            assertEquals(List.of(), Fields.fieldData(handle(node)), "freed, it left the node");
         }
     }
 
