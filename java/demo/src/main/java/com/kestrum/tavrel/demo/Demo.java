@@ -22,7 +22,8 @@ public final class Demo {
                 new StartupSection(),
                 new MeshSection(),
                 new RepresentationsSection(),
-                new CustomNodeSection());
+                new CustomNodeSection(),
+                new MeshNodeSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");
