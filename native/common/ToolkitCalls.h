@@ -62,6 +62,34 @@ inline decltype(auto) withInputs(JNIEnv* env, F&& f, Args... args) {
   return std::apply(std::forward<F>(f), converted);
 }
 
+namespace detail {
+// Converts args[N-1] first and args[0] last with in, then calls f with the
+// results in the arguments' order.
+template <class Convert, class F, class Tuple, std::size_t... K>
+inline decltype(auto) callConvertedFromLast(Convert& in, F&& f, const Tuple& args, std::index_sequence<K...>) {
+  constexpr std::size_t N = sizeof...(K);
+  std::tuple<decltype(in(std::get<N - 1 - K>(args)))...> reversed{in(std::get<N - 1 - K>(args))...};
+  return std::forward<F>(f)(std::get<N - 1 - K>(reversed)...);
+}
+}  // namespace detail
+
+// As withInputs, but the conversions run from the last argument to the first
+// (a braced list fixes the order); f still gets the arguments in their order.
+template <class F, class... Args>
+inline decltype(auto) withInputsFromLast(JNIEnv* env, F&& f, Args... args) {
+  Inputs in(env);
+  return detail::callConvertedFromLast(in, std::forward<F>(f), std::make_tuple(args...),
+                                       std::index_sequence_for<Args...>());
+}
+
+// receiver->setGeometry(...) with the converted arguments, the arrays
+// converted ReadOnly from the last array to the first and released after the
+// call; scalars pass unchanged.
+template <class Receiver, class... Args>
+inline void setGeometryOf(JNIEnv* env, Receiver* receiver, Args... args) {
+  withInputsFromLast(env, [receiver](auto... a) { receiver->setGeometry(a...); }, args...);
+}
+
 // Constructor function body: a new T from the converted arguments.
 template <class T>
 struct New {

@@ -26,7 +26,8 @@
 //    disposed (com.kestrum.tavrel.nodes.PoNode); a forwarded call takes a local
 //    reference first and does nothing once the peer is gone (ForwardedCall.h).
 //    Neither the destructor nor anything else here releases the weak
-//    reference: it keeps nothing alive, and ICustomClass owns it.
+//    reference: ICustomClass owns it and releases it when the node is
+//    destroyed.
 //  - The node owns fieldData and deletes it with the node.
 //  - getName after a Java exception, or for a null Java result, is the empty
 //    name.

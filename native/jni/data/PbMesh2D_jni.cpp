@@ -9,6 +9,7 @@
 #include <Tavrel/PbMesh2D.h>
 
 #include "common/ClassFamilies.h"
+#include "common/DataSets.h"
 #include "common/FloatLayoutedArrayTypeArrayHelper.h"
 #include "common/Handles.h"
 #include "common/Results.h"
@@ -23,9 +24,7 @@ extern "C" {
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbMesh2D_addVecsSetImpl(JNIEnv* env, jobject, jlong handle,
                                                                              jint set, jobjectArray vectors,
                                                                              jstring name) {
-  tavrel::WideName text(env, name);
-  FloatLayoutedArrayTypeArrayHelper<SbVec2f> natives(env, vectors);
-  fromHandle<PbMesh2D>(handle)->addVecsSet(set, natives.toNativeArray(), text.value);
+  tavrel::addVecsSet<SbVec2f>(env, fromHandle<PbMesh2D>(handle), set, vectors, name);
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbMesh2D_get2DBoundingBoxImpl(JNIEnv* env, jobject, jlong handle,

@@ -9,6 +9,7 @@
 #include <Tavrel/PbMesh.h>
 
 #include "common/ClassFamilies.h"
+#include "common/DataSets.h"
 #include "common/FloatLayoutedArrayTypeArrayHelper.h"
 #include "common/Handles.h"
 #include "common/Results.h"
@@ -75,34 +76,25 @@ JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_data_PbMesh_getNumVecsSetImpl(JNI
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbMesh_addValuesSetImpl(JNIEnv* env, jobject, jlong handle,
                                                                              jint set, jfloatArray values,
                                                                              jstring name) {
-  tavrel::WideName n(env, name);
-  ArrayHelper helper(env);
-  mesh(handle)->addValuesSet(set, helper.toNativeArray(values, ArrayHelper::ReadOnly), n.value);
+  tavrel::addValuesSet(env, mesh(handle), set, values, name);
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbMesh_addValuesSetImpl1(JNIEnv* env, jobject, jlong handle,
                                                                               jint set, jfloatArray values,
                                                                               jint binding, jstring name) {
-  tavrel::WideName n(env, name);
-  ArrayHelper helper(env);
-  mesh(handle)->PbMesh::addValuesSet(set, helper.toNativeArray(values, ArrayHelper::ReadOnly),
-                                     tavrel::toEnum<PbMesh::DataBinding>(binding), n.value);
+  tavrel::addValuesSet<PbMesh::DataBinding>(env, mesh(handle), set, values, binding, name);
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbMesh_addVecsSetImpl(JNIEnv* env, jobject, jlong handle,
                                                                            jint set, jobjectArray vectors,
                                                                            jstring name) {
-  tavrel::WideName n(env, name);
-  FloatLayoutedArrayTypeArrayHelper<SbVec3f> natives(env, vectors);
-  mesh(handle)->addVecsSet(set, natives.toNativeArray(), n.value);
+  tavrel::addVecsSet<SbVec3f>(env, mesh(handle), set, vectors, name);
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_data_PbMesh_addStringsSetImpl(JNIEnv* env, jobject, jlong handle,
                                                                               jint set, jobjectArray strings,
                                                                               jstring name) {
-  tavrel::WideName n(env, name);
-  StringArrayHelper natives(env, strings);
-  mesh(handle)->addStringsSet(set, natives.toSbStringArray(), n.value);
+  tavrel::addStringsSet(env, mesh(handle), set, strings, name);
 }
 
 JNIEXPORT jstring JNICALL Java_com_kestrum_tavrel_data_PbMesh_getValuesSetNameImpl(JNIEnv* env, jobject, jlong handle,

@@ -89,6 +89,14 @@ JNIEXPORT void JNICALL Java_com_kestrum_corvel_fields_SoField_setValueNative(JNI
   from<SoField>(handle)->setValueString(SbString(text.toUTFString()));
 }
 
+JNIEXPORT jboolean JNICALL Java_com_kestrum_corvel_fields_SoField_isConnectedNative(JNIEnv*, jclass, jlong handle) {
+  return from<SoField>(handle)->getConnectedField() != nullptr ? JNI_TRUE : JNI_FALSE;
+}
+
+JNIEXPORT void JNICALL Java_com_kestrum_corvel_fields_SoField_deleteNative(JNIEnv*, jclass, jlong handle) {
+  delete from<SoField>(handle);
+}
+
 JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_SoInput_newNative(JNIEnv* env, jclass, jstring text) {
   StringHelper utf(env, text);
   return handleOf(new SoInput(utf.toUTFString()));

@@ -7,8 +7,8 @@
 // initJavaObject(env, peer, weak):
 //   weak == true   stores a weak global reference. The Java peer stays
 //                  collectable; NewLocalRef on the reference gives null once
-//                  it has been collected. The reference is never released
-//                  (a weak reference keeps nothing alive).
+//                  it has been collected. The object releases it when it is
+//                  destroyed (its owner never does).
 //   weak == false  stores a global reference, which the owner releases with
 //                  DeleteGlobalRef when it is destroyed.
 // A second call replaces the reference; a weak one made by an earlier call is
@@ -22,6 +22,7 @@ class ICustomClass {
   jobject javaPeer;
 
   ICustomClass();
+  ~ICustomClass();
   void initJavaObject(JNIEnv* env, jobject peer, bool weak);
 
  private:

@@ -1,8 +1,18 @@
 // Base of objects that hold fields.
+//
+// Behaviour of this toolkit: every container has a field data table of its
+// own (getFieldData; the toolkit's classes share one per class, this one
+// keeps one per object so that fields added to one object stay out of the
+// others). getField(name) finds the container's own fields (addOwnField),
+// then the fields of its field data. The container keeps the fields that
+// belong to it by address and owns none of them (see SoField.h): when it is
+// destroyed they are left without a container.
 #pragma once
 
 #include <Corvel/SoBase.h>
 #include <Corvel/SoField.h>
+
+#include <vector>
 
 class SoFieldContainer : public SoBase {
  public:
@@ -28,5 +38,12 @@ class SoFieldContainer : public SoBase {
   ~SoFieldContainer() override;
 
  private:
+  friend class SoField;
+  // A field starts or stops belonging to this container.
+  void attachField(SoField* field);
+  void detachField(SoField* field);
+
   std::vector<SoField*> ownFields;
+  std::vector<SoField*> attachedFields;
+  SoFieldData instanceFieldData;
 };

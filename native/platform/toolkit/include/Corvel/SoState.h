@@ -7,19 +7,22 @@
 // a cell filter it goes through becomes no one's current filter and a
 // representation draws every cell.
 //
-// It holds one slot of the extension (this toolkit has no elements): the
+// It holds two slots of the extension (this toolkit has no elements): the
 // current cell filter, which a cell filter sets when a traversal goes through
-// it and the mesh representations traversed after it read. Null until the
-// first filter; it stays set to the end of the traversal or until the next
-// filter, as nothing here scopes the state (a group does not, and there are no
-// separators). The state holds a reference on its current filter, so a filter
-// that everything else lets go of during the traversal stays alive until the
-// next filter replaces it or the traversal ends.
+// it, and the current mesh, which a mesh node (PoMeshProperty) sets to its
+// mesh when a traversal goes through it; the mesh representations traversed
+// afterwards read both. Each is null until the first such node; it stays set
+// to the end of the traversal or until the next node of its kind, as nothing
+// here scopes the state (a group does not, and there are no separators). The
+// state holds a reference on the node of each slot, so a filter or mesh node
+// that everything else lets go of during the traversal stays alive (and with
+// it the mesh it holds) until the next one replaces it or the traversal ends.
 #pragma once
 
 class SoAction;
 class SoBase;
 class PoCellFilter;
+class PbMesh;
 
 class SoState {
  public:
@@ -37,9 +40,20 @@ class SoState {
   // reference-counted base, on which the state holds its reference.
   void setCellFilter(const PoCellFilter* filter, const SoBase* node);
 
+  const PbMesh* getMesh() const { return mesh; }
+  // Makes mesh the current mesh; node is the mesh node that holds it, on which
+  // the state holds its reference.
+  void setMesh(const PbMesh* mesh, const SoBase* node);
+
  private:
+  // Replaces the node a slot references (the new reference first: it may be
+  // the same node).
+  static void hold(const SoBase*& slot, const SoBase* node);
+
   SoAction* action;
   int depth = 0;
   const PoCellFilter* cellFilter = nullptr;
   const SoBase* cellFilterNode = nullptr;
+  const PbMesh* mesh = nullptr;
+  const SoBase* meshNode = nullptr;
 };

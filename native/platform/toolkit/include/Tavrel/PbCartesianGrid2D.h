@@ -10,6 +10,7 @@ class PbCartesianGrid2D : public PbGrid2D {
  public:
   explicit PbCartesianGrid2D(int isDataDuplicated);
   PbCartesianGrid2D(const PbCartesianGrid2D& other);
+  PbCartesianGrid2D& operator=(const PbCartesianGrid2D& other) = default;
   PbCartesianGrid2D(int numX, int numY, const float* x, const float* y, int isDataDuplicated);
   PbCartesianGrid2D(int numX, int numY, const float* x, const float* y, const float* z, int isDataDuplicated);
   void setCoordinates(const float* x, const float* y, const float* z) override;

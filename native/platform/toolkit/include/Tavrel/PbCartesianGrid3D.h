@@ -9,6 +9,7 @@ class PbCartesianGrid3D : public PbGrid3D {
  public:
   explicit PbCartesianGrid3D(int isDataDuplicated);
   PbCartesianGrid3D(const PbCartesianGrid3D& other);
+  PbCartesianGrid3D& operator=(const PbCartesianGrid3D& other) = default;
   PbCartesianGrid3D(int numX, int numY, int numZ, const float* x, const float* y, const float* z,
                     int isDataDuplicated);
   void setCoordinates(const float* x, const float* y, const float* z) override;

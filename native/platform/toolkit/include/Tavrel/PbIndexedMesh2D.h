@@ -21,6 +21,7 @@ class PbIndexedMesh2D : public PbMesh2D {
 
   explicit PbIndexedMesh2D(int isDataDuplicated);
   PbIndexedMesh2D(const PbIndexedMesh2D& other);
+  PbIndexedMesh2D& operator=(const PbIndexedMesh2D& other) = default;
   PbIndexedMesh2D(int numNodes, const float* x, const float* y, int numCells, const int* cellTypes,
                   const int* cellIndex, int isDataDuplicated);
   PbIndexedMesh2D(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,

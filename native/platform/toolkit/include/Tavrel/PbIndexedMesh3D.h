@@ -17,6 +17,7 @@ class PbIndexedMesh3D : public PbMesh3D {
  public:
   explicit PbIndexedMesh3D(int isDataDuplicated);
   PbIndexedMesh3D(const PbIndexedMesh3D& other);
+  PbIndexedMesh3D& operator=(const PbIndexedMesh3D& other) = default;
   PbIndexedMesh3D(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
                   const int* cellIndex, int isDataDuplicated);
 

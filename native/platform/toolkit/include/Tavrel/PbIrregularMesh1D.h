@@ -9,6 +9,7 @@ class PbIrregularMesh1D : public PbMesh1D {
  public:
   PbIrregularMesh1D();
   PbIrregularMesh1D(const PbIrregularMesh1D& other);
+  PbIrregularMesh1D& operator=(const PbIrregularMesh1D& other) = default;
   PbIrregularMesh1D(int numNodes, const float* x);
   void setGeometry(int numNodes, const float* x);
   void setCoordinates(const float* x, const float* y, const float* z) override;

@@ -33,6 +33,13 @@
 //  - The base class's setCoordinates does nothing and its getCoordinates
 //    leaves its outputs untouched: only meshes that keep coordinate arrays
 //    override them (see each class).
+//  - Assigning a mesh to another of the same class (operator=, which the mesh
+//    fields use) copies its geometry, data sets and data-duplication flag,
+//    and frees the cells handed out so far, as a change of geometry does.
+//  - sameMeshAs (what the mesh fields compare) is true when both meshes are of
+//    the same class and have the same node coordinates, the same cells (the
+//    same nodes, in order) and the same data sets (index, name, binding and
+//    data); floats compare exactly, and the data-duplication flag is left out.
 #pragma once
 
 #include <Corvel/SbBase.h>
@@ -107,11 +114,15 @@ class PbMesh {
   // indices outside the mesh are left out; a cell without nodes gets 0), and 0
   // for every cell when the set is missing or has no data.
   std::vector<float> cellValues(int set) const;
+  int numberOfNodes() const { return numNodes; }
+  int numberOfCells() const { return numCells; }
+  // Whether the other mesh is the same (see above).
+  bool sameMeshAs(const PbMesh& other) const;
 
  protected:
   explicit PbMesh(int isDataDuplicated);
   PbMesh(const PbMesh& other);
-  PbMesh& operator=(const PbMesh&) = delete;
+  PbMesh& operator=(const PbMesh& other);
 
   virtual SbVec3f nodeCoord(int nodeIndex) const = 0;
   // A new cell for the index (null when the mesh has none).

@@ -10,6 +10,7 @@ class PbParalCartesianGrid2D : public PbGrid2D {
  public:
   explicit PbParalCartesianGrid2D(int isDataDuplicated);
   PbParalCartesianGrid2D(const PbParalCartesianGrid2D& other);
+  PbParalCartesianGrid2D& operator=(const PbParalCartesianGrid2D& other) = default;
   PbParalCartesianGrid2D(int numX, int numY, const float* x, const float* y, int isDataDuplicated);
   PbParalCartesianGrid2D(int numX, int numY, const float* x, const float* y, const float* z, int isDataDuplicated);
   void setCoordinates(const float* x, const float* y, const float* z) override;

@@ -10,6 +10,7 @@ class PbParalCartesianGrid3D : public PbGrid3D {
  public:
   explicit PbParalCartesianGrid3D(int isDataDuplicated);
   PbParalCartesianGrid3D(const PbParalCartesianGrid3D& other);
+  PbParalCartesianGrid3D& operator=(const PbParalCartesianGrid3D& other) = default;
   PbParalCartesianGrid3D(int numX, int numY, int numZ, const float* x, const float* y, const float* z,
                          int isDataDuplicated);
   void setCoordinates(const float* x, const float* y, const float* z) override;

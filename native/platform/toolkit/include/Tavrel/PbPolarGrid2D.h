@@ -9,6 +9,7 @@ class PbPolarGrid2D : public PbGrid2D {
  public:
   explicit PbPolarGrid2D(int isDataDuplicated);
   PbPolarGrid2D(const PbPolarGrid2D& other);
+  PbPolarGrid2D& operator=(const PbPolarGrid2D& other) = default;
   PbPolarGrid2D(int numX, int numY, const float* radii, const float* angles, int isDataDuplicated);
   PbPolarGrid2D(int numX, int numY, const float* radii, const float* angles, const float* z, int isDataDuplicated);
   void setGeometry(int numX, int numY, const float* x, const float* y) override;

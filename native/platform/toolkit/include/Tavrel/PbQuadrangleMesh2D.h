@@ -8,6 +8,7 @@ class PbQuadrangleMesh2D : public PbIndexedMesh2D {
  public:
   explicit PbQuadrangleMesh2D(int isDataDuplicated);
   PbQuadrangleMesh2D(const PbQuadrangleMesh2D& other);
+  PbQuadrangleMesh2D& operator=(const PbQuadrangleMesh2D& other) = default;
   PbQuadrangleMesh2D(int numNodes, const float* x, const float* y, int numQuadrangles, const int* quadrangleNodes,
                      int isDataDuplicated);
   PbQuadrangleMesh2D(int numNodes, const float* x, const float* y, const float* z, int numQuadrangles,

@@ -10,6 +10,7 @@ class PbRegularCartesianGrid2D : public PbGrid2D {
  public:
   explicit PbRegularCartesianGrid2D(int isDataDuplicated);
   PbRegularCartesianGrid2D(const PbRegularCartesianGrid2D& other);
+  PbRegularCartesianGrid2D& operator=(const PbRegularCartesianGrid2D& other) = default;
   PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax, int isDataDuplicated);
   PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax, const float* z,
                            int isDataDuplicated);

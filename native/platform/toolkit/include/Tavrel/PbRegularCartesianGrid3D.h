@@ -9,6 +9,7 @@ class PbRegularCartesianGrid3D : public PbGrid3D {
  public:
   explicit PbRegularCartesianGrid3D(int isDataDuplicated);
   PbRegularCartesianGrid3D(const PbRegularCartesianGrid3D& other);
+  PbRegularCartesianGrid3D& operator=(const PbRegularCartesianGrid3D& other) = default;
   PbRegularCartesianGrid3D(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax,
                            float ymax, float zmax, int isDataDuplicated);
   void setGeometry(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax, float ymax,

@@ -8,6 +8,7 @@ class PbRegularMesh1D : public PbMesh1D {
  public:
   PbRegularMesh1D();
   PbRegularMesh1D(const PbRegularMesh1D& other);
+  PbRegularMesh1D& operator=(const PbRegularMesh1D& other) = default;
   PbRegularMesh1D(int numNodes, float xmin, float xmax);
   void setGeometry(int numNodes, float xmin, float xmax);
 

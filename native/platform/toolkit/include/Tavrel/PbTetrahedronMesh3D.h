@@ -8,6 +8,7 @@ class PbTetrahedronMesh3D : public PbIndexedMesh3D {
  public:
   explicit PbTetrahedronMesh3D(int isDataDuplicated);
   PbTetrahedronMesh3D(const PbTetrahedronMesh3D& other);
+  PbTetrahedronMesh3D& operator=(const PbTetrahedronMesh3D& other) = default;
   PbTetrahedronMesh3D(int numNodes, const float* x, const float* y, const float* z, int numTetrahedra,
                       const int* tetrahedronNodes, int isDataDuplicated);
   using PbIndexedMesh3D::setGeometry;

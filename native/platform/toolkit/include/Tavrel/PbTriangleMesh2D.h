@@ -10,6 +10,7 @@ class PbTriangleMesh2D : public PbIndexedMesh2D {
  public:
   explicit PbTriangleMesh2D(int isDataDuplicated);
   PbTriangleMesh2D(const PbTriangleMesh2D& other);
+  PbTriangleMesh2D& operator=(const PbTriangleMesh2D& other) = default;
   PbTriangleMesh2D(int numNodes, const float* x, const float* y, int numTriangles, const int* triangleNodes,
                    int isDataDuplicated);
   PbTriangleMesh2D(int numNodes, const float* x, const float* y, const float* z, int numTriangles,

@@ -16,7 +16,9 @@
 // per-node set, and 0 without that set or without data in it
 // (PbMesh::cellValues). The mesh is the one given to the most derived
 // setter: a 2D (3D) representation's PoMesh2D (PoMesh3D) mesh, else the
-// PoMesh one. Without a mesh nothing is asked and no cell is selected. Each
+// PoMesh one, else the state's current mesh (the mesh of the last mesh node
+// the traversal went through, see SoState.h; of whatever dimension). Without
+// a mesh nothing is asked and no cell is selected. Each
 // selection is journaled as "PoMesh::selectCells(filter, numCells,
 // [accepted cells])". Other actions select nothing.
 #pragma once

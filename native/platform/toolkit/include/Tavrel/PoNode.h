@@ -10,7 +10,9 @@
 // after it ask it about their cells. PoNode's operations are where every filter comes,
 // whatever class or language implements it (the binding runs PoNode's own
 // operation for a filter written in Java), so PoCellFilter does not override
-// them. Outside apply an action has no state: nothing is set then.
+// them. Likewise a mesh node (PoMeshProperty) traversed by one of these
+// operations makes its mesh the state's current mesh (SoState::setMesh).
+// Outside apply an action has no state: nothing is set then.
 #pragma once
 
 #include <Corvel/SoNode.h>

@@ -42,15 +42,24 @@ void SoAction::traverse(SoNode* node) {
 SoState::SoState(SoAction* action) : action(action) {}
 
 SoState::~SoState() {
-  if (cellFilterNode != nullptr) cellFilterNode->unref();
+  hold(cellFilterNode, nullptr);
+  hold(meshNode, nullptr);
+}
+
+void SoState::hold(const SoBase*& slot, const SoBase* node) {
+  if (node != nullptr) node->ref();
+  if (slot != nullptr) slot->unref();
+  slot = node;
 }
 
 void SoState::setCellFilter(const PoCellFilter* filter, const SoBase* node) {
-  // The new reference first: the filter may be the current one.
-  if (node != nullptr) node->ref();
-  if (cellFilterNode != nullptr) cellFilterNode->unref();
+  hold(cellFilterNode, node);
   cellFilter = filter;
-  cellFilterNode = node;
+}
+
+void SoState::setMesh(const PbMesh* m, const SoBase* node) {
+  hold(meshNode, node);
+  mesh = m;
 }
 
 SO_ACTION_SOURCE(SoCallbackAction, SoAction, "CallbackAction", callback)

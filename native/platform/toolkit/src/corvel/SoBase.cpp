@@ -4,6 +4,7 @@
 #include <Corvel/SoInput.h>
 #include <Corvel/SoSubClass.h>
 
+#include <algorithm>
 #include <mutex>
 #include <cctype>
 #include <vector>
@@ -71,19 +72,7 @@ SoBaseInitializer::~SoBaseInitializer() { --initializerDepth; }
 
 bool SoBaseInitializer::isActive() { return initializerDepth > 0; }
 
-// --- fields ------------------------------------------------------------------
-
-SoField::~SoField() = default;
-
-SoFieldData::SoFieldData(const SoFieldData* copyFrom) {
-  if (copyFrom) names = copyFrom->names;
-}
-
-int SoFieldData::indexOf(const SbName& name) const {
-  for (std::size_t i = 0; i < names.size(); ++i)
-    if (names[i] == name) return static_cast<int>(i);
-  return -1;
-}
+// --- input --------------------------------------------------------------------
 
 SoInput::~SoInput() = default;
 
@@ -111,6 +100,7 @@ SoType SoFieldContainer::getClassTypeId() {
 }
 
 SoFieldContainer::~SoFieldContainer() {
+  for (SoField* f : attachedFields) f->owner = nullptr;
   for (SoField* f : ownFields) delete f;
 }
 
@@ -118,7 +108,8 @@ SoField* SoFieldContainer::getField(const SbName& name) const {
   CallJournal::record("SoFieldContainer::getField", name);
   for (SoField* f : ownFields)
     if (f->getName() == name) return f;
-  return nullptr;
+  const SoFieldData* data = getFieldData();
+  return data != nullptr ? data->findField(name) : nullptr;
 }
 
 SoField* SoFieldContainer::getEventIn(const SbName& name) const {
@@ -133,7 +124,18 @@ SoField* SoFieldContainer::getEventOut(const SbName& name) const {
 
 int SoFieldContainer::getIsBuiltIn() const { return 1; }
 
-const SoFieldData* SoFieldContainer::getFieldData() const { return nullptr; }
+const SoFieldData* SoFieldContainer::getFieldData() const {
+  CallJournal::record("SoFieldContainer::getFieldData");
+  return &instanceFieldData;
+}
+
+void SoFieldContainer::attachField(SoField* field) { attachedFields.push_back(field); }
+
+void SoFieldContainer::detachField(SoField* field) {
+  attachedFields.erase(std::remove(attachedFields.begin(), attachedFields.end(), field), attachedFields.end());
+  if (!field->listed) return;
+  if (const SoFieldData* data = getFieldData()) const_cast<SoFieldData*>(data)->removeField(field);
+}
 
 SbBool SoFieldContainer::readInstance(SoInput* in, unsigned short flags) {
   CallJournal::record("SoFieldContainer::readInstance", static_cast<const void*>(in), flags);

@@ -118,12 +118,13 @@ const PbMesh* PoMesh2D::drawnMesh() const { return mesh2D ? mesh2D : PoMesh::dra
 const PbMesh* PoMesh3D::drawnMesh() const { return mesh3D ? mesh3D : PoMesh::drawnMesh(); }
 
 void PoMesh::selectCells(SoAction* action) {
+  const SoState* state = action->getState();
   const PbMesh* drawn = drawnMesh();
+  if (drawn == nullptr && state != nullptr) drawn = state->getMesh();
   if (drawn == nullptr) {
     selected.clear();
     return;
   }
-  const SoState* state = action->getState();
   const PoCellFilter* filter = state != nullptr ? state->getCellFilter() : nullptr;
   const std::vector<float> values = drawn->cellValues(0);
   const int numCells = static_cast<int>(values.size());

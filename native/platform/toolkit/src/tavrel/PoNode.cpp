@@ -2,6 +2,7 @@
 #include <Corvel/SoAction.h>
 #include <Corvel/SoState.h>
 #include <Tavrel/PoCellFilter.h>
+#include <Tavrel/PoMeshProperty.h>
 #include <Tavrel/PoNode.h>
 
 SO_NODE_ABSTRACT_SOURCE(PoNode, SoNode, "PoNode")
@@ -10,13 +11,17 @@ PoNode::PoNode() = default;
 PoNode::~PoNode() = default;
 
 namespace {
-// A cell filter becomes the state's current one (see PoNode.h).
+// A cell filter becomes the state's current one, a mesh node's mesh the
+// state's current mesh (see PoNode.h).
 void enterState(PoNode* node, SoAction* action) {
-  if (const auto* filter = dynamic_cast<const PoCellFilter*>(node)) filter->makeCurrent(action);
+  if (const auto* filter = dynamic_cast<const PoCellFilter*>(node))
+    filter->makeCurrent(action);
+  else if (const auto* property = dynamic_cast<const PoMeshProperty*>(node))
+    property->makeCurrent(action);
 }
 }  // namespace
 
-// Each records "PoNode::<op>(action)", lets a cell filter enter the state and
+// Each records "PoNode::<op>(action)", lets a cell filter or a mesh node enter the state and
 // does SoNode's work.
 #define PO_NODE_ACTION(op, ActionClass)                                 \
   void PoNode::op(ActionClass* action) {                                \

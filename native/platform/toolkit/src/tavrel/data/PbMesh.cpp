@@ -4,6 +4,7 @@
 #include <Tavrel/PbMesh1D.h>
 
 #include <algorithm>
+#include <typeinfo>
 #include <cmath>
 
 PbMesh::PbMesh(int isDataDuplicated) : dataDuplicated(isDataDuplicated) {}
@@ -18,6 +19,46 @@ PbMesh::PbMesh(const PbMesh& other)
       strings(other.strings) {}
 
 PbMesh::~PbMesh() = default;
+
+PbMesh& PbMesh::operator=(const PbMesh& other) {
+  if (this == &other) return *this;
+  numNodes = other.numNodes;
+  numCells = other.numCells;
+  dataDuplicated = other.dataDuplicated;
+  boundingBox = other.boundingBox;
+  values = other.values;
+  vecs = other.vecs;
+  strings = other.strings;
+  cells.clear();
+  return *this;
+}
+
+bool PbMesh::sameMeshAs(const PbMesh& other) const {
+  if (this == &other) return true;
+  if (typeid(*this) != typeid(other) || numNodes != other.numNodes || numCells != other.numCells) return false;
+  for (int n = 0; n < numNodes; ++n)
+    if (!(nodeCoord(n) == other.nodeCoord(n))) return false;
+  std::vector<int> mine, theirs;
+  for (int c = 0; c < numCells; ++c) {
+    cellNodes(c, mine);
+    other.cellNodes(c, theirs);
+    if (mine != theirs) return false;
+  }
+  auto sameValues = [](const ValuesSet& a, const ValuesSet& b) {
+    return a.hasData == b.hasData && a.binding == b.binding && a.name == b.name && a.data == b.data;
+  };
+  auto sameSet = [](const auto& a, const auto& b) {
+    return a.hasData == b.hasData && a.name == b.name && a.data == b.data;
+  };
+  auto sameMaps = [](const auto& a, const auto& b, auto same) {
+    if (a.size() != b.size()) return false;
+    for (auto i = a.begin(), j = b.begin(); i != a.end(); ++i, ++j)
+      if (i->first != j->first || !same(i->second, j->second)) return false;
+    return true;
+  };
+  return sameMaps(values, other.values, sameValues) && sameMaps(vecs, other.vecs, sameSet) &&
+         sameMaps(strings, other.strings, sameSet);
+}
 
 void PbMesh::geometryChanged(int nodes, int cellCount) {
   const bool nodesChanged = nodes != numNodes, cellsChanged = cellCount != numCells;

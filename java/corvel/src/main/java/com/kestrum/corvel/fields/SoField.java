@@ -4,7 +4,11 @@ import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
 
-/** A field of a node: a view of a native field, which belongs to its node. */
+/**
+ * A field of a node. A view of a native field that belongs to its node, or, for a field made
+ * in Java (a subclass's constructor), the owner of its native field, which the binding core
+ * frees when the field is disposed or collected.
+ */
 public class SoField extends NativeObject {
     static {
         CorvelNative.ensureLoaded();
@@ -15,14 +19,34 @@ public class SoField extends NativeObject {
         super(handle);
     }
 
+    /**
+     * A field that owns its native field: {@code release} frees it (see {@link #deleting}).
+     */
+    protected SoField(long handle, Runnable release) {
+        super(handle, release);
+    }
+
+    /** The release action of a field made in Java: deletes the native field at the handle. */
+    protected static Runnable deleting(long handle) {
+        return releaseWith(SoField::deleteNative, handle);
+    }
+
     /** The field's name. */
     public String getName() {
         return getNameNative(handle());
     }
 
     /** The field's value in its text form (for a vector field, "x y z"). */
-    public String getValue() {
+    public String get() {
         return getValueNative(handle());
+    }
+
+    /**
+     * Whether the field takes its value from another field (the toolkit connects fields): such a
+     * field may bring its value up to date whenever it is read.
+     */
+    public boolean isConnected() {
+        return isConnectedNative(handle());
     }
 
     /** Sets the field's value from its text form; the node uses it when next traversed. */
@@ -38,4 +62,8 @@ public class SoField extends NativeObject {
     private static native String getValueNative(long handle);
 
     private static native void setValueNative(long handle, String value);
+
+    private static native boolean isConnectedNative(long handle);
+
+    private static native void deleteNative(long handle);
 }

@@ -23,6 +23,7 @@ public final class Demo {
                 new MeshSection(),
                 new RepresentationsSection(),
                 new CustomNodeSection(),
+                new MeshNodeSection(),
                 new GraphSection());
         for (Section s : sections) {
             System.out.println();

@@ -7,11 +7,14 @@ import java.nio.FloatBuffer;
 /**
  * Argument checks made before any native call: the native methods check nothing, so every
  * array the toolkit reads or writes must be long enough and every index must be in range.
+ *
+ * <p>Internal to the product (public for its other packages, whose classes check mesh
+ * arguments the way the mesh classes do); not part of the API.
  */
-final class Checks {
+public final class Checks {
     private Checks() {}
 
-    static <T> T notNull(T value, String name) {
+    public static <T> T notNull(T value, String name) {
         if (value == null) {
             throw new NullPointerException(name + " is null");
         }
@@ -24,10 +27,10 @@ final class Checks {
      * 12 n bytes (a buffer's capacity is an int) or an array of 3 n floats. A larger count could
      * only fail in the toolkit, whose allocation failures end the process.
      */
-    static final int MAX_COUNT = Integer.MAX_VALUE / 12;
+    public static final int MAX_COUNT = Integer.MAX_VALUE / 12;
 
     /** A node or cell count, or a grid dimension: not negative and at most {@link #MAX_COUNT}. */
-    static int count(int n, String name) {
+    public static int count(int n, String name) {
         if (n < 0) {
             throw new IllegalArgumentException(name + " is negative: " + n);
         }
@@ -39,7 +42,7 @@ final class Checks {
     }
 
     /** The product of grid dimensions: the node count, at most {@link #MAX_COUNT}. */
-    static int product(int... counts) {
+    public static int product(int... counts) {
         long p = 1;
         for (int c : counts) {
             p *= c;
@@ -52,7 +55,7 @@ final class Checks {
         return (int) p;
     }
 
-    static float[] length(float[] array, long needed, String name) {
+    public static float[] length(float[] array, long needed, String name) {
         notNull(array, name);
         if (array.length < needed) {
             throw new IllegalArgumentException(name + " has " + array.length + " elements, " + needed + " needed");
@@ -60,7 +63,7 @@ final class Checks {
         return array;
     }
 
-    static int[] length(int[] array, long needed, String name) {
+    public static int[] length(int[] array, long needed, String name) {
         notNull(array, name);
         if (array.length < needed) {
             throw new IllegalArgumentException(name + " has " + array.length + " elements, " + needed + " needed");
@@ -68,7 +71,7 @@ final class Checks {
         return array;
     }
 
-    static <T> T[] length(T[] array, long needed, String name) {
+    public static <T> T[] length(T[] array, long needed, String name) {
         notNull(array, name);
         if (array.length < needed) {
             throw new IllegalArgumentException(name + " has " + array.length + " elements, " + needed + " needed");
@@ -77,12 +80,12 @@ final class Checks {
     }
 
     /** A float array that may be null, and otherwise must be long enough. */
-    static float[] optional(float[] array, long needed, String name) {
+    public static float[] optional(float[] array, long needed, String name) {
         return array == null ? null : length(array, needed, name);
     }
 
     /** Every element of an object array must be present (the conversion reads them all). */
-    static <T> T[] noNullElements(T[] array, String name) {
+    public static <T> T[] noNullElements(T[] array, String name) {
         for (int i = 0; i < array.length; i++) {
             if (array[i] == null) {
                 throw new NullPointerException(name + "[" + i + "] is null");
@@ -91,7 +94,7 @@ final class Checks {
         return array;
     }
 
-    static int index(int index, int size, String name) {
+    public static int index(int index, int size, String name) {
         if (index < 0 || index >= size) {
             throw new IndexOutOfBoundsException(name + " " + index + " is outside 0.." + (size - 1));
         }
@@ -102,7 +105,7 @@ final class Checks {
      * The cells of an indexed mesh: cellTypes[c] is the number of nodes of cell c (one of
      * allowed), cellIndex lists the nodes of every cell, each below numNodes.
      */
-    static void cells(int numNodes, int numCells, int[] cellTypes, int[] cellIndex, int... allowed) {
+    public static void cells(int numNodes, int numCells, int[] cellTypes, int[] cellIndex, int... allowed) {
         count(numCells, "numCells");
         length(cellTypes, numCells, "cellTypes");
         long total = 0;
@@ -117,9 +120,68 @@ final class Checks {
     }
 
     /** The cells of a mesh whose cells all have nodesPerCell nodes. */
-    static void cells(int numNodes, int numCells, int nodesPerCell, int[] cellIndex, String name) {
+    public static void cells(int numNodes, int numCells, int nodesPerCell, int[] cellIndex, String name) {
         count(numCells, "numCells");
         nodeIndices(numNodes, (long) numCells * nodesPerCell, cellIndex, name);
+    }
+
+    // --- the geometry of each kind of mesh, checked as the mesh classes check it ---------------
+
+    /**
+     * The arrays of a 2D grid of numX x numY nodes: x and y one value per node, or per column and
+     * per row (perAxis); z, when not null, one per node.
+     */
+    public static void grid2D(int numX, int numY, float[] x, float[] y, float[] z, boolean perAxis) {
+        PbGrid2D.checkArrays(numX, numY, x, y, z, perAxis);
+    }
+
+    /** The arrays of a 3D grid: one value per node, or per index along each axis (perAxis). */
+    public static void grid3D(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean perAxis) {
+        PbGrid3D.checkArrays(numX, numY, numZ, x, y, z, perAxis);
+    }
+
+    /** The node counts of a regular grid (and its elevations, one per node, when not null). */
+    public static void regularGrid(float[] z, int... counts) {
+        String[] names = {"numX", "numY", "numZ"};
+        int[] checked = new int[counts.length];
+        for (int i = 0; i < counts.length; i++) {
+            checked[i] = count(counts[i], i < names.length ? names[i] : "count " + i);
+        }
+        optional(z, product(checked), "z");
+    }
+
+    /** The nodes of a mesh (z may be null) and cells of 3 or 4 nodes (cellTypes, cellIndex). */
+    public static void indexedMesh2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex) {
+        PbIndexedMesh2D.check(numNodes, x, y, z, numCells, cellTypes, cellIndex);
+    }
+
+    /** The nodes of a 2D mesh (z may be null) and cells of perCell nodes each, listed in cellNodes. */
+    public static void fixedCells2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell,
+            int[] cellNodes, String name) {
+        PbIndexedMesh2D.checkFixed(numNodes, x, y, z, numCells, perCell, cellNodes, name);
+    }
+
+    /** The nodes of a 2D mesh without cells (z may be null). */
+    public static void nodes2D(int numNodes, float[] x, float[] y, float[] z) {
+        PbIndexedMesh2D.nodes(numNodes, x, y, z);
+    }
+
+    /** The nodes of a 3D mesh and cells of 4, 5, 6 or 8 nodes (cellTypes, cellIndex). */
+    public static void indexedMesh3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+            int[] cellIndex) {
+        PbIndexedMesh3D.check(numNodes, x, y, z, numCells, cellTypes, cellIndex);
+    }
+
+    /** The nodes of a 3D mesh and cells of perCell nodes each, listed in cellNodes. */
+    public static void fixedCells3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell,
+            int[] cellNodes, String name) {
+        PbIndexedMesh3D.checkFixed(numNodes, x, y, z, numCells, perCell, cellNodes, name);
+    }
+
+    /** The nodes of a 1D mesh at the abscissas x. */
+    public static void nodes1D(int numNodes, float[] x) {
+        length(x, count(numNodes, "numNodes"), "x");
     }
 
     private static void nodeIndices(int numNodes, long total, int[] indices, String name) {
@@ -142,12 +204,12 @@ final class Checks {
     }
 
     /** A float view in native byte order over a direct buffer, or null. */
-    static FloatBuffer floats(ByteBuffer buffer) {
+    public static FloatBuffer floats(ByteBuffer buffer) {
         return buffer == null ? null : buffer.order(ByteOrder.nativeOrder()).asFloatBuffer();
     }
 
     /** The first element of an Object[] output that received a direct buffer, as floats. */
-    static FloatBuffer floats(Object[] out) {
+    public static FloatBuffer floats(Object[] out) {
         return floats((ByteBuffer) out[0]);
     }
 }

@@ -80,7 +80,7 @@ public class PbIndexedMesh2D extends PbMesh2D {
         return numNodes;
     }
 
-    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+    static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         Checks.cells(nodes(numNodes, x, y, z), numCells, cellTypes, cellIndex, 3, 4);
         return numNodes;

@@ -66,7 +66,7 @@ public class PbIndexedMesh3D extends PbMesh3D {
         return numNodes;
     }
 
-    private static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+    static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         Checks.cells(nodes(numNodes, x, y, z), numCells, cellTypes, cellIndex, 4, 5, 6, 8);
         return numNodes;

@@ -21,6 +21,11 @@ public class PbIrregularMesh1D extends PbMesh1D {
         super(ctorImpl1(handleOf(other, "other")));
     }
 
+    /** A view of a native mesh, for subclasses. */
+    protected PbIrregularMesh1D(long handle) {
+        super(handle);
+    }
+
     /** numNodes nodes at the abscissas x. */
     public PbIrregularMesh1D(int numNodes, float[] x) {
         super(ctorImpl2(check(numNodes, x), x));

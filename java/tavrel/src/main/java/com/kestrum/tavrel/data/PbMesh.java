@@ -79,6 +79,15 @@ public abstract class PbMesh extends NativeObject {
         geometry.changed();
     }
 
+    /**
+     * Records a change of geometry of the native mesh at the address, for the classes that change
+     * meshes held inside other objects (mesh nodes, mesh fields): every cell of it handed out so
+     * far stops working.
+     */
+    protected static void geometryChangedAt(long meshAddress) {
+        GeometryChanges.of(meshAddress).changed();
+    }
+
     // --- counts -------------------------------------------------------------------------
 
     public int getNumNodes() {

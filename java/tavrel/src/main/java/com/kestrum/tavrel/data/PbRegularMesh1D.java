@@ -20,6 +20,11 @@ public class PbRegularMesh1D extends PbMesh1D {
         super(ctorImpl1(handleOf(other, "other")));
     }
 
+    /** A view of a native mesh, for subclasses. */
+    protected PbRegularMesh1D(long handle) {
+        super(handle);
+    }
+
     /** numNodes nodes evenly spaced from xmin to xmax. */
     public PbRegularMesh1D(int numNodes, float xmin, float xmax) {
         super(ctorImpl2(Checks.count(numNodes, "numNodes"), xmin, xmax));

@@ -1,0 +1,180 @@
+package com.kestrum.tavrel.fields;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.corvel.fields.SoField;
+import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.data.PbMesh;
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.MeshViews;
+import com.kestrum.tavrel.nodes.PoMeshProperty;
+import java.lang.ref.WeakReference;
+import java.util.concurrent.atomic.AtomicBoolean;
+
+/**
+ * Base of the single-value mesh fields: fields whose value is a whole mesh, held by value
+ * inside the field.
+ *
+ * <p>A field made in Java owns its native field, which is freed when the field is disposed or
+ * collected (but not while a view of its value is reachable, see below). It starts in no
+ * container; {@code addToContainer} adds it to a node under a name.
+ *
+ * <p>{@link #getValue()} gives a view of the mesh inside the field: a mesh object of the field's
+ * mesh class, never freed on its own, that shows every later change of the value ({@code
+ * setValue} copies the given mesh into it, {@code setGeometry} changes it in place). It stays
+ * valid for as long as it is reachable: it keeps the field's native object alive, even after the
+ * field has been disposed. Cells obtained from it stop working ({@link IllegalStateException})
+ * once the field's geometry or value changes (for a field connected to another one, whenever its
+ * value is read, since reading may bring it up to date).
+ */
+public abstract class PoSFMesh extends SoField {
+    static {
+        JarInitializer.init();
+    }
+
+    private final Class<? extends PbMesh> meshClass;
+    /** The address of the mesh inside the field: fixed for the field's life. */
+    private final long meshAddress;
+    /** The last view of the value handed out (held weakly: a view holds the field). */
+    private WeakReference<PbMesh> view = new WeakReference<>(null);
+
+    /** Set once the native field has been freed (shared with the release action). */
+    private final AtomicBoolean freed;
+
+    /** Owns the new native field at the handle, whose value is a mesh of meshClass. */
+    PoSFMesh(long handle, Class<? extends PbMesh> meshClass) {
+        this(handle, meshClass, new AtomicBoolean());
+    }
+
+    private PoSFMesh(long handle, Class<? extends PbMesh> meshClass, AtomicBoolean freed) {
+        super(handle, release(handle, freed));
+        registerAsPeer(false);
+        this.freed = freed;
+        this.meshClass = meshClass;
+        this.meshAddress = valueAddress(handle);
+        MeshViews.releaseUnreachable();
+    }
+
+    /** Frees the native field; its address has no Java object any more. */
+    private static Runnable release(long handle, AtomicBoolean freed) {
+        Runnable delete = deleting(handle);
+        return () -> {
+            ManagedObjects.unregisterPeer(handle);
+            freed.set(true);
+            delete.run();
+        };
+    }
+
+    /**
+     * Disposes the field. While a view of its value holds it, the native field lives on, in its
+     * node too; a node that hands it out meanwhile gives this disposed object, whose methods
+     * throw {@link IllegalStateException}.
+     */
+    @Override
+    public void dispose() {
+        long h = getNativeResourceHandleInternal();
+        super.dispose();
+        if (h != 0 && !freed.get()) {
+            ManagedObjects.registerPeer(h, this, true);
+            if (freed.get()) {
+                ManagedObjects.unregisterPeer(h, this);
+            }
+        }
+    }
+
+    /** The name of the toolkit type of PoSFMesh. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /**
+     * The mesh inside the field, as a view (see the class): the same object as long as it is
+     * reachable and not disposed. Reading the value first brings it up to date when the field
+     * says it must.
+     */
+    public abstract PbMesh getValue();
+
+    /** The view of the value (see {@link #getValue()}). */
+    final PbMesh value() {
+        long h = handle();
+        long address = evaluated(h);
+        PbMesh last = view.get();
+        if (last != null && !last.isDisposed()) {
+            return last;
+        }
+        PbMesh made = MeshViews.view(meshClass, address, this);
+        view = new WeakReference<>(made);
+        return made;
+    }
+
+    /**
+     * The address of the value, brought up to date when the field says it must. A connected
+     * field may then have taken another mesh, whose cells the earlier ones are not.
+     */
+    final long evaluated(long handle) {
+        boolean connected = isConnected();
+        long address = valueAddress(handle);
+        if (connected) {
+            geometryChanged();
+        }
+        return address;
+    }
+
+    /** Adds a values set with one value per node of the field's mesh. */
+    public void addValuesSet(int set, float[] values, String name) {
+        long h = handle();
+        Checks.length(values, value().getNumNodes(), "values");
+        Checks.notNull(name, "name");
+        addValuesSetImpl(h, set, values, name);
+    }
+
+    /** Adds a values set with one value per cell or per node of the field's mesh. */
+    public void addValuesSet(int set, float[] values, PoMeshProperty.DataBindings binding, String name) {
+        long h = handle();
+        Checks.notNull(binding, "binding");
+        PbMesh mesh = value();
+        Checks.length(values, binding == PoMeshProperty.DataBindings.PER_CELL ? mesh.getNumCells()
+                : mesh.getNumNodes(), "values");
+        Checks.notNull(name, "name");
+        addValuesSetImpl1(h, set, values, binding.getValue(), name);
+    }
+
+    /** Adds a strings set with one string per node (null elements become empty strings). */
+    public void addStringsSet(int set, String[] strings, String name) {
+        long h = handle();
+        Checks.length(strings, value().getNumNodes(), "strings");
+        Checks.notNull(name, "name");
+        addStringsSetImpl(h, set, strings, name);
+    }
+
+    /**
+     * Adds a vecs set with one vector per node. A null or empty array adds a set without data
+     * (its getters return null).
+     */
+    public void addVecsSet(int set, SbVec3f[] vectors, String name) {
+        long h = handle();
+        if (vectors != null && vectors.length > 0) {
+            Checks.noNullElements(Checks.length(vectors, value().getNumNodes(), "vectors"), "vectors");
+        }
+        Checks.notNull(name, "name");
+        addVecsSetImpl(h, set, vectors, name);
+    }
+
+    /** The address of the mesh inside the native field (evaluated first when it must be). */
+    abstract long valueAddress(long handle);
+
+    /** Records a change of the geometry of the field's mesh, after the native call that made it. */
+    final void geometryChanged() {
+        MeshViews.geometryChanged(meshAddress);
+    }
+
+    private static native String getClassTypeId();
+
+    private native void addValuesSetImpl(long handle, int set, float[] values, String name);
+
+    private native void addValuesSetImpl1(long handle, int set, float[] values, int binding, String name);
+
+    private native void addStringsSetImpl(long handle, int set, String[] strings, String name);
+
+    private native void addVecsSetImpl(long handle, int set, Object[] vectors, String name);
+}

@@ -1,0 +1,49 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.data.PbHexahedronMesh3D;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A mesh node holding a 3D mesh of hexahedra ({@link PbHexahedronMesh3D}). See {@link
+ * PoMeshProperty} for what the node does in a scene and for the view of its mesh.
+ */
+public class PoHexahedronMesh3D extends PoMeshProperty {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A node holding an empty mesh. */
+    public PoHexahedronMesh3D() {
+        super(ctorImpl(), PbHexahedronMesh3D.class);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The node's mesh, as a {@link PbHexahedronMesh3D} (see {@link PoMeshProperty#getMesh}). */
+    @Override
+    public PbHexahedronMesh3D getMesh() {
+        return (PbHexahedronMesh3D) super.getMesh();
+    }
+
+    /**
+     * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and hexahedra given by 8
+     * node indices each.
+     */
+    public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedronNodes) {
+        long h = handle();
+        Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedronNodes, "hexahedronNodes");
+        setGeometryImpl(h, numNodes, x, y, z, numHexahedra, hexahedronNodes);
+        geometryChanged();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x, float[] y, float[] z, int numHexahedra,
+            int[] hexahedronNodes);
+}

@@ -1,0 +1,49 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.data.PbParalCartesianGrid2D;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A mesh node holding a rectilinear grid: node (i, j) at (x[i], y[j]) ({@link
+ * PbParalCartesianGrid2D}). See {@link PoMeshProperty} for what the node does in a scene and for
+ * the view of its mesh.
+ */
+public class PoParalCartesianGrid2D extends PoMeshProperty {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A node holding an empty mesh. */
+    public PoParalCartesianGrid2D() {
+        super(ctorImpl(), PbParalCartesianGrid2D.class);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The node's mesh, as a {@link PbParalCartesianGrid2D} (see {@link PoMeshProperty#getMesh}). */
+    @Override
+    public PbParalCartesianGrid2D getMesh() {
+        return (PbParalCartesianGrid2D) super.getMesh();
+    }
+
+    /**
+     * Replaces the geometry of the node's mesh. A grid of numX x numY nodes: x of numX values, y of
+     * numY values, z one elevation per node or null for none.
+     */
+    public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
+        long h = handle();
+        Checks.grid2D(numX, numY, x, y, z, true);
+        setGeometryImpl(h, numX, numY, x, y, z);
+        geometryChanged();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private native void setGeometryImpl(long handle, int numX, int numY, float[] x, float[] y, float[] z);
+}

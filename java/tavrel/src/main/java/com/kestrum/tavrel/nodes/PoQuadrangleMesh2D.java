@@ -1,0 +1,61 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.data.PbQuadrangleMesh2D;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A mesh node holding a 2D mesh of quadrangles ({@link PbQuadrangleMesh2D}). See {@link
+ * PoMeshProperty} for what the node does in a scene and for the view of its mesh.
+ */
+public class PoQuadrangleMesh2D extends PoMeshProperty {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A node holding an empty mesh. */
+    public PoQuadrangleMesh2D() {
+        super(ctorImpl(), PbQuadrangleMesh2D.class);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The node's mesh, as a {@link PbQuadrangleMesh2D} (see {@link PoMeshProperty#getMesh}). */
+    @Override
+    public PbQuadrangleMesh2D getMesh() {
+        return (PbQuadrangleMesh2D) super.getMesh();
+    }
+
+    /**
+     * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and quadrangles given by 4
+     * node indices each.
+     */
+    public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
+        long h = handle();
+        Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes");
+        setGeometryImpl(h, numNodes, x, y, numQuadrangles, quadrangleNodes);
+        geometryChanged();
+    }
+
+    /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
+    public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes) {
+        long h = handle();
+        Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
+                "quadrangleNodes");
+        setGeometryImpl1(h, numNodes, x, y, z, numQuadrangles, quadrangleNodes);
+        geometryChanged();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private native void setGeometryImpl(long handle, int numNodes, float[] x, float[] y, int numQuadrangles,
+            int[] quadrangleNodes);
+
+    private native void setGeometryImpl1(long handle, int numNodes, float[] x, float[] y, float[] z,
+            int numQuadrangles, int[] quadrangleNodes);
+}
