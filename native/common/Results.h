@@ -30,6 +30,16 @@ inline void writeOutput(JNIEnv* env, JArray out, const T* values, int count) {
 inline void writeOutput(JNIEnv* env, jfloatArray out, float value) { writeOutput(env, out, &value, 1); }
 inline void writeOutput(JNIEnv* env, jintArray out, int value) { writeOutput(env, out, &value, 1); }
 
+// A toolkit int flag into element 0 of a boolean output: the binding core
+// gives boolean arrays int-wide elements, so the whole int is stored.
+inline void writeOutput(JNIEnv* env, jbooleanArray out, int flag) { writeOutput(env, out, &flag, 1); }
+
+// A char into element 0 of a byte output (its bits unchanged).
+inline void writeOutput(JNIEnv* env, jbyteArray out, char value) {
+  const jbyte b = static_cast<jbyte>(value);
+  writeOutput(env, out, &b, 1);
+}
+
 // A vector into out[0..2] (or out[0..1]).
 inline void writeOutput(JNIEnv* env, jfloatArray out, const SbVec3f& v) { writeOutput(env, out, v.getValue(), 3); }
 inline void writeOutput(JNIEnv* env, jfloatArray out, const SbVec2f& v) { writeOutput(env, out, v.getValue(), 2); }
@@ -47,6 +57,21 @@ inline void writeOutput(JNIEnv* env, jfloatArray out, const SbBox2f& box) {
 inline jobject directBuffer(JNIEnv* env, const void* address, std::size_t bytes) {
   if (address == nullptr) return nullptr;
   return env->NewDirectByteBuffer(const_cast<void*>(address), static_cast<jlong>(bytes));
+}
+
+// A toolkit list returned as a new Java array of its count floats, the count
+// going into num[0] first. A null list gives a null array.
+inline jfloatArray countedList(JNIEnv* env, jintArray num, const float* list, int count) {
+  writeOutput(env, num, count);
+  return ArrayHelper::fromNativeArray(env, list, static_cast<unsigned long>(count));
+}
+
+// A toolkit list shown as a direct buffer of count elements of elementSize
+// bytes (null for a null list), the count going into num[0].
+inline jobject countedBuffer(JNIEnv* env, jintArray num, const void* list, int count, std::size_t elementSize) {
+  jobject buffer = directBuffer(env, list, elementSize * static_cast<std::size_t>(count));
+  writeOutput(env, num, count);
+  return buffer;
 }
 
 // Stores a direct buffer over the memory (or null) into element 0 of an

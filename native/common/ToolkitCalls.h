@@ -29,6 +29,13 @@ struct WideName {
   SbString value;
 };
 
+// A string argument that the toolkit takes as char const* (UTF-8 path).
+struct Utf8Text {
+  Utf8Text(JNIEnv* env, jstring text) : helper(env, text), value(helper.toUTFString()) {}
+  StringHelper helper;
+  const char* value;
+};
+
 // Converts the arguments of one toolkit call: arrays ReadOnly (released when
 // the Inputs object is destroyed), a jboolean as the toolkit's int flag, other
 // scalars unchanged.

@@ -25,6 +25,13 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Journal_setEnabled(JNIEnv
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Journal_clear(JNIEnv*, jclass) { CallJournal::clear(); }
 
+// A line of the test's own among the toolkit's, while the journal records.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Journal_note(JNIEnv* env, jclass, jstring text) {
+  if (!CallJournal::enabled()) return;
+  StringHelper utf(env, text);
+  CallJournal::append(utf.toUTFString());
+}
+
 JNIEXPORT jobjectArray JNICALL Java_com_kestrum_tavrel_testkit_Journal_lines(JNIEnv* env, jclass) {
   return testkit::toJavaStrings(env, CallJournal::lines());
 }

@@ -267,4 +267,24 @@ JNIEXPORT jint JNICALL Java_com_kestrum_corvel_nodes_SoGroup_getNumChildrenNativ
   return from<SoGroup>(handle)->getNumChildren();
 }
 
+// --- types ----------------------------------------------------------------------
+
+// True when the node's type is the named type or derives from it (false for
+// an unknown name).
+JNIEXPORT jboolean JNICALL Java_com_kestrum_corvel_nodes_SoNode_isOfTypeNative(JNIEnv* env, jclass, jlong handle,
+                                                                            jstring typeName) {
+  SoType type = SoType::fromName(nameOf(env, typeName));
+  return !type.isBad() && from(handle)->getTypeId().isDerivedFrom(type) ? JNI_TRUE : JNI_FALSE;
+}
+
+// A new node of the named type, made by the type's creation function; 0 when
+// the name is unknown, names no node type, or the type makes no instance (an
+// abstract class).
+JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_nodes_SoNode_createInstanceNative(JNIEnv* env, jclass,
+                                                                               jstring typeName) {
+  SoType type = SoType::fromName(nameOf(env, typeName));
+  if (type.isBad() || !type.isDerivedFrom(SoNode::getClassTypeIdUnjournaled()) || !type.canCreateInstance()) return 0;
+  return handleOf(type.createInstance());
+}
+
 }  // extern "C"

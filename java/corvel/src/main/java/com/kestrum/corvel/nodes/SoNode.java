@@ -78,9 +78,27 @@ public class SoNode extends NativeObject {
         return handle == 0 ? null : (SoNode) ManagedObjects.get("com.kestrum.corvel.nodes.SoNode", handle);
     }
 
+    /**
+     * A new node of the toolkit type of that name, made by the toolkit as it makes nodes it reads
+     * from a file: the Java object registered for it (a node of a Java class) or a new view. Null
+     * when no type has that name, or the type is not a node type, or it makes no instances (an
+     * abstract class).
+     */
+    public static SoNode createInstance(String typeName) {
+        return of(createInstanceNative(nameOf(typeName)));
+    }
+
     /** The name of the node's toolkit type. */
     public String getTypeName() {
         return getTypeNameNative(handle());
+    }
+
+    /**
+     * True when the node's toolkit type is the type of that name or derives from it; false for a
+     * name that no type has.
+     */
+    public boolean isOfType(String typeName) {
+        return isOfTypeNative(handle(), nameOf(typeName));
     }
 
     /** The native node's reference count (for inspection). */
@@ -284,6 +302,10 @@ public class SoNode extends NativeObject {
     private static native int getRefCountNative(long handle);
 
     private static native String getTypeNameNative(long handle);
+
+    private static native long createInstanceNative(String typeName);
+
+    private static native boolean isOfTypeNative(long handle, String typeName);
 
     private static native void touchNative(long handle);
 

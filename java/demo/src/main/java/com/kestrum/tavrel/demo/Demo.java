@@ -23,7 +23,8 @@ public final class Demo {
                 new MeshSection(),
                 new RepresentationsSection(),
                 new CustomNodeSection(),
-                new MeshNodeSection());
+                new MeshNodeSection(),
+                new GraphSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");

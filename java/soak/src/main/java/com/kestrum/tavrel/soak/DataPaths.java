@@ -1,5 +1,7 @@
 package com.kestrum.tavrel.soak;
 
+import com.kestrum.corvel.SbBox3f;
+import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
@@ -14,6 +16,15 @@ import com.kestrum.tavrel.data.PoMeshProbePoint;
 import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
 import com.kestrum.tavrel.nodes.PoCellFilter;
 import com.kestrum.tavrel.nodes.PoNode;
+import com.kestrum.tavrel.graph.PbDateFormatMapping;
+import com.kestrum.tavrel.graph.PbDomain;
+import com.kestrum.tavrel.graph.PbIsovaluesList;
+import com.kestrum.tavrel.graph.PbLinearDataMapping;
+import com.kestrum.tavrel.graph.PbMiscTextAttr;
+import com.kestrum.tavrel.graph.PbNonLinearDataMapping2;
+import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
+import com.kestrum.tavrel.graph.PoBase;
+import com.kestrum.tavrel.misc.callbacks.PoRebuildCB;
 import java.nio.FloatBuffer;
 
 /**
@@ -274,6 +285,73 @@ final class DataPaths {
                 filled.dispose();
                 filter.dispose();
             }
+        };
+    }
+
+    /**
+     * A graph node made by the toolkit and disposed, with a pre- and a post-rebuild callback
+     * object, rebuilt at once by a change and again by a render traversal. The callback objects
+     * and the domain are made once: their native parts (bridges, attribute objects) are never
+     * freed.
+     */
+    static Loop graphRebuilds() {
+        PbDomain domain = new PbDomain(0, 0, 4, 4, PbDomain.BoundingBoxTypes.ASIS);
+        SoGLRenderAction render = new SoGLRenderAction();
+        int[] events = new int[1];
+        PoRebuildCB pre = new PoRebuildCB((node, handle, data) -> events[0] += (Integer) data);
+        PoRebuildCB post = new PoRebuildCB((node, handle, data) -> events[0] += node instanceof PoBase ? 10 : 0);
+        return new Loop() {
+            @Override
+            public void step(int i) {
+                int before = events[0];
+                try (PoBase node = PoBase.createInstance("PoRectangle")) {
+                    node.addPreRebuildCallback(pre, 1);
+                    node.addPostRebuildCallback(post, null);
+                    node.setDomain(domain); // rebuilt at once
+                    node.setUpdateMethod(PoBase.UpdateMethodTypes.UPDATEMETHODONACTION);
+                    node.touchKit();
+                    render.apply(node); // rebuilt by the traversal
+                    check(node.getDomain() == domain && node.isBuilt(), "graph node built with its domain");
+                }
+                check(events[0] == before + 22, "rebuild events");
+            }
+
+            @Override
+            public void close() {
+                render.dispose();
+            }
+        };
+    }
+
+    /** Every attribute object changed and read back, through copies, lists and direct buffers. */
+    static Loop attributeObjects() {
+        PbDomain domain = new PbDomain();
+        PbLinearDataMapping linear = new PbLinearDataMapping();
+        PbNonLinearDataMapping2 lists = new PbNonLinearDataMapping2();
+        PbIsovaluesList isovalues = new PbIsovaluesList();
+        PbMiscTextAttr text = new PbMiscTextAttr();
+        PbNumericDisplayFormat format = new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.FLOATFORMAT, 6, 2);
+        PbDateFormatMapping dates = new PbDateFormatMapping();
+        SbColor[] colors = {new SbColor(1, 0, 0), new SbColor(0, 1, 0), new SbColor(0, 0, 1)};
+        return i -> {
+            float v = i % 100;
+            SbBox3f kept = domain.setDomain(new SbBox3f(0, 0, 0, v + 1, 2, 3), PbDomain.BoundingBoxTypes.MINBOUNDINGCUBE);
+            check(domain.get3DDomain().equals(kept) && domain.getMatrix().length == 4, "domain");
+            linear.setValues(v, colors[0], 0.5f, v + 1, colors[2], 1);
+            check(linear.getRGBAValues().get(0).value() == v && linear.getHLSColor(v).hue() == 0, "linear mapping");
+            lists.setValues(PbNonLinearDataMapping2.Types.NONLINEARPERLEVEL, 2, new float[] {v, v + 1}, colors,
+                    new float[] {0, 0.5f, 1});
+            FloatBuffer direct = lists.getDirectRGBColorsList();
+            check(lists.getValuesList()[0] == v && direct.get(8) == 1 && lists.getRGBColorsList().length == 3,
+                    "list mapping");
+            isovalues.setRegularIsoList(0f, v, 5);
+            check(isovalues.getIsoList().values()[4] == v && isovalues.getDirectIsoList().capacity() == 5,
+                    "isovalues");
+            text.setFontName(i % 2 == 0 ? "Sans" : "Serif");
+            check(text.getFontName().length() > 3, "text attributes");
+            format.setFormat(PbNumericDisplayFormat.FormatTypes.INTEGERFORMAT, i % 8, 0);
+            check(format.getFormat().width() == i % 8, "numeric format");
+            check(dates.setFormat(i % 2 == 0 ? "%Y" : "%d.%m.%Y") && dates.getCoordinate("2000-01-03") == 2, "dates");
         };
     }
 }

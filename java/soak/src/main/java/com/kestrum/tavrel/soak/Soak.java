@@ -42,7 +42,9 @@ public final class Soak {
             new SoakPath("geometry-replacement", DataPaths::geometryReplacement),
             new SoakPath("probe-events", DataPaths::probeEvents),
             new SoakPath("java-node-traversals", DataPaths::javaNodeTraversals),
-            new SoakPath("cell-filter-traversals", DataPaths::cellFilterTraversals));
+            new SoakPath("cell-filter-traversals", DataPaths::cellFilterTraversals),
+            new SoakPath("graph-rebuilds", DataPaths::graphRebuilds),
+            new SoakPath("attribute-objects", DataPaths::attributeObjects));
 
     static final long RSS_LIMIT = 4L << 20;
     static final long HEAP_LIMIT = 1L << 20;

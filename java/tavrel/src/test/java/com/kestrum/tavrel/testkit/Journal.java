@@ -29,6 +29,9 @@ public final class Journal {
         return Arrays.stream(lines()).filter(l -> l.startsWith(prefix)).collect(Collectors.toList());
     }
 
+    /** Adds a line of the test's own (a marker between toolkit calls) while recording. */
+    public static native void note(String text);
+
     public static native void setEnabled(boolean on);
 
     public static native void clear();

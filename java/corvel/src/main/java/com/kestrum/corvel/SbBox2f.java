@@ -1,0 +1,55 @@
+package com.kestrum.corvel;
+
+import java.util.Arrays;
+
+/**
+ * An axis-aligned 2D box: its minimum corner (xmin, ymin) and maximum corner (xmax, ymax).
+ * Immutable. The toolkit keeps a box as these four floats in this order ({@link #getValue()}).
+ */
+public final class SbBox2f {
+    private final float[] values;
+
+    public SbBox2f(float xmin, float ymin, float xmax, float ymax) {
+        values = new float[] {xmin, ymin, xmax, ymax};
+    }
+
+    public SbBox2f(SbVec2f min, SbVec2f max) {
+        this(min.getX(), min.getY(), max.getX(), max.getY());
+    }
+
+    /** The box of the first four floats: xmin, ymin, xmax, ymax. */
+    public static SbBox2f fromValue(float[] values) {
+        if (values.length < 4) {
+            throw new IllegalArgumentException("a 2D box has 4 floats, not " + values.length);
+        }
+        return new SbBox2f(values[0], values[1], values[2], values[3]);
+    }
+
+    public SbVec2f getMin() {
+        return new SbVec2f(values[0], values[1]);
+    }
+
+    public SbVec2f getMax() {
+        return new SbVec2f(values[2], values[3]);
+    }
+
+    /** A copy of the four floats: xmin, ymin, xmax, ymax. */
+    public float[] getValue() {
+        return values.clone();
+    }
+
+    @Override
+    public boolean equals(Object o) {
+        return o instanceof SbBox2f && Arrays.equals(values, ((SbBox2f) o).values);
+    }
+
+    @Override
+    public int hashCode() {
+        return Arrays.hashCode(values);
+    }
+
+    @Override
+    public String toString() {
+        return "(" + values[0] + ", " + values[1] + ")..(" + values[2] + ", " + values[3] + ")";
+    }
+}

@@ -1,0 +1,57 @@
+package com.kestrum.corvel;
+
+import java.util.Arrays;
+
+/**
+ * An axis-aligned 3D box: its minimum corner (xmin, ymin, zmin) and maximum corner (xmax, ymax,
+ * zmax). Immutable. The toolkit keeps a box as these six floats in this order ({@link
+ * #getValue()}).
+ */
+public final class SbBox3f {
+    private final float[] values;
+
+    public SbBox3f(float xmin, float ymin, float zmin, float xmax, float ymax, float zmax) {
+        values = new float[] {xmin, ymin, zmin, xmax, ymax, zmax};
+    }
+
+    public SbBox3f(SbVec3f min, SbVec3f max) {
+        this(min.getX(), min.getY(), min.getZ(), max.getX(), max.getY(), max.getZ());
+    }
+
+    /** The box of the first six floats: xmin, ymin, zmin, xmax, ymax, zmax. */
+    public static SbBox3f fromValue(float[] values) {
+        if (values.length < 6) {
+            throw new IllegalArgumentException("a 3D box has 6 floats, not " + values.length);
+        }
+        return new SbBox3f(values[0], values[1], values[2], values[3], values[4], values[5]);
+    }
+
+    public SbVec3f getMin() {
+        return new SbVec3f(values[0], values[1], values[2]);
+    }
+
+    public SbVec3f getMax() {
+        return new SbVec3f(values[3], values[4], values[5]);
+    }
+
+    /** A copy of the six floats: xmin, ymin, zmin, xmax, ymax, zmax. */
+    public float[] getValue() {
+        return values.clone();
+    }
+
+    @Override
+    public boolean equals(Object o) {
+        return o instanceof SbBox3f && Arrays.equals(values, ((SbBox3f) o).values);
+    }
+
+    @Override
+    public int hashCode() {
+        return Arrays.hashCode(values);
+    }
+
+    @Override
+    public String toString() {
+        return "(" + values[0] + ", " + values[1] + ", " + values[2] + ")..(" + values[3] + ", " + values[4] + ", "
+                + values[5] + ")";
+    }
+}

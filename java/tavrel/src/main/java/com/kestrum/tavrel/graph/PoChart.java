@@ -1,0 +1,66 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** Base of the charts, with the ways a chart binds its colours. */
+public abstract class PoChart extends PoBase {
+    static {
+        JarInitializer.init();
+    }
+
+    /** How a chart's colours go with its parts. */
+    public enum ColorBindings {
+        /** The colour the chart inherits from the scene. */
+        INHERITED(JarInitializer.value(ColorBindings::getINHERITEDNative)),
+        /** One colour per vertex. */
+        PERVERTEX(JarInitializer.value(ColorBindings::getPERVERTEXNative)),
+        /** One colour per part. */
+        PERPART(JarInitializer.value(ColorBindings::getPERPARTNative));
+
+        private final int value;
+
+        ColorBindings(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static ColorBindings fromValue(int value) {
+            for (ColorBindings b : values()) {
+                if (b.value == value) {
+                    return b;
+                }
+            }
+            return null;
+        }
+
+        private static native int getINHERITEDNative();
+
+        private static native int getPERVERTEXNative();
+
+        private static native int getPERPARTNative();
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoChart(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}
