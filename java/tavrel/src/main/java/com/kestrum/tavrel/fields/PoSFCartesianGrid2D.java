@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbCartesianGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoCartesianGrid2D;
 
 /**
  * A single-value field holding a curvilinear grid: x and y given per node ({@link
@@ -46,10 +47,7 @@ public class PoSFCartesianGrid2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY nodes: x and y one value per
-     * node, z one elevation per node or null for none.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoCartesianGrid2D}. */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {
             Checks.grid2D(numX, numY, x, y, z, false);

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbCartesianGrid3D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoCartesianGrid3D;
 
 /**
  * A single-value field holding a curvilinear 3D grid: x, y and z given per node ({@link
@@ -46,10 +47,7 @@ public class PoSFCartesianGrid3D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY x numZ nodes: x, y and z one
-     * value per node.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoCartesianGrid3D}. */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {
             Checks.grid3D(numX, numY, numZ, x, y, z, false);

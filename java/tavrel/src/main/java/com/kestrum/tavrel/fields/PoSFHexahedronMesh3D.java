@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbHexahedronMesh3D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoHexahedronMesh3D;
 
 /**
  * A single-value field holding a 3D mesh of hexahedra ({@link PbHexahedronMesh3D}) by value. See
@@ -45,10 +46,7 @@ public class PoSFHexahedronMesh3D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and hexahedra given by 8
-     * node indices each.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoHexahedronMesh3D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedronNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedronNodes, "hexahedronNodes");

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbIndexedMesh2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoIndexedMesh2D;
 
 /**
  * A single-value field holding an unstructured 2D mesh of triangles and quadrangles ({@link
@@ -45,11 +46,7 @@ public class PoSFIndexedMesh2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and numCells cells:
-     * cellTypes[c] is the number of nodes of cell c (3 or 4), cellIndex lists the nodes of every
-     * cell, cell after cell.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoIndexedMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex) {
         setGeometryWith(h -> {
             Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes, cellIndex);
@@ -57,7 +54,7 @@ public class PoSFIndexedMesh2D extends PoSFMesh {
         });
     }
 
-    /** Replaces the geometry of the field's mesh. As above, with one elevation per node in z. */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoIndexedMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         setGeometryWith(h -> {

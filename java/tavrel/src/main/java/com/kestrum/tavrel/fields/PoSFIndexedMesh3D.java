@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbIndexedMesh3D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoIndexedMesh3D;
 
 /**
  * A single-value field holding an unstructured 3D mesh of tetrahedra, pyramids, wedges and
@@ -46,11 +47,7 @@ public class PoSFIndexedMesh3D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and numCells cells:
-     * cellTypes[c] is the number of nodes of cell c (4, 5, 6 or 8), cellIndex lists the nodes of
-     * every cell, cell after cell.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoIndexedMesh3D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         setGeometryWith(h -> {

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbIrregularMesh1D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoIrregularMesh1D;
 
 /**
  * A single-value field holding a 1D mesh of nodes at given abscissas ({@link PbIrregularMesh1D}) by
@@ -45,7 +46,7 @@ public class PoSFIrregularMesh1D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /** Replaces the geometry of the field's mesh. numNodes nodes at the abscissas x. */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoIrregularMesh1D}. */
     public void setGeometry(int numNodes, float[] x) {
         setGeometryWith(h -> {
             Checks.nodes1D(numNodes, x);

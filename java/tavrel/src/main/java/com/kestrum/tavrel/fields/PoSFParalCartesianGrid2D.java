@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbParalCartesianGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoParalCartesianGrid2D;
 
 /**
  * A single-value field holding a rectilinear grid: node (i, j) at (x[i], y[j]) ({@link
@@ -46,10 +47,7 @@ public class PoSFParalCartesianGrid2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY nodes: x of numX values, y
-     * of numY values, z one elevation per node or null for none.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoParalCartesianGrid2D}. */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {
             Checks.grid2D(numX, numY, x, y, z, true);

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbParalCartesianGrid3D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoParalCartesianGrid3D;
 
 /**
  * A single-value field holding a rectilinear 3D grid: node (i, j, k) at (x[i], y[j], z[k]) ({@link
@@ -46,10 +47,7 @@ public class PoSFParalCartesianGrid3D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY x numZ nodes: x of numX
-     * values, y of numY values, z of numZ values.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoParalCartesianGrid3D}. */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {
             Checks.grid3D(numX, numY, numZ, x, y, z, true);

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbPolarGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoPolarGrid2D;
 
 /**
  * A single-value field holding a polar grid: node (i, j) at radius x[i] and angle y[j] (degrees)
@@ -46,10 +47,7 @@ public class PoSFPolarGrid2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX radii (x) and numY angles in
-     * degrees (y); z one elevation per node, or null for none.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoPolarGrid2D}. */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {
             Checks.grid2D(numX, numY, x, y, z, true);

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbQuadrangleMesh2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoQuadrangleMesh2D;
 
 /**
  * A single-value field holding a 2D mesh of quadrangles ({@link PbQuadrangleMesh2D}) by value. See
@@ -45,10 +46,7 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and quadrangles given by
-     * 4 node indices each.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoQuadrangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes");
@@ -56,7 +54,7 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
         });
     }
 
-    /** Replaces the geometry of the field's mesh. As above, with one elevation per node in z. */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoQuadrangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoRegularCartesianGrid2D;
 
 /**
  * A single-value field holding a regular grid: nodes evenly spread over a rectangle ({@link
@@ -46,10 +47,7 @@ public class PoSFRegularCartesianGrid2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY nodes evenly spread over
-     * [xmin, xmax] x [ymin, ymax]; z one elevation per node, or null for none.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoRegularCartesianGrid2D}. */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
         setGeometryWith(h -> {
             Checks.regularGrid(z, numX, numY);

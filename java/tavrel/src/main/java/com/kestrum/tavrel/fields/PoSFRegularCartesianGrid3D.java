@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid3D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoRegularCartesianGrid3D;
 
 /**
  * A single-value field holding a regular 3D grid: nodes evenly spread over a box ({@link
@@ -46,10 +47,7 @@ public class PoSFRegularCartesianGrid3D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY x numZ nodes evenly spread
-     * over the box from (xmin, ymin, zmin) to (xmax, ymax, zmax).
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoRegularCartesianGrid3D}. */
     public void setGeometry(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax, float ymax,
             float zmax) {
         setGeometryWith(h -> {

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbRegularMesh1D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoRegularMesh1D;
 
 /**
  * A single-value field holding a 1D mesh of evenly spaced nodes ({@link PbRegularMesh1D}) by value.
@@ -45,9 +46,7 @@ public class PoSFRegularMesh1D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. numNodes nodes evenly spaced from xmin to xmax.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoRegularMesh1D}. */
     public void setGeometry(int numNodes, float xmin, float xmax) {
         setGeometryWith(h -> {
             Checks.count(numNodes, "numNodes");

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbTetrahedronMesh3D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoTetrahedronMesh3D;
 
 /**
  * A single-value field holding a 3D mesh of tetrahedra ({@link PbTetrahedronMesh3D}) by value. See
@@ -45,10 +46,7 @@ public class PoSFTetrahedronMesh3D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and tetrahedra given by 4
-     * node indices each.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTetrahedronMesh3D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedronNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedronNodes, "tetrahedronNodes");

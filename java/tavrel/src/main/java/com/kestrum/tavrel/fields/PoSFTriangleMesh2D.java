@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbTriangleMesh2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoTriangleMesh2D;
 
 /**
  * A single-value field holding a 2D mesh of triangles ({@link PbTriangleMesh2D}) by value. See
@@ -45,10 +46,7 @@ public class PoSFTriangleMesh2D extends PoSFMesh {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and triangles given by 3
-     * node indices each.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTriangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes");
@@ -56,7 +54,7 @@ public class PoSFTriangleMesh2D extends PoSFMesh {
         });
     }
 
-    /** Replaces the geometry of the field's mesh. As above, with one elevation per node in z. */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTriangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
@@ -65,10 +63,7 @@ public class PoSFTriangleMesh2D extends PoSFMesh {
         });
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. The nodes alone, triangulated as a fan around node
-     * 0 in the order given (right for a convex polygon given in order).
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTriangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y) {
         setGeometryWith(h -> {
             Checks.nodes2D(numNodes, x, y, null);
