@@ -3,6 +3,7 @@ package com.kestrum.tavrel.fields;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.internal.JarInitializer;
@@ -10,6 +11,7 @@ import com.kestrum.tavrel.internal.MeshViews;
 import com.kestrum.tavrel.nodes.PoMeshProperty;
 import java.lang.ref.WeakReference;
 import java.util.concurrent.atomic.AtomicBoolean;
+import java.util.function.LongConsumer;
 
 /**
  * Base of the single-value mesh fields: fields whose value is a whole mesh, held by value
@@ -26,6 +28,25 @@ import java.util.concurrent.atomic.AtomicBoolean;
  * field has been disposed. Cells obtained from it stop working ({@link IllegalStateException})
  * once the field's geometry or value changes (for a field connected to another one, whenever its
  * value is read, since reading may bring it up to date).
+ *
+ * <p>Every mesh field class has, for its own mesh class:
+ * <ul>
+ * <li>{@code setValue(mesh)}: sets the field's value to a copy of the mesh (geometry, data sets
+ * and data-duplication flag), in place: the view of the value stays the same object and shows
+ * the copy.
+ * <li>{@code isEqualTo(other)}: whether both fields hold the same mesh (each brought up to date
+ * first): same class, node coordinates, cells and data sets (the data-duplication flag is not
+ * compared).
+ * <li>{@code addToContainer(container, name, fieldType, initialValue)}: adds the field to a node
+ * under a name: the field takes the initial value (a copy), belongs to the node from then on and
+ * is found by {@code container.getField(name)}; only the low three bits of the field type are
+ * kept. A field belongs to one node at a time: adding it to another one takes it out of the
+ * first. The node does not own the field, and neither keeps the other alive: a disposed field
+ * leaves its node, and a field whose node is gone belongs to none. As the node may hand the
+ * field out by name, the field stays reachable from then on until it is disposed: dispose it
+ * when done.
+ * <li>{@code setGeometry(...)}: replaces the geometry of the field's mesh, in place.
+ * </ul>
  */
 public abstract class PoSFMesh extends SoField {
     static {
@@ -158,6 +179,64 @@ public abstract class PoSFMesh extends SoField {
         }
         Checks.notNull(name, "name");
         addVecsSetImpl(h, set, vectors, name);
+    }
+
+    /** A field class's own native call taking the field's handle and a mesh's handle. */
+    @FunctionalInterface
+    protected interface ValueCall {
+        void call(long handle, long mesh);
+    }
+
+    /** A field class's own native comparison of two fields by handle. */
+    @FunctionalInterface
+    protected interface EqualsCall {
+        boolean call(long handle, long other);
+    }
+
+    /** A field class's own native call adding the field to a node. */
+    @FunctionalInterface
+    protected interface ContainerCall {
+        void call(long handle, long container, String name, int fieldType, long value);
+    }
+
+    /** {@code setValue} of the field classes (see the class), through their native call. */
+    protected final void setValueWith(PbMesh mesh, ValueCall setValueImpl) {
+        long h = handle();
+        setValueImpl.call(h, handleOf(mesh, "mesh"));
+        geometryChanged();
+    }
+
+    /** {@code isEqualTo} of the field classes (see the class), through their native call. */
+    protected final boolean isEqualToWith(PoSFMesh other, EqualsCall equalsImpl) {
+        long h = handle();
+        long o = handleOf(other, "other");
+        boolean result = equalsImpl.call(h, o);
+        evaluated(h);
+        other.evaluated(o);
+        return result;
+    }
+
+    /** {@code addToContainer} of the field classes (see the class), through their native call. */
+    protected final void addToContainerWith(SoNode container, String name, int fieldType, PbMesh initialValue,
+            ContainerCall addFieldToContainerNative) {
+        long h = handle();
+        long node = handleOf(container, "container");
+        Checks.notNull(name, "name");
+        long value = handleOf(initialValue, "initialValue");
+        addFieldToContainerNative.call(h, node, name, fieldType, value);
+        geometryChanged();
+        registerAsPeer(true);
+    }
+
+    /**
+     * {@code setGeometry} of the field classes: checks that the field is not disposed, gives its
+     * handle to the call (which checks the arguments, then makes the class's native call) and
+     * records the change.
+     */
+    protected final void setGeometryWith(LongConsumer checkedSetGeometryImpl) {
+        long h = handle();
+        checkedSetGeometryImpl.accept(h);
+        geometryChanged();
     }
 
     /** The address of the mesh inside the native field (evaluated first when it must be). */

@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoRegularCartesianGrid2D;
 
 /**
  * A single-value field holding a regular grid: nodes evenly spread over a rectangle ({@link
@@ -31,57 +32,27 @@ public class PoSFRegularCartesianGrid2D extends PoSFMesh {
         return (PbRegularCartesianGrid2D) value();
     }
 
-    /**
-     * Sets the field's value to a copy of the mesh (geometry, data sets and data-duplication
-     * flag), in place: the view of the value stays the same object and shows the copy.
-     */
+    /** Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}). */
     public void setValue(PbRegularCartesianGrid2D mesh) {
-        long h = handle();
-        setValueImpl(h, handleOf(mesh, "mesh"));
-        geometryChanged();
+        setValueWith(mesh, this::setValueImpl);
     }
 
-    /**
-     * Whether both fields hold the same mesh (each brought up to date first): same class, node
-     * coordinates, cells and data sets (the data-duplication flag is not compared).
-     */
+    /** Whether both fields hold the same mesh (see {@link PoSFMesh}). */
     public boolean isEqualTo(PoSFRegularCartesianGrid2D other) {
-        long h = handle();
-        long o = handleOf(other, "other");
-        boolean result = equalsImpl(h, o);
-        evaluated(h);
-        other.evaluated(o);
-        return result;
+        return isEqualToWith(other, this::equalsImpl);
     }
 
-    /**
-     * Adds the field to a node under a name: the field takes the initial value (a copy), belongs
-     * to the node from then on and is found by {@code container.getField(name)}; only the low
-     * three bits of the field type are kept. A field belongs to one node at a time: adding it to
-     * another one takes it out of the first. The node does not own the field, and neither keeps
-     * the other alive: a disposed field leaves its node, and a field whose node is gone belongs
-     * to none. As the node may hand the field out by name, the field stays reachable from then on
-     * until it is disposed: dispose it when done.
-     */
+    /** Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}). */
     public void addToContainer(SoNode container, String name, int fieldType, PbRegularCartesianGrid2D initialValue) {
-        long h = handle();
-        long node = handleOf(container, "container");
-        Checks.notNull(name, "name");
-        long value = handleOf(initialValue, "initialValue");
-        addFieldToContainerNative(h, node, name, fieldType, value);
-        geometryChanged();
-        registerAsPeer(true);
+        addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A grid of numX x numY nodes evenly spread over
-     * [xmin, xmax] x [ymin, ymax]; z one elevation per node, or null for none.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoRegularCartesianGrid2D}. */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
-        long h = handle();
-        Checks.regularGrid(z, numX, numY);
-        setGeometryImpl(h, numX, numY, xmin, ymin, xmax, ymax, z);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.regularGrid(z, numX, numY);
+            setGeometryImpl(h, numX, numY, xmin, ymin, xmax, ymax, z);
+        });
     }
 
     @Override

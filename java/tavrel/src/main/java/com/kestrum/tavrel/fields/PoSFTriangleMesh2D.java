@@ -4,6 +4,7 @@ import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.Checks;
 import com.kestrum.tavrel.data.PbTriangleMesh2D;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.nodes.PoTriangleMesh2D;
 
 /**
  * A single-value field holding a 2D mesh of triangles ({@link PbTriangleMesh2D}) by value. See
@@ -30,76 +31,44 @@ public class PoSFTriangleMesh2D extends PoSFMesh {
         return (PbTriangleMesh2D) value();
     }
 
-    /**
-     * Sets the field's value to a copy of the mesh (geometry, data sets and data-duplication
-     * flag), in place: the view of the value stays the same object and shows the copy.
-     */
+    /** Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}). */
     public void setValue(PbTriangleMesh2D mesh) {
-        long h = handle();
-        setValueImpl(h, handleOf(mesh, "mesh"));
-        geometryChanged();
+        setValueWith(mesh, this::setValueImpl);
     }
 
-    /**
-     * Whether both fields hold the same mesh (each brought up to date first): same class, node
-     * coordinates, cells and data sets (the data-duplication flag is not compared).
-     */
+    /** Whether both fields hold the same mesh (see {@link PoSFMesh}). */
     public boolean isEqualTo(PoSFTriangleMesh2D other) {
-        long h = handle();
-        long o = handleOf(other, "other");
-        boolean result = equalsImpl(h, o);
-        evaluated(h);
-        other.evaluated(o);
-        return result;
+        return isEqualToWith(other, this::equalsImpl);
     }
 
-    /**
-     * Adds the field to a node under a name: the field takes the initial value (a copy), belongs
-     * to the node from then on and is found by {@code container.getField(name)}; only the low
-     * three bits of the field type are kept. A field belongs to one node at a time: adding it to
-     * another one takes it out of the first. The node does not own the field, and neither keeps
-     * the other alive: a disposed field leaves its node, and a field whose node is gone belongs
-     * to none. As the node may hand the field out by name, the field stays reachable from then on
-     * until it is disposed: dispose it when done.
-     */
+    /** Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}). */
     public void addToContainer(SoNode container, String name, int fieldType, PbTriangleMesh2D initialValue) {
-        long h = handle();
-        long node = handleOf(container, "container");
-        Checks.notNull(name, "name");
-        long value = handleOf(initialValue, "initialValue");
-        addFieldToContainerNative(h, node, name, fieldType, value);
-        geometryChanged();
-        registerAsPeer(true);
+        addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. A mesh of numNodes nodes and triangles given by 3
-     * node indices each.
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTriangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
-        long h = handle();
-        Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes");
-        setGeometryImpl(h, numNodes, x, y, numTriangles, triangleNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes");
+            setGeometryImpl(h, numNodes, x, y, numTriangles, triangleNodes);
+        });
     }
 
-    /** Replaces the geometry of the field's mesh. As above, with one elevation per node in z. */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTriangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes) {
-        long h = handle();
-        Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes, "triangleNodes");
-        setGeometryImpl1(h, numNodes, x, y, z, numTriangles, triangleNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+                    "triangleNodes");
+            setGeometryImpl1(h, numNodes, x, y, z, numTriangles, triangleNodes);
+        });
     }
 
-    /**
-     * Replaces the geometry of the field's mesh. The nodes alone, triangulated as a fan around node
-     * 0 in the order given (right for a convex polygon given in order).
-     */
+    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTriangleMesh2D}. */
     public void setGeometry(int numNodes, float[] x, float[] y) {
-        long h = handle();
-        Checks.nodes2D(numNodes, x, y, null);
-        setGeometryImpl2(h, numNodes, x, y);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.nodes2D(numNodes, x, y, null);
+            setGeometryImpl2(h, numNodes, x, y);
+        });
     }
 
     @Override

@@ -34,10 +34,10 @@ public class PoCartesianGrid2D extends PoMeshProperty {
      * node, z one elevation per node or null for none.
      */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
-        long h = handle();
-        Checks.grid2D(numX, numY, x, y, z, false);
-        setGeometryImpl(h, numX, numY, x, y, z);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.grid2D(numX, numY, x, y, z, false);
+            setGeometryImpl(h, numX, numY, x, y, z);
+        });
     }
 
     private static native long ctorImpl();

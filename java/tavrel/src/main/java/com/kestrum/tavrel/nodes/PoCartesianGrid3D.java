@@ -34,10 +34,10 @@ public class PoCartesianGrid3D extends PoMeshProperty {
      * value per node.
      */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
-        long h = handle();
-        Checks.grid3D(numX, numY, numZ, x, y, z, false);
-        setGeometryImpl(h, numX, numY, numZ, x, y, z);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.grid3D(numX, numY, numZ, x, y, z, false);
+            setGeometryImpl(h, numX, numY, numZ, x, y, z);
+        });
     }
 
     private static native long ctorImpl();

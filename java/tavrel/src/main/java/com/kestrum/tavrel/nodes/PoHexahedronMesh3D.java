@@ -34,10 +34,10 @@ public class PoHexahedronMesh3D extends PoMeshProperty {
      * node indices each.
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedronNodes) {
-        long h = handle();
-        Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedronNodes, "hexahedronNodes");
-        setGeometryImpl(h, numNodes, x, y, z, numHexahedra, hexahedronNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedronNodes, "hexahedronNodes");
+            setGeometryImpl(h, numNodes, x, y, z, numHexahedra, hexahedronNodes);
+        });
     }
 
     private static native long ctorImpl();

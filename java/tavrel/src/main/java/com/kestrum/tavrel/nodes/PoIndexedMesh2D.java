@@ -36,19 +36,19 @@ public class PoIndexedMesh2D extends PoMeshProperty {
      * cell, cell after cell.
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex) {
-        long h = handle();
-        Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes, cellIndex);
-        setGeometryImpl(h, numNodes, x, y, numCells, cellTypes, cellIndex);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes, cellIndex);
+            setGeometryImpl(h, numNodes, x, y, numCells, cellTypes, cellIndex);
+        });
     }
 
     /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
-        long h = handle();
-        Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex);
-        setGeometryImpl1(h, numNodes, x, y, z, numCells, cellTypes, cellIndex);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex);
+            setGeometryImpl1(h, numNodes, x, y, z, numCells, cellTypes, cellIndex);
+        });
     }
 
     private static native long ctorImpl();

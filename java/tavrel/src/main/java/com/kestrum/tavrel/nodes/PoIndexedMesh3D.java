@@ -37,10 +37,10 @@ public class PoIndexedMesh3D extends PoMeshProperty {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
-        long h = handle();
-        Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes, cellIndex);
-        setGeometryImpl(h, numNodes, x, y, z, numCells, cellTypes, cellIndex);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes, cellIndex);
+            setGeometryImpl(h, numNodes, x, y, z, numCells, cellTypes, cellIndex);
+        });
     }
 
     private static native long ctorImpl();

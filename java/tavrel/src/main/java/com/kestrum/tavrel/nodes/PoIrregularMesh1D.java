@@ -31,10 +31,10 @@ public class PoIrregularMesh1D extends PoMeshProperty {
 
     /** Replaces the geometry of the node's mesh. numNodes nodes at the abscissas x. */
     public void setGeometry(int numNodes, float[] x) {
-        long h = handle();
-        Checks.nodes1D(numNodes, x);
-        setGeometryImpl(h, numNodes, x);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.nodes1D(numNodes, x);
+            setGeometryImpl(h, numNodes, x);
+        });
     }
 
     private static native long ctorImpl();

@@ -7,6 +7,7 @@ import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.MeshViews;
 import java.lang.ref.WeakReference;
+import java.util.function.LongConsumer;
 
 /**
  * Base of the mesh nodes: scene-graph nodes that hold a mesh and attach data sets to it.
@@ -122,6 +123,17 @@ public abstract class PoMeshProperty extends SoNode {
         }
         Checks.notNull(name, "name");
         addVecsSetImpl(h, set, vectors, name);
+    }
+
+    /**
+     * {@code setGeometry} of the mesh node classes: checks that the node is not disposed, gives its
+     * handle to the call (which checks the arguments, then makes the class's native call) and
+     * records the change.
+     */
+    protected final void setGeometryWith(LongConsumer checkedSetGeometryImpl) {
+        long h = handle();
+        checkedSetGeometryImpl.accept(h);
+        geometryChanged();
     }
 
     /** Records a change of the geometry of the node's mesh, after the native call that made it. */

@@ -35,10 +35,10 @@ public class PoParalCartesianGrid3D extends PoMeshProperty {
      * values, y of numY values, z of numZ values.
      */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
-        long h = handle();
-        Checks.grid3D(numX, numY, numZ, x, y, z, true);
-        setGeometryImpl(h, numX, numY, numZ, x, y, z);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.grid3D(numX, numY, numZ, x, y, z, true);
+            setGeometryImpl(h, numX, numY, numZ, x, y, z);
+        });
     }
 
     private static native long ctorImpl();

@@ -34,19 +34,19 @@ public class PoQuadrangleMesh2D extends PoMeshProperty {
      * node indices each.
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
-        long h = handle();
-        Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes");
-        setGeometryImpl(h, numNodes, x, y, numQuadrangles, quadrangleNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes");
+            setGeometryImpl(h, numNodes, x, y, numQuadrangles, quadrangleNodes);
+        });
     }
 
     /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes) {
-        long h = handle();
-        Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
-                "quadrangleNodes");
-        setGeometryImpl1(h, numNodes, x, y, z, numQuadrangles, quadrangleNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
+                    "quadrangleNodes");
+            setGeometryImpl1(h, numNodes, x, y, z, numQuadrangles, quadrangleNodes);
+        });
     }
 
     private static native long ctorImpl();

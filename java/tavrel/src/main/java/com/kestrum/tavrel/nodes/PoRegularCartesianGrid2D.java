@@ -35,10 +35,10 @@ public class PoRegularCartesianGrid2D extends PoMeshProperty {
      * [xmin, xmax] x [ymin, ymax]; z one elevation per node, or null for none.
      */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
-        long h = handle();
-        Checks.regularGrid(z, numX, numY);
-        setGeometryImpl(h, numX, numY, xmin, ymin, xmax, ymax, z);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.regularGrid(z, numX, numY);
+            setGeometryImpl(h, numX, numY, xmin, ymin, xmax, ymax, z);
+        });
     }
 
     private static native long ctorImpl();

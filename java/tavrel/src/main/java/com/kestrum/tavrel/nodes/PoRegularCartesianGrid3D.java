@@ -36,10 +36,10 @@ public class PoRegularCartesianGrid3D extends PoMeshProperty {
      */
     public void setGeometry(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax, float ymax,
             float zmax) {
-        long h = handle();
-        Checks.regularGrid(null, numX, numY, numZ);
-        setGeometryImpl(h, numX, numY, numZ, xmin, ymin, zmin, xmax, ymax, zmax);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.regularGrid(null, numX, numY, numZ);
+            setGeometryImpl(h, numX, numY, numZ, xmin, ymin, zmin, xmax, ymax, zmax);
+        });
     }
 
     private static native long ctorImpl();

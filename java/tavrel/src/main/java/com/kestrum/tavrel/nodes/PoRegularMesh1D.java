@@ -31,10 +31,10 @@ public class PoRegularMesh1D extends PoMeshProperty {
 
     /** Replaces the geometry of the node's mesh. numNodes nodes evenly spaced from xmin to xmax. */
     public void setGeometry(int numNodes, float xmin, float xmax) {
-        long h = handle();
-        Checks.count(numNodes, "numNodes");
-        setGeometryImpl(h, numNodes, xmin, xmax);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.count(numNodes, "numNodes");
+            setGeometryImpl(h, numNodes, xmin, xmax);
+        });
     }
 
     private static native long ctorImpl();

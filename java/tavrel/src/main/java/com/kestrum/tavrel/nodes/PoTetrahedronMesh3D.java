@@ -34,10 +34,10 @@ public class PoTetrahedronMesh3D extends PoMeshProperty {
      * node indices each.
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedronNodes) {
-        long h = handle();
-        Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedronNodes, "tetrahedronNodes");
-        setGeometryImpl(h, numNodes, x, y, z, numTetrahedra, tetrahedronNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedronNodes, "tetrahedronNodes");
+            setGeometryImpl(h, numNodes, x, y, z, numTetrahedra, tetrahedronNodes);
+        });
     }
 
     private static native long ctorImpl();

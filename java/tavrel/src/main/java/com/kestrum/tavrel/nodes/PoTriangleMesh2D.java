@@ -34,10 +34,10 @@ public class PoTriangleMesh2D extends PoMeshProperty {
      * 0 in the order given (right for a convex polygon given in order).
      */
     public void setGeometry(int numNodes, float[] x, float[] y) {
-        long h = handle();
-        Checks.nodes2D(numNodes, x, y, null);
-        setGeometryImpl(h, numNodes, x, y);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.nodes2D(numNodes, x, y, null);
+            setGeometryImpl(h, numNodes, x, y);
+        });
     }
 
     /**
@@ -45,18 +45,19 @@ public class PoTriangleMesh2D extends PoMeshProperty {
      * node indices each.
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
-        long h = handle();
-        Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes");
-        setGeometryImpl1(h, numNodes, x, y, numTriangles, triangleNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes");
+            setGeometryImpl1(h, numNodes, x, y, numTriangles, triangleNodes);
+        });
     }
 
     /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes) {
-        long h = handle();
-        Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes, "triangleNodes");
-        setGeometryImpl2(h, numNodes, x, y, z, numTriangles, triangleNodes);
-        geometryChanged();
+        setGeometryWith(h -> {
+            Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+                    "triangleNodes");
+            setGeometryImpl2(h, numNodes, x, y, z, numTriangles, triangleNodes);
+        });
     }
 
     private static native long ctorImpl();
