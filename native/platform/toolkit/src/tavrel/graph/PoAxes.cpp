@@ -227,7 +227,7 @@ void PoAxis::linearGraduations(double start, double end, double step, const PbNu
   const double first = std::ceil(lo / step - kTolerance), last = std::floor(hi / step + kTolerance);
   if (!(last - first < kMaxGraduations)) return;
   for (double k = first; k <= last; k += 1.0) {
-    const double value = k * step;
+    const double value = k * step + 0.0;  // no negative zero
     out.push_back(Graduation{value, label(value, format)});
   }
   if (end < start) std::reverse(out.begin(), out.end());
