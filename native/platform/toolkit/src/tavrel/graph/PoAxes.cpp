@@ -94,6 +94,18 @@ void writeLogGrad(const std::vector<unsigned short>& list, bool automatic, short
   if (decades != nullptr) std::copy(list.begin(), list.end(), decades);
 }
 
+// Keeps the corners, the axis types and the titles of a group of axes.
+template <class Group, class Vec, std::size_t N>
+void keepGroup(Group& group, const Vec& start, const Vec& end, const typename Group::AxisType (&types)[N],
+               const char* const (&titles)[N]) {
+  group.start = start;
+  group.end = end;
+  for (std::size_t i = 0; i < N; ++i) {
+    group.types[i] = types[i];
+    group.titles[i] = textOrEmpty(titles[i]);
+  }
+}
+
 SbString fontOf(const PbMiscTextAttr* attr) { return attr == nullptr ? SbString("") : attr->getFontName(); }
 }  // namespace
 
@@ -608,12 +620,7 @@ PoGroup2Axis::~PoGroup2Axis() = default;
 void PoGroup2Axis::init(const SbVec2f& s, const SbVec2f& e, AxisType xType, AxisType yType, const char* xTitle,
                         const char* yTitle) {
   CallJournal::record("PoGroup2Axis::init", s, e, static_cast<int>(xType), static_cast<int>(yType), xTitle, yTitle);
-  start = s;
-  end = e;
-  types[0] = xType;
-  types[1] = yType;
-  titles[0] = textOrEmpty(xTitle);
-  titles[1] = textOrEmpty(yTitle);
+  keepGroup(*this, s, e, {xType, yType}, {xTitle, yTitle});
 }
 
 PoGroup4Axis::PoGroup4Axis() : start(0, 0), end(1, 1) { CallJournal::record("PoGroup4Axis::PoGroup4Axis"); }
@@ -622,12 +629,7 @@ PoGroup4Axis::~PoGroup4Axis() = default;
 void PoGroup4Axis::init(const SbVec2f& s, const SbVec2f& e, AxisType xType, AxisType yType, const char* xTitle,
                         const char* yTitle) {
   CallJournal::record("PoGroup4Axis::init", s, e, static_cast<int>(xType), static_cast<int>(yType), xTitle, yTitle);
-  start = s;
-  end = e;
-  types[0] = xType;
-  types[1] = yType;
-  titles[0] = textOrEmpty(xTitle);
-  titles[1] = textOrEmpty(yTitle);
+  keepGroup(*this, s, e, {xType, yType}, {xTitle, yTitle});
 }
 
 PoGroup3Axis3::PoGroup3Axis3() : start(0, 0, 0), end(1, 1, 1) { CallJournal::record("PoGroup3Axis3::PoGroup3Axis3"); }
@@ -637,15 +639,8 @@ void PoGroup3Axis3::init(const SbVec3f& s, const SbVec3f& e, AxisType xType, Axi
                          AxisName n, const char* xTitle, const char* yTitle, const char* zTitle) {
   CallJournal::record("PoGroup3Axis3::init", s, e, static_cast<int>(xType), static_cast<int>(yType),
                       static_cast<int>(zType), static_cast<int>(n), xTitle, yTitle, zTitle);
-  start = s;
-  end = e;
-  types[0] = xType;
-  types[1] = yType;
-  types[2] = zType;
+  keepGroup(*this, s, e, {xType, yType, zType}, {xTitle, yTitle, zTitle});
   name = n;
-  titles[0] = textOrEmpty(xTitle);
-  titles[1] = textOrEmpty(yTitle);
-  titles[2] = textOrEmpty(zTitle);
 }
 
 PoGroup6Axis3::PoGroup6Axis3() : start(0, 0, 0), end(1, 1, 1) { CallJournal::record("PoGroup6Axis3::PoGroup6Axis3"); }
@@ -655,14 +650,7 @@ void PoGroup6Axis3::init(const SbVec3f& s, const SbVec3f& e, AxisType xType, Axi
                          const char* xTitle, const char* yTitle, const char* zTitle) {
   CallJournal::record("PoGroup6Axis3::init", s, e, static_cast<int>(xType), static_cast<int>(yType),
                       static_cast<int>(zType), xTitle, yTitle, zTitle);
-  start = s;
-  end = e;
-  types[0] = xType;
-  types[1] = yType;
-  types[2] = zType;
-  titles[0] = textOrEmpty(xTitle);
-  titles[1] = textOrEmpty(yTitle);
-  titles[2] = textOrEmpty(zTitle);
+  keepGroup(*this, s, e, {xType, yType, zType}, {xTitle, yTitle, zTitle});
 }
 
 PoAutoCubeAxis::PoAutoCubeAxis() : start(0, 0, 0), end(1, 1, 1) {

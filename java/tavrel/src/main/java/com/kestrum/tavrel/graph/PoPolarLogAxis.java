@@ -144,18 +144,10 @@ public class PoPolarLogAxis extends PoPolarAxis {
             float value) {}
 
     public LogGrad getLogGrad() {
-        short[] count = new short[1];
-        short[] decades = new short[Short.MAX_VALUE];
-        int[] tenPower = new int[1], decade = new int[1];
-        String[] font = new String[1];
-        float[] value = new float[1];
-        getLogGradImpl(handle(), count, decades, tenPower, decade, font, value);
-        int[] list = new int[Math.max(0, count[0])];
-        for (int i = 0; i < list.length; i++) {
-            list[i] = Short.toUnsignedInt(decades[i]);
-        }
-        return new LogGrad(list, TenPowGradReps.fromValue(tenPower[0]), DecadeReps.fromValue(decade[0]), font[0],
-                value[0]);
+        LogGradOutputs o = new LogGradOutputs();
+        getLogGradImpl(handle(), o.count, o.decades, o.tenPowerRep, o.decadeRep, o.fontName, o.value);
+        return new LogGrad(o.decadeList(), TenPowGradReps.fromValue(o.tenPowerRep[0]),
+                DecadeReps.fromValue(o.decadeRep[0]), o.fontName[0], o.value[0]);
     }
 
     /** The name of the class's toolkit type. */
