@@ -51,6 +51,11 @@ class PbDateFormatMapping : public PbBase {
   // --- Used inside this toolkit (not journaled) ---
   // Seconds since 1970-01-01 00:00:00 of a date, or false when it cannot be read.
   static bool readDate(const char* text, double& seconds);
+  // The date at those seconds written with the format ("" outside years 1
+  // to 9999 or when not finite).
+  static SbString writeDate(const SbString& format, double seconds);
+  // The coordinate of a date given in seconds since 1970-01-01 00:00:00.
+  double coordinateOfSeconds(double seconds) const;
 
  private:
   bool takeMapping(const char* date1, const char* date2, float coord1, float coord2);

@@ -193,6 +193,14 @@ SbString PbDateFormatMapping::getDate(float coord) const {
   const double perUnit = (seconds2 - seconds1) / (static_cast<double>(coordinate2) - coordinate1);
   // Rounded down to the second (a microsecond short of a second counts as it).
   const double seconds = std::floor(seconds1 + (static_cast<double>(coord) - coordinate1) * perUnit + 1e-6);
+  return writeDate(dateFormat, seconds);
+}
+
+double PbDateFormatMapping::coordinateOfSeconds(double seconds) const {
+  return coordinate1 + (seconds - seconds1) * ((static_cast<double>(coordinate2) - coordinate1) / (seconds2 - seconds1));
+}
+
+SbString PbDateFormatMapping::writeDate(const SbString& format, double seconds) {
   if (!std::isfinite(seconds) || seconds < kFirstSecond || seconds >= kEndSecond) return SbString("");
   const long long whole = static_cast<long long>(seconds);
   long long days = whole / 86400;
@@ -206,7 +214,7 @@ SbString PbDateFormatMapping::getDate(float coord) const {
   civilFromDays(days, year, month, day);
   std::string out;
   char part[16];
-  for (const char* p = dateFormat.getString(); *p != '\0'; ++p) {
+  for (const char* p = format.getString(); *p != '\0'; ++p) {
     if (*p != '%') {
       out += *p;
       continue;

@@ -24,6 +24,11 @@ import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.graph.PbNonLinearDataMapping2;
 import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
 import com.kestrum.tavrel.graph.PoBase;
+import com.kestrum.tavrel.graph.PoCartesianAxis;
+import com.kestrum.tavrel.graph.PoGenAxis;
+import com.kestrum.tavrel.graph.PoLinearAxis;
+import com.kestrum.tavrel.graph.PoLogAxis;
+import com.kestrum.tavrel.graph.PoTimeAxis;
 import com.kestrum.tavrel.misc.callbacks.PoRebuildCB;
 import java.nio.FloatBuffer;
 
@@ -352,6 +357,33 @@ final class DataPaths {
             format.setFormat(PbNumericDisplayFormat.FormatTypes.INTEGERFORMAT, i % 8, 0);
             check(format.getFormat().width() == i % 8, "numeric format");
             check(dates.setFormat(i % 2 == 0 ? "%Y" : "%d.%m.%Y") && dates.getCoordinate("2000-01-03") == 2, "dates");
+        };
+    }
+
+    /**
+     * Axes made from decade lists, string graduations and dates, rebuilt and read back (labels,
+     * the decade list, tick counts), and disposed; the format and date mapping are made once.
+     */
+    static Loop axes() {
+        PbNumericDisplayFormat format = new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.FLOATFORMAT, 0, 1);
+        PbDateFormatMapping dates = new PbDateFormatMapping("2024-01-01", "2024-01-02", 0, 1, "%d/%m");
+        SbVec3f origin = new SbVec3f(0, 0, 0);
+        String[] labels = {"low", "mid", "high"};
+        return i -> {
+            try (PoLinearAxis linear = new PoLinearAxis(origin, 100, PoCartesianAxis.Types.XY, 25);
+                    PoLogAxis log = new PoLogAxis(origin, 2, PoCartesianAxis.Types.XY,
+                            PoLogAxis.DecadeListDefs.DECADELISTNONAUTO, new int[] {1, 2, 5});
+                    PoGenAxis gen = new PoGenAxis(origin, 1, PoCartesianAxis.Types.XY, labels);
+                    PoTimeAxis time = new PoTimeAxis("2024-01-01", "2024-01-04", 0, PoTimeAxis.Types.X)) {
+                linear.setFormat(format);
+                time.setDateFormatMapping(dates);
+                log.rebuild();
+                gen.rebuild();
+                check(linear.getGraduations().get(4).equals("100.0") && linear.getTick().mainTicks() == 5, "linear axis");
+                check(log.getGraduations().size() == 7 && log.getLogGrad().decades().length == 3, "log axis");
+                check(gen.getGrad().labels().equals("low\nmid\nhigh"), "generalised axis");
+                check(time.getGraduations().get(3).equals("04/01"), "time axis");
+            }
         };
     }
 }

@@ -344,7 +344,7 @@ public abstract class PoBase extends SoBaseKit {
      * Java, holding the node: disposing it from a listener frees the native node only when the
      * call returns. (The traversals of {@link SoNode} hold their node the same way.)
      */
-    private void rebuilding(LongConsumer call) {
+    protected final void rebuilding(LongConsumer call) {
         long h = enter();
         try {
             call.accept(h);

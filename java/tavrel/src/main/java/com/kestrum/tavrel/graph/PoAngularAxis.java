@@ -1,0 +1,82 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** An angular axis: a circle graduated in degrees. */
+public class PoAngularAxis extends PoAxis {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Whether graduations must fit. */
+    public enum GradFits {
+        GRADFIT(JarInitializer.value(GradFits::getGRADFITNative)),
+        GRADUNFIT(JarInitializer.value(GradFits::getGRADUNFITNative));
+
+        private final int value;
+
+        GradFits(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static GradFits fromValue(int value) {
+            for (GradFits c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getGRADFITNative();
+
+        private static native int getGRADUNFITNative();
+    }
+
+    /** A new axis with the toolkit's defaults; holds one reference on its native node. */
+    public PoAngularAxis() {
+        this(ctorImpl());
+    }
+
+    /** The circle of that radius around (centreX, centreY), graduated from firstAngle every angleStep degrees. */
+    public PoAngularAxis(float centreX, float centreY, float radius, float firstAngle, float angleStep) {
+        this(ctorImpl1(centreX, centreY, radius, firstAngle, angleStep));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoAngularAxis(long handle) {
+        super(handle);
+    }
+
+    /** The angle between two graduations, in degrees. */
+    public float getAngleStep() {
+        return getAngleStepImpl(handle());
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float centreX, float centreY, float radius, float firstAngle,
+            float angleStep);
+
+    private native float getAngleStepImpl(long handle);
+}

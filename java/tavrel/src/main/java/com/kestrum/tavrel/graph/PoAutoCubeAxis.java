@@ -1,0 +1,90 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A cube of axes around the box between two corners. */
+public class PoAutoCubeAxis extends PoBase {
+    static {
+        JarInitializer.init();
+    }
+
+    /** The kind of each axis. */
+    public enum AxisTypes {
+        LINEAR(JarInitializer.value(AxisTypes::getLINEARNative)),
+        LOGARITHMIC(JarInitializer.value(AxisTypes::getLOGARITHMICNative)),
+        GENERALIZED(JarInitializer.value(AxisTypes::getGENERALIZEDNative));
+
+        private final int value;
+
+        AxisTypes(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static AxisTypes fromValue(int value) {
+            for (AxisTypes c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getLINEARNative();
+
+        private static native int getLOGARITHMICNative();
+
+        private static native int getGENERALIZEDNative();
+    }
+
+    /** A new group with the toolkit's defaults; holds one reference on its native node. */
+    public PoAutoCubeAxis() {
+        this(ctorImpl());
+    }
+
+    /** The group from the corner start to the corner end, with the kinds and titles of its axes. */
+    public PoAutoCubeAxis(SbVec3f start, SbVec3f end, AxisTypes xType, AxisTypes yType, AxisTypes zType, String xTitle, String yTitle, String zTitle) {
+        this(ctorImpl1(notNull(start, "start").getValue(), notNull(end, "end").getValue(), notNull(xType, "xType").getValue(), notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(),
+                notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle"), notNull(zTitle, "zTitle")));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoAutoCubeAxis(long handle) {
+        super(handle);
+    }
+
+    /** Renders the node with the action (rebuilding it first when it has changed). */
+    public void GLRender(SoGLRenderAction action) {
+        long address = handleOf(action, "action");
+        rebuilding(h -> GLRenderImpl(h, address));
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float[] start, float[] end, int xType, int yType, int zType, String xTitle, String yTitle, String zTitle);
+
+    private native void GLRenderImpl(long handle, long action);
+}

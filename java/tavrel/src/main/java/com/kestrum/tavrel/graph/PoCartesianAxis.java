@@ -1,0 +1,72 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** Base of the axes drawn along a coordinate direction: linear, logarithmic and generalised axes. */
+public abstract class PoCartesianAxis extends PoAxis {
+    static {
+        JarInitializer.init();
+    }
+
+    /** The direction of the axis and the side of its graduations. */
+    public enum Types {
+        XY(JarInitializer.value(Types::getXYNative)),
+        XZ(JarInitializer.value(Types::getXZNative)),
+        YX(JarInitializer.value(Types::getYXNative)),
+        YZ(JarInitializer.value(Types::getYZNative)),
+        ZX(JarInitializer.value(Types::getZXNative)),
+        ZY(JarInitializer.value(Types::getZYNative));
+
+        private final int value;
+
+        Types(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Types fromValue(int value) {
+            for (Types c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getXYNative();
+
+        private static native int getXZNative();
+
+        private static native int getYXNative();
+
+        private static native int getYZNative();
+
+        private static native int getZXNative();
+
+        private static native int getZYNative();
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoCartesianAxis(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,49 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A coordinate-system triad: three axes from an origin to an end point. */
+public class PoCoordinateSystemAxis extends PoQuorvex {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new triad with the toolkit's defaults; holds one reference on its native node. */
+    public PoCoordinateSystemAxis() {
+        this(ctorImpl());
+    }
+
+    /** The triad from origin to end, with the titles of its axes and two lengths of the toolkit's. */
+    public PoCoordinateSystemAxis(SbVec3f origin, SbVec3f end, String xTitle, String yTitle, String zTitle,
+            float gradDistance, float arrowLength) {
+        this(ctorImpl1(notNull(origin, "origin").getValue(), notNull(end, "end").getValue(), notNull(xTitle, "xTitle"),
+                notNull(yTitle, "yTitle"), notNull(zTitle, "zTitle"), gradDistance, arrowLength));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoCoordinateSystemAxis(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float[] start, float[] end, String xTitle, String yTitle, String zTitle,
+            float gradDistance, float arrowLength);
+}

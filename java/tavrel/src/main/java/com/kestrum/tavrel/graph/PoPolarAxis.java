@@ -1,0 +1,78 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** Base of the polar axes, whose values are distances from a centre. */
+public abstract class PoPolarAxis extends PoAxis {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Where the multiplying factor is written. */
+    public enum MultFactorPositions {
+        MULTFACTORSTART(JarInitializer.value(MultFactorPositions::getMULTFACTORSTARTNative)),
+        MULTFACTOREND(JarInitializer.value(MultFactorPositions::getMULTFACTORENDNative)),
+        MULTFACTOREXTR(JarInitializer.value(MultFactorPositions::getMULTFACTOREXTRNative)),
+        MULTFACTORGRAD(JarInitializer.value(MultFactorPositions::getMULTFACTORGRADNative));
+
+        private final int value;
+
+        MultFactorPositions(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static MultFactorPositions fromValue(int value) {
+            for (MultFactorPositions c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getMULTFACTORSTARTNative();
+
+        private static native int getMULTFACTORENDNative();
+
+        private static native int getMULTFACTOREXTRNative();
+
+        private static native int getMULTFACTORGRADNative();
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoPolarAxis(long handle) {
+        super(handle);
+    }
+
+    /** Where the multiplying factor is written, and the factor. */
+    public record MultFactor(MultFactorPositions position, float factor) {}
+
+    public MultFactor getMultFactor() {
+        int[] position = new int[1];
+        float[] factor = new float[1];
+        getMultFactorImpl(handle(), position, factor);
+        return new MultFactor(MultFactorPositions.fromValue(position[0]), factor[0]);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private native void getMultFactorImpl(long handle, int[] position, float[] factor);
+}

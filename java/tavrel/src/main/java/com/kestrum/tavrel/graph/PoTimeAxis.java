@@ -1,0 +1,170 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/**
+ * A time axis between two dates ("YYYY-MM-DD", optionally with " hh:mm" or " hh:mm:ss"), its
+ * graduations written through a date mapping.
+ */
+public class PoTimeAxis extends PoAxis {
+    static {
+        JarInitializer.init();
+    }
+
+    /** The language of month and day names. */
+    public enum Languages {
+        ENGLISH(JarInitializer.value(Languages::getENGLISHNative)),
+        FRANCAIS(JarInitializer.value(Languages::getFRANCAISNative)),
+        DEUTSCH(JarInitializer.value(Languages::getDEUTSCHNative)),
+        ESPANOL(JarInitializer.value(Languages::getESPANOLNative));
+
+        private final int value;
+
+        Languages(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Languages fromValue(int value) {
+            for (Languages c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getENGLISHNative();
+
+        private static native int getFRANCAISNative();
+
+        private static native int getDEUTSCHNative();
+
+        private static native int getESPANOLNative();
+    }
+
+    /** Whether graduations must fit. */
+    public enum GradFits {
+        GRADFIT(JarInitializer.value(GradFits::getGRADFITNative)),
+        GRADUNFIT(JarInitializer.value(GradFits::getGRADUNFITNative));
+
+        private final int value;
+
+        GradFits(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static GradFits fromValue(int value) {
+            for (GradFits c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getGRADFITNative();
+
+        private static native int getGRADUNFITNative();
+    }
+
+    /** The direction of the axis and the side of its graduations. */
+    public enum Types {
+        X(JarInitializer.value(Types::getXNative)),
+        Y(JarInitializer.value(Types::getYNative));
+
+        private final int value;
+
+        Types(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Types fromValue(int value) {
+            for (Types c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getXNative();
+
+        private static native int getYNative();
+    }
+
+    /** A new axis with the toolkit's defaults; holds one reference on its native node. */
+    public PoTimeAxis() {
+        this(ctorImpl());
+    }
+
+    /** The axis from date1 to date2, along x at y = position (type X) or along y at x = position (type Y). */
+    public PoTimeAxis(String date1, String date2, float position, Types type) {
+        this(ctorImpl1(notNull(date1, "date1"), notNull(date2, "date2"), position, notNull(type, "type").getValue()));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoTimeAxis(long handle) {
+        super(handle);
+    }
+
+    private PbDateFormatMapping mapping;
+
+    /**
+     * Sets the mapping between dates and coordinates, and the date format of the labels; null
+     * for none. A change of the node. The node keeps the mapping's address, so this object keeps
+     * the Java object as long as it is set.
+     */
+    public void setDateFormatMapping(PbDateFormatMapping mapping) {
+        long address = handleOrZero(mapping, "mapping");
+        this.mapping = mapping;
+        rebuilding(h -> setDateFormatMappingImpl(h, address));
+    }
+
+    /** The date mapping, or null: the Java object set earlier, else a view of the address. */
+    public PbDateFormatMapping getDateFormatMapping() {
+        return JavaViews.find(PbDateFormatMapping.class, getDateFormatMappingImpl(handle()), mapping);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(String date1, String date2, float position, int type);
+
+    private native void setDateFormatMappingImpl(long handle, long mapping);
+
+    private native long getDateFormatMappingImpl(long handle);
+}

@@ -1,0 +1,42 @@
+// com.kestrum.tavrel.graph.PoCoordinateSystemAxis, constructor functions.
+
+#include <jni.h>
+
+#include <Corvel/SoModuleCheck.h>
+#include <Tavrel/PoCoordinateSystemAxis.h>
+
+#include "common/Axes.h"
+#include "common/ClassFamilies.h"
+#include "common/Handles.h"
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
+
+extern "C" {
+
+JNIEXPORT jstring JNICALL Java_com_kestrum_tavrel_graph_PoCoordinateSystemAxis_getClassTypeId(JNIEnv* env, jclass) {
+  return tavrel::classTypeNameOfMember<PoCoordinateSystemAxis>(env);
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoCoordinateSystemAxis_getClassNodekitCatalogImpl(JNIEnv*,
+                                                                                                        jclass) {
+  return tavrel::classCatalog<PoCoordinateSystemAxis>();
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoCoordinateSystemAxis_ctorImpl(JNIEnv*, jclass) {
+  return tavrel::construct<PoCoordinateSystemAxis>();
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoCoordinateSystemAxis_ctorImpl1(JNIEnv* env, jclass,
+                                                                                       jfloatArray start,
+                                                                                       jfloatArray end,
+                                                                                       jstring xTitle, jstring yTitle,
+                                                                                       jstring zTitle,
+                                                                                       jfloat gradDistance,
+                                                                                       jfloat arrowLength) {
+  return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
+    return new PoCoordinateSystemAxis{in.vec3(start), in.vec3(end), in.text(xTitle), in.text(yTitle), in.text(zTitle),
+                                      gradDistance, arrowLength};
+  });
+}
+
+}  // extern "C"

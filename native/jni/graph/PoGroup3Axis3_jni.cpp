@@ -1,0 +1,72 @@
+// com.kestrum.tavrel.graph.PoGroup3Axis3, constructor functions.
+
+#include <jni.h>
+
+#include <Corvel/SoModuleCheck.h>
+#include <Tavrel/PoGroup3Axis3.h>
+
+#include "common/Axes.h"
+#include "common/ClassFamilies.h"
+#include "common/Handles.h"
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
+
+using tavrel::toEnum;
+
+extern "C" {
+
+JNIEXPORT jstring JNICALL Java_com_kestrum_tavrel_graph_PoGroup3Axis3_getClassTypeId(JNIEnv* env, jclass) {
+  return tavrel::classTypeNameOfMember<PoGroup3Axis3>(env);
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup3Axis3_getClassNodekitCatalogImpl(JNIEnv*, jclass) {
+  return tavrel::classCatalog<PoGroup3Axis3>();
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup3Axis3_ctorImpl(JNIEnv*, jclass) {
+  return tavrel::construct<PoGroup3Axis3>();
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup3Axis3_ctorImpl1(JNIEnv* env, jclass, jfloatArray start,
+                                                                              jfloatArray end, jint xType, jint yType,
+                                                                              jint zType, jint axisName,
+                                                                              jstring xTitle, jstring yTitle,
+                                                                              jstring zTitle) {
+  return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
+    return new PoGroup3Axis3{in.vec3(start), in.vec3(end), toEnum<PoGroup3Axis3::AxisType>(xType),
+                             toEnum<PoGroup3Axis3::AxisType>(yType), toEnum<PoGroup3Axis3::AxisType>(zType),
+                             toEnum<PoGroup3Axis3::AxisName>(axisName), in.text(xTitle), in.text(yTitle),
+                             in.text(zTitle)};
+  });
+}
+
+// PoGroup3Axis3.AxisTypes
+
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_graph_PoGroup3Axis3_00024AxisTypes_getLINEARNative(JNIEnv*, jclass) {
+  return tavrel::enumValue(PoGroup3Axis3::LINEAR);
+}
+
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_graph_PoGroup3Axis3_00024AxisTypes_getLOGARITHMICNative(JNIEnv*, jclass) {
+  return tavrel::enumValue(PoGroup3Axis3::LOGARITHMIC);
+}
+
+// PoGroup3Axis3.AxisNames
+
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_graph_PoGroup3Axis3_00024AxisNames_getXAXISNative(JNIEnv*, jclass) {
+  return tavrel::enumValue(PoGroup3Axis3::XAXIS);
+}
+
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_graph_PoGroup3Axis3_00024AxisNames_getYAXISNative(JNIEnv*, jclass) {
+  return tavrel::enumValue(PoGroup3Axis3::YAXIS);
+}
+
+JNIEXPORT jint JNICALL
+Java_com_kestrum_tavrel_graph_PoGroup3Axis3_00024AxisNames_getZAXISNative(JNIEnv*, jclass) {
+  return tavrel::enumValue(PoGroup3Axis3::ZAXIS);
+}
+
+}  // extern "C"

@@ -1,0 +1,109 @@
+// Base of the single graduated axes (cartesian, polar, angular, time).
+// Abstract.
+//
+// Behaviour of this toolkit (what a caller may rely on):
+//  - An axis keeps its settings as its constructor gives them and computes
+//    its graduations when it is built (rebuild(): pre-rebuild callbacks,
+//    build, post-rebuild callbacks). Each graduation is a value and a label;
+//    the classes below say which values and labels they make. An axis makes
+//    at most 65,535 graduations: settings that would make more make none.
+//  - Labels are written with the axis's number format when it has one (see
+//    PbNumericDisplayFormat.h), otherwise with "%g" (a negative zero is
+//    written "0").
+//  - getGrad(visibility, position, path, labels, first, last, current,
+//    fontName): VISIBILITYON, GRADBELOW, PATHRIGHT; the labels of the last
+//    build joined by "\n" ("" before the first build or when there are
+//    none); the values of the first and last graduation (0 and 0 when there
+//    are none); current is 1 when the axis is built and unchanged since,
+//    0 otherwise; the font name of the text attributes ("" without).
+//  - getTitle(visibility, position, path, title, start, end, fontName):
+//    VISIBILITYON with a non-empty title, else VISIBILITYOFF; TITLEMIDDLE;
+//    PATHRIGHT; the title; the values at the start and at the end of the
+//    axis (in the order the axis runs; a time axis gives coordinates); the
+//    font name as for getGrad.
+//  - getTick(visibility, position, mainLength, subLength, subDef, mainTicks,
+//    subTicks, firstTick): VISIBILITYON, TICKGRADSIDE, 0.04, 0.02,
+//    NUMSUBTICK; the number of graduations of the last build; the number of
+//    sub-ticks between two graduations (the class's); 0.
+//  - getMargin: RELMARGIN, 0.1, 0.1. getGrid: VISIBILITYOFF, 0, 0.
+//    getArrow: VISIBILITYOFF, 0.03, 0.015.
+//  - getReverseFlag(): AXISREVERSE when the values decrease from the start
+//    of the axis to its end, AXISNOREVERSE otherwise (from the settings,
+//    built or not).
+//  - The text attributes are kept by address (null: none); setting them is
+//    a change of the node (PoBase.h).
+#pragma once
+
+#include <Corvel/SbString.h>
+#include <Tavrel/PoBase.h>
+
+#include <vector>
+
+class PbMiscTextAttr;
+class PbNumericDisplayFormat;
+
+class PoAxis : public PoBase {
+  PO_GRAPH_KIT_HEADER(PoAxis)
+
+ public:
+  enum Visibility : int { VISIBILITYOFF = 0, VISIBILITYON = 1, VISIBILITYDEPEND = 2 };
+  enum TextPath : int { PATHRIGHT = 0, PATHLEFT = 1, PATHUP = 2, PATHDOWN = 3, PATHDEPEND = 4 };
+  enum GradPosition : int { GRADABOVE = 0, GRADBELOW = 1, GRADDEPEND = 2 };
+  enum MarginType : int { RELMARGIN = 0, FIXEDMARGIN = 1 };
+  enum TickPosition : int { TICKGRADSIDE = 0, TICKGRADOTHERSIDE = 1, TICKACROSSAXIS = 2 };
+  enum TitlePosition : int { TITLEMIDDLE = 0, TITLEEND = 1, TITLEDEPEND = 2 };
+  enum TickSubDef : int { NUMSUBTICK = 0, PERIODMAINTICK = 1 };
+  enum AxisReverse : int { AXISNOREVERSE = 0, AXISREVERSE = 1, AXISREVERSEDEPEND = 2 };
+
+  void setMiscTextAttr(PbMiscTextAttr* attr);
+  PbMiscTextAttr* getMiscTextAttr() const;
+  AxisReverse getReverseFlag() const;
+  void getGrad(Visibility& visibility, GradPosition& position, TextPath& path, SbString& labels, float& first,
+               float& last, int& current, SbString& fontName) const;
+  void getTitle(Visibility& visibility, TitlePosition& position, TextPath& path, SbString& title, float& start,
+                float& end, SbString& fontName) const;
+  void getTick(Visibility& visibility, TickPosition& position, float& mainLength, float& subLength,
+               TickSubDef& subDef, unsigned short& mainTicks, unsigned short& subTicks,
+               unsigned short& firstTick) const;
+  void getMargin(MarginType& type, float& start, float& end) const;
+  void getGrid(Visibility& visibility, float& gradSide, float& otherSide) const;
+  void getArrow(Visibility& visibility, float& length, float& height) const;
+
+  void rebuild() override;
+
+  // --- Used inside this toolkit (not journaled) ---
+  struct Graduation {
+    double value;
+    SbString label;
+  };
+  const std::vector<Graduation>& graduations() const { return grads; }
+  const PbMiscTextAttr* textAttributes() const { return textAttr; }
+
+ protected:
+  PoAxis();
+  ~PoAxis() override;
+
+  void build() override;
+  // The graduations of the current settings, in the order the axis runs.
+  virtual void makeGraduations(std::vector<Graduation>& out) const = 0;
+  // The values at the start and at the end of the axis.
+  virtual void range(double& start, double& end) const = 0;
+  // Sub-ticks between two graduations.
+  virtual unsigned short subTicks() const { return 0; }
+  // A value written with the format (null: "%g").
+  static SbString label(double value, const PbNumericDisplayFormat* format);
+  // Linear graduations: the multiples of step from start to end (a step
+  // of 0 or less: automatic, see PoLinearAxis.h).
+  static void linearGraduations(double start, double end, double step, const PbNumericDisplayFormat* format,
+                                std::vector<Graduation>& out);
+  static double automaticStep(double start, double end);
+  // Logarithmic graduations between the exponents start and end.
+  static void logGraduations(double start, double end, const std::vector<unsigned short>& digits,
+                             std::vector<Graduation>& out);
+
+  SbString title;
+
+ private:
+  PbMiscTextAttr* textAttr = nullptr;
+  std::vector<Graduation> grads;
+};

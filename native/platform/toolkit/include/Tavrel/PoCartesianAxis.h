@@ -1,0 +1,34 @@
+// Base of the axes drawn along one of the three coordinate directions:
+// linear, logarithmic and generalised axes. Abstract.
+//
+// Behaviour of this toolkit (what a caller may rely on):
+//  - An axis starts at a point and runs along the direction named by the
+//    first letter of its Type (XY: along x, graduations on the y side) up
+//    to the coordinate end on that direction. Its coordinates along the
+//    axis are start[direction] at the start and end at the end.
+#pragma once
+
+#include <Corvel/SbVec.h>
+#include <Tavrel/PoAxis.h>
+
+class PoCartesianAxis : public PoAxis {
+  PO_GRAPH_KIT_HEADER(PoCartesianAxis)
+
+ public:
+  enum Type : int { XY = 0, XZ = 1, YX = 2, YZ = 3, ZX = 4, ZY = 5 };
+
+  // --- Used inside this toolkit (not journaled) ---
+  const SbVec3f& getStart() const { return start; }
+  float getEnd() const { return end; }
+  Type getType() const { return type; }
+  // The coordinate of the start along the axis's direction.
+  double startCoordinate() const;
+
+ protected:
+  PoCartesianAxis();
+  ~PoCartesianAxis() override;
+
+  SbVec3f start;
+  float end = 1.0f;
+  Type type = XY;
+};

@@ -1,0 +1,41 @@
+// A 3D group of six axes, two along each direction, from a start corner to
+// an end corner.
+//
+// Behaviour of this toolkit (what a caller may rely on):
+//  - init(start, end, xType, yType, zType, xTitle, yTitle, zTitle) keeps the
+//    corners, the types and the titles (a null title as ""). The default
+//    constructor makes the group from (0, 0, 0) to (1, 1, 1), all LINEAR,
+//    no titles.
+//  - Its build makes nothing but journals itself; the settings are read
+//    back through the accessors below.
+#pragma once
+
+#include <Corvel/SbString.h>
+#include <Corvel/SbVec.h>
+#include <Tavrel/PoBaseAxis.h>
+
+class PoGroup6Axis3 : public PoBaseAxis {
+  PO_GRAPH_KIT_HEADER(PoGroup6Axis3)
+
+ public:
+  enum AxisType : int { LINEAR = 0, LOGARITHMIC = 1 };
+
+  PoGroup6Axis3();
+  PoGroup6Axis3(const SbVec3f& start, const SbVec3f& end, AxisType xType, AxisType yType, AxisType zType,
+                const char* xTitle, const char* yTitle, const char* zTitle) {
+    init(start, end, xType, yType, zType, xTitle, yTitle, zTitle);
+  }
+
+  void rebuild() override;
+
+  // --- Used inside this toolkit (not journaled) ---
+  SbVec3f start, end;
+  AxisType types[3] = {LINEAR, LINEAR, LINEAR};
+  SbString titles[3];
+
+ protected:
+  ~PoGroup6Axis3() override;
+  void init(const SbVec3f& start, const SbVec3f& end, AxisType xType, AxisType yType, AxisType zType,
+            const char* xTitle, const char* yTitle, const char* zTitle);
+  void build() override;
+};

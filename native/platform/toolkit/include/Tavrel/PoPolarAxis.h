@@ -1,0 +1,29 @@
+// Base of the polar axes: an axis from a centre outwards whose values are
+// distances from the centre. Abstract.
+//
+// Behaviour of this toolkit (what a caller may rely on):
+//  - The axis runs from the centre (x0, y0) to the point (x1, y1); its
+//    coordinates along the axis are 0 at the centre and the distance
+//    between the two points at the end.
+//  - getMultFactor: MULTFACTOREND and a factor of 1.
+#pragma once
+
+#include <Tavrel/PoAxis.h>
+
+class PoPolarAxis : public PoAxis {
+  PO_GRAPH_KIT_HEADER(PoPolarAxis)
+
+ public:
+  enum MultFactorPosition : int { MULTFACTORSTART = 0, MULTFACTOREND = 1, MULTFACTOREXTR = 2, MULTFACTORGRAD = 3 };
+
+  void getMultFactor(MultFactorPosition& position, float& factor) const;
+
+  // --- Used inside this toolkit (not journaled) ---
+  double length() const;
+
+ protected:
+  PoPolarAxis();
+  ~PoPolarAxis() override;
+
+  float x0 = 0.0f, y0 = 0.0f, x1 = 1.0f, y1 = 0.0f;
+};
