@@ -1,0 +1,83 @@
+package com.kestrum.tavrel.misuse;
+
+import static org.junit.jupiter.api.Assertions.assertFalse;
+import static org.junit.jupiter.api.Assertions.assertTrue;
+
+import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.nodes.PoCellFilter;
+import com.kestrum.tavrel.nodes.PoNode;
+import com.kestrum.tavrel.testkit.ChildJvm;
+import java.util.List;
+import java.util.regex.Pattern;
+import org.junit.jupiter.params.ParameterizedTest;
+import org.junit.jupiter.params.provider.EnumSource;
+
+/**
+ * Call sequences that the misuse run found killing the JVM, each run in a child JVM so that a
+ * regression fails here instead of ending the test run. The child prints what the library
+ * answered; the output must match.
+ */
+class MisuseRegressionTest {
+    private static final String DONE = "scenario done";
+
+    enum Scenario {
+        /** A Java node whose getRenderEngineMode disposes the node while it is being made. */
+        NODE_DISPOSED_WHILE_BEING_MADE("node disposed: true\\R"),
+        /** The same for a Java cell filter. */
+        FILTER_DISPOSED_WHILE_BEING_MADE("filter disposed: true\\R");
+
+        final Pattern expected;
+
+        Scenario(String expected) {
+            this.expected = Pattern.compile(expected);
+        }
+    }
+
+    public static void main(String[] args) {
+        switch (Scenario.valueOf(args[0])) {
+            case NODE_DISPOSED_WHILE_BEING_MADE:
+                for (int i = 0; i < 3; i++) {  // the first object of a class creates its type
+                    System.out.println("node disposed: " + new SelfDisposingNode().isDisposed());
+                }
+                break;
+            case FILTER_DISPOSED_WHILE_BEING_MADE:
+                for (int i = 0; i < 3; i++) {
+                    System.out.println("filter disposed: " + new SelfDisposingFilter().isDisposed());
+                }
+                break;
+        }
+        System.out.println(DONE);
+    }
+
+    @ParameterizedTest
+    @EnumSource(Scenario.class)
+    void runsToItsEndInAChildJvm(Scenario scenario) throws Exception {
+        ChildJvm.Result r = ChildJvm.run(MisuseRegressionTest.class, List.of(), 120, scenario.name());
+        assertFalse(r.crashed(), r::describe);
+        assertFalse(r.jniWarning(), r::describe);
+        assertTrue(r.output().contains(DONE), r::describe);
+        assertTrue(scenario.expected.matcher(r.output()).find(), r::describe);
+    }
+
+    /** Disposes itself when the toolkit asks its rendering mode, which happens while it is made. */
+    static final class SelfDisposingNode extends PoNode {
+        @Override
+        public SoNode.RenderModes getRenderEngineMode() {
+            dispose();
+            return SoNode.RenderModes.ANY_RENDERING;
+        }
+    }
+
+    static final class SelfDisposingFilter extends PoCellFilter {
+        @Override
+        public SoNode.RenderModes getRenderEngineMode() {
+            dispose();
+            return SoNode.RenderModes.ANY_RENDERING;
+        }
+
+        @Override
+        public boolean acceptCell(int cellIndex, float value) {
+            return true;
+        }
+    }
+}
