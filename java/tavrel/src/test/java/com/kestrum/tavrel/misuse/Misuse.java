@@ -89,6 +89,9 @@ public final class Misuse {
     private final Map<Long, List<Long>> children = new HashMap<>();
     private final ExecutorService worker = Executors.newSingleThreadExecutor(r -> new Thread(r, "worker"));
     private final Map<String, Integer> outcomes = new TreeMap<>();
+    /** With -Dmisuse.stats=true: outcomes per method, printed at the end (to tune the arguments). */
+    private static final boolean STATS = Boolean.getBoolean("misuse.stats");
+    private final Map<String, Integer> detail = new TreeMap<>();
     private final String[] operations;
     private int calls;
     private int depth;
@@ -114,6 +117,7 @@ public final class Misuse {
         System.out.println("misuse seed " + seed + ": " + run.calls + " calls, " + run.log.lines() + " log lines, "
                 + (System.nanoTime() - start) / 1_000_000 + " ms");
         System.out.println("misuse outcomes: " + run.outcomes);
+        run.detail.forEach((k, v) -> System.out.println("  " + k + ": " + v));
         System.out.println(exit == 0 ? "misuse finished" : "misuse FAILED: " + run.failure);
         System.out.flush();
         Runtime.getRuntime().halt(exit);
@@ -205,8 +209,10 @@ public final class Misuse {
         if (receiver instanceof PbMesh && hasArrayParameter(m) && rnd.nextBoolean()) {
             // A caller sizes its arrays from the mesh's counts.
             PbMesh mesh = (PbMesh) receiver;
-            call(mesh, "getNumNodes", () -> countSeen(mesh.getNumNodes()));
-            call(mesh, "getNumCells", () -> countSeen(mesh.getNumCells()));
+            Object nodes = call(mesh, "getNumNodes", () -> countSeen(mesh.getNumNodes()));
+            Object cells = call(mesh, "getNumCells", () -> countSeen(mesh.getNumCells()));
+            lastNodes = nodes instanceof Integer ? (Integer) nodes : -1;
+            lastCells = cells instanceof Integer ? (Integer) cells : -1;
         }
         invoke(receiver, m, arguments(m, receiver));
     }
@@ -550,7 +556,7 @@ public final class Misuse {
      * objects first), and decide what the override does; or throw.
      */
     private Decision callback(String op, Object self, Object[] args, boolean listener) {
-        int line = log.write(thread(), depth, "~ " + log.render(self) + "." + op + "(" + renderAll(args) + ")");
+        int line = log.lines() + 1;
         List<Object> related = new ArrayList<>();
         if (self != null) {
             related.add(self);
@@ -568,6 +574,7 @@ public final class Misuse {
         if (self instanceof NativeObject) {
             adopt(self, line);
         }
+        log.write(thread(), depth, "~ " + log.render(self) + "." + op + "(" + renderAll(args) + ")");
         boolean quiet = op.equals("acceptCell") || op.equals("getRenderEngineMode");
         if (depth >= MAX_DEPTH || calls >= limit || failure != null) {
             return Decision.SUPER;
@@ -697,11 +704,14 @@ public final class Misuse {
     }
 
     private static String outcomeKey(Executable e) {
-        return e instanceof Constructor ? "new" : e.getName();
+        return e instanceof Constructor ? "new " + e.getDeclaringClass().getSimpleName() + "/" + e.getParameterCount() : e.getName();
     }
 
     private void outcome(String key, String kind) {
         outcomes.merge(kind, 1, Integer::sum);
+        if (STATS) {
+            detail.merge(key + " " + kind, 1, Integer::sum);
+        }
     }
 
     /** Results: objects join the pool; buffers are read (and data sets written) at once; counts are noted. */
@@ -817,15 +827,45 @@ public final class Misuse {
 
     // --- arguments ----------------------------------------------------------------------------
 
-    /** What the arguments of one call have in common: the counts given so far, sums of index arrays. */
-    private static final class Ctx {
+    /**
+     * What the arguments of one call have in common. Half the calls are well formed: counts are
+     * small and positive, arrays are as long as the counts before them (or the receiving mesh's
+     * counts) say, cell types are node counts and node indices are in range, so that the calls
+     * reach deep into the toolkit. The other half are hostile throughout.
+     */
+    private final class Ctx {
+        final boolean wellFormed = rnd.nextBoolean();
+        /** How float arrays follow the counts: 0 the first count, 1 their product, 2 one count each. */
+        final int lengthRule = rnd.nextInt(3);
         final List<Integer> ints = new ArrayList<>();
         final List<Integer> sizes = new ArrayList<>();
+        /** Node and cell counts of the receiving mesh, when the caller asked it for them. */
+        int receiverNodes = -1;
+        int receiverCells = -1;
+        int floatArrays;
+        int intArrays;
+        int intArraysInCall;
+        int cellTypesSum = -1;
     }
+
+    /** Node and cell counts of the last mesh a call was about to be made on (see callRandomMethod). */
+    private int lastNodes = -1;
+    private int lastCells = -1;
 
     private Object[] arguments(Executable e, Object receiver) {
         Ctx ctx = new Ctx();
+        if (receiver instanceof PbMesh) {
+            ctx.receiverNodes = lastNodes;
+            ctx.receiverCells = lastCells;
+        }
+        lastNodes = -1;
+        lastCells = -1;
         Class<?>[] types = e.getParameterTypes();
+        for (Class<?> t : types) {
+            if (t == int[].class) {
+                ctx.intArraysInCall++;
+            }
+        }
         Object[] args = new Object[types.length];
         for (int i = 0; i < types.length; i++) {
             args[i] = argument(types[i], ctx, receiver);
@@ -835,12 +875,12 @@ public final class Misuse {
 
     private Object argument(Class<?> t, Ctx ctx, Object receiver) {
         if (t == int.class) {
-            int v = nextInt(ctx);
+            int v = ctx.wellFormed && rnd.nextInt(8) != 0 ? 1 + rnd.nextInt(6) : nextInt(ctx);
             ctx.ints.add(v);
             return v;
         }
         if (t == float.class) {
-            return nextFloat();
+            return ctx.wellFormed ? rnd.nextInt(41) / 4f - 5f : nextFloat();
         }
         if (t == boolean.class) {
             return rnd.nextBoolean();
@@ -849,26 +889,27 @@ public final class Misuse {
             return (short) (rnd.nextBoolean() ? rnd.nextInt(8) : EXTREME_INTS[rnd.nextInt(EXTREME_INTS.length)]);
         }
         if (t == String.class) {
-            return nextString();
+            return ctx.wellFormed ? STRINGS[1 + rnd.nextInt(3)] : nextString();
         }
         if (t == Object.class) {
             return userData();
         }
         if (t.isArray()) {
-            return array(t.getComponentType(), ctx);
+            return ctx.wellFormed ? wellFormedArray(t.getComponentType(), ctx) : array(t.getComponentType(), ctx);
         }
         if (t == SbVec3f.class) {
-            return rnd.nextInt(8) == 0 ? null : new SbVec3f(nextFloat(), nextFloat(), nextFloat());
+            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbVec3f(coordinate(ctx), coordinate(ctx),
+                    coordinate(ctx));
         }
         if (t == SbVec2f.class) {
-            return rnd.nextInt(8) == 0 ? null : new SbVec2f(nextFloat(), nextFloat());
+            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbVec2f(coordinate(ctx), coordinate(ctx));
         }
         if (t == SbColor.class) {
-            return rnd.nextInt(8) == 0 ? null : new SbColor(nextFloat(), nextFloat(), nextFloat());
+            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbColor(nextFloat(), nextFloat(), nextFloat());
         }
         if (t.isEnum()) {
             Object[] constants = t.getEnumConstants();
-            return rnd.nextInt(8) == 0 ? null : constants[rnd.nextInt(constants.length)];
+            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : constants[rnd.nextInt(constants.length)];
         }
         if (t == PoProbeCB.Listener.class) {
             return rnd.nextInt(6) == 0 ? null : probeListener();
@@ -877,17 +918,94 @@ public final class Misuse {
             return rnd.nextInt(6) == 0 ? null : rebuildListener();
         }
         if (NativeObject.class.isAssignableFrom(t)) {
-            if (rnd.nextInt(10) == 0) {
+            if (rnd.nextInt(ctx.wellFormed ? 30 : 10) == 0) {
                 return null;
             }
             if (t.isInstance(receiver) && rnd.nextInt(6) == 0) {
                 return receiver;
             }
-            return pickAny(t, 85);
+            return pickAny(t, ctx.wellFormed ? 97 : 85);
         }
         return null;
     }
 
+    private float coordinate(Ctx ctx) {
+        return ctx.wellFormed ? rnd.nextInt(41) / 8f - 1f : nextFloat();
+    }
+
+    /** An array that fits the counts of the call or of the receiving mesh. */
+    private Object wellFormedArray(Class<?> component, Ctx ctx) {
+        int first = ctx.ints.isEmpty() ? 4 : Math.max(0, ctx.ints.get(0));
+        int last = ctx.ints.isEmpty() ? 4 : Math.max(0, ctx.ints.get(ctx.ints.size() - 1));
+        int nodes = ctx.receiverNodes >= 0 ? ctx.receiverNodes : first;
+        if (component == float.class) {
+            int length;
+            if (ctx.receiverNodes >= 0) {
+                length = rnd.nextInt(3) == 0 && ctx.receiverCells >= 0 ? ctx.receiverCells
+                        : rnd.nextInt(8) == 0 ? 3 : ctx.receiverNodes;
+            } else if (ctx.lengthRule == 0 || ctx.ints.isEmpty()) {
+                length = ctx.ints.isEmpty() ? 3 : first;
+            } else if (ctx.lengthRule == 1) {
+                long p = 1;
+                for (int v : ctx.ints) {
+                    p *= Math.max(0, v);
+                }
+                length = clampLength(p);
+            } else {
+                int i = Math.min(ctx.floatArrays, ctx.ints.size() - 1);
+                length = Math.max(0, ctx.ints.get(i));
+            }
+            ctx.floatArrays++;
+            float[] a = new float[clampLength(length)];
+            for (int i = 0; i < a.length; i++) {
+                a[i] = rnd.nextInt(41) / 8f - 1f;
+            }
+            return a;
+        }
+        if (component == int.class) {
+            int[] a;
+            if (ctx.intArraysInCall == 2 && ctx.intArrays == 0) {
+                // The node counts of the cells (cell types), as many as the last count.
+                a = new int[clampLength(last)];
+                boolean solid = rnd.nextBoolean();
+                int sum = 0;
+                for (int i = 0; i < a.length; i++) {
+                    a[i] = solid ? new int[] {4, 5, 6, 8}[rnd.nextInt(4)] : 3 + rnd.nextInt(2);
+                    sum += a[i];
+                }
+                ctx.cellTypesSum = sum;
+            } else {
+                // Node indices: of the cells listed by the cell types, or of cells of 1 to 8 nodes.
+                int length = ctx.cellTypesSum >= 0 ? ctx.cellTypesSum
+                        : last * new int[] {1, 3, 4, 4, 6, 8}[rnd.nextInt(6)];
+                a = new int[clampLength(length)];
+                for (int i = 0; i < a.length; i++) {
+                    a[i] = nodes > 0 ? rnd.nextInt(nodes) : 0;
+                }
+            }
+            ctx.intArrays++;
+            return a;
+        }
+        int length = ctx.receiverNodes >= 0 ? ctx.receiverNodes : last;
+        if (component == String.class) {
+            String[] a = new String[clampLength(length)];
+            for (int i = 0; i < a.length; i++) {
+                a[i] = STRINGS[rnd.nextInt(4)];
+            }
+            return a;
+        }
+        if (component == SbVec3f.class || component == SbVec2f.class) {
+            Object[] a = (Object[]) java.lang.reflect.Array.newInstance(component, clampLength(length));
+            for (int i = 0; i < a.length; i++) {
+                a[i] = component == SbVec3f.class ? new SbVec3f(coordinate(ctx), coordinate(ctx), coordinate(ctx))
+                        : new SbVec2f(coordinate(ctx), coordinate(ctx));
+            }
+            return a;
+        }
+        return java.lang.reflect.Array.newInstance(component, clampLength(length));
+    }
+
+    /** A hostile array: null, empty, short, of extreme values, with null elements. */
     private Object array(Class<?> component, Ctx ctx) {
         if (rnd.nextInt(12) == 0) {
             return null;
@@ -989,6 +1107,7 @@ public final class Misuse {
         return (int) Math.max(0, Math.min(n, 1 << 18));
     }
 
+    /** Small counts and indices mostly; negative ones, recent counts, and the extremes. */
     private int nextInt(Ctx ctx) {
         int r = rnd.nextInt(100);
         if (r < 45) {
