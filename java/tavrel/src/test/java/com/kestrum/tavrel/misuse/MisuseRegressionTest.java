@@ -4,6 +4,9 @@ import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.data.PbMesh;
+import com.kestrum.tavrel.data.PbParalCartesianGrid2D;
+import com.kestrum.tavrel.data.PoMeshFilled;
 import com.kestrum.tavrel.nodes.PoCellFilter;
 import com.kestrum.tavrel.nodes.PoNode;
 import com.kestrum.tavrel.testkit.ChildJvm;
@@ -24,7 +27,12 @@ class MisuseRegressionTest {
         /** A Java node whose getRenderEngineMode disposes the node while it is being made. */
         NODE_DISPOSED_WHILE_BEING_MADE("node disposed: true\\R"),
         /** The same for a Java cell filter. */
-        FILTER_DISPOSED_WHILE_BEING_MADE("filter disposed: true\\R");
+        FILTER_DISPOSED_WHILE_BEING_MADE("filter disposed: true\\R"),
+        /**
+         * A view of a grid that keeps one coordinate per column and per row (a representation's
+         * mesh, once the grid's own Java object is disposed) given arrays shorter than its axes.
+         */
+        SHORT_COORDINATES_ON_A_VIEW("view of PbParalCartesianGrid2D: refused x\\Rrefused y\\Raccepted\\R");
 
         final Pattern expected;
 
@@ -45,8 +53,38 @@ class MisuseRegressionTest {
                     System.out.println("filter disposed: " + new SelfDisposingFilter().isDisposed());
                 }
                 break;
+            case SHORT_COORDINATES_ON_A_VIEW:
+                shortCoordinatesOnAView();
+                break;
         }
         System.out.println(DONE);
+    }
+
+    private static void shortCoordinatesOnAView() {
+        // A grid without rows has no nodes, yet its x array has a value per column.
+        PbMesh empty = viewOf(new PbParalCartesianGrid2D(64, 0, new float[64], new float[0], false));
+        PbMesh full = viewOf(new PbParalCartesianGrid2D(64, 48, new float[64], new float[48], false));
+        System.out.println("view of PbParalCartesianGrid2D: "
+                + attempt("x", () -> empty.setCoordinates(new float[3], null, null)) + "\n"
+                + attempt("y", () -> full.setCoordinates(null, new float[47], null)) + "\n"
+                + attempt("all", () -> full.setCoordinates(new float[64], new float[48], new float[64 * 48])));
+    }
+
+    /** The Java view that a representation gives of its mesh once the mesh's own object is disposed. */
+    private static PbMesh viewOf(PbMesh mesh) {
+        PoMeshFilled rep = new PoMeshFilled();
+        rep.setMesh(mesh);
+        mesh.dispose();
+        return rep.getMesh();
+    }
+
+    private static String attempt(String what, Runnable call) {
+        try {
+            call.run();
+            return "accepted";
+        } catch (IllegalArgumentException e) {
+            return "refused " + what;
+        }
     }
 
     @ParameterizedTest
