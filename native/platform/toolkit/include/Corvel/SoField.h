@@ -1,4 +1,5 @@
-// Fields and field tables. The stand-in's fields hold a name and a text value.
+// Fields and field tables. The stand-in's fields hold a name, a text value and
+// the container they belong to (null for a field made on its own).
 #pragma once
 
 #include <Corvel/SbName.h>
@@ -15,10 +16,13 @@ class SoField {
   const SbName& getName() const { return fieldName; }
   void setValueString(const SbString& v) { value = v; }
   const SbString& getValueString() const { return value; }
+  void setContainer(SoFieldContainer* owner) { container = owner; }
+  SoFieldContainer* getContainer() const { return container; }
 
  private:
   SbName fieldName;
   SbString value;
+  SoFieldContainer* container = nullptr;
 };
 
 // The table of field names of a class. A table made from another one starts

@@ -4,7 +4,11 @@ import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
 
-/** A field of a node: a view of a native field, which belongs to its node. */
+/**
+ * A field of a node: a view of a native field, which belongs to its node. The view holds a
+ * reference on that node, so the field stays valid while the view lives; it is given back when
+ * the view is disposed or collected.
+ */
 public class SoField extends NativeObject {
     static {
         CorvelNative.ensureLoaded();
@@ -12,7 +16,11 @@ public class SoField extends NativeObject {
     }
 
     protected SoField(long handle) {
-        super(handle);
+        this(handle, refContainerNative(handle));
+    }
+
+    private SoField(long handle, long container) {
+        super(handle, container == 0 ? null : releaseWith(SoField::unrefContainerNative, container));
     }
 
     /** The field's name. */
@@ -32,6 +40,11 @@ public class SoField extends NativeObject {
         }
         setValueNative(handle(), value);
     }
+
+    /** Takes a reference on the field's container; its address, 0 when the field has none. */
+    private static native long refContainerNative(long handle);
+
+    private static native void unrefContainerNative(long container);
 
     private static native String getNameNative(long handle);
 

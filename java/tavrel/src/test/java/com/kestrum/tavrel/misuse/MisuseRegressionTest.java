@@ -3,13 +3,16 @@ package com.kestrum.tavrel.misuse;
 import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.data.PbParalCartesianGrid2D;
 import com.kestrum.tavrel.data.PoMeshFilled;
+import com.kestrum.tavrel.data.PoMeshProbePoint;
 import com.kestrum.tavrel.nodes.PoCellFilter;
 import com.kestrum.tavrel.nodes.PoNode;
 import com.kestrum.tavrel.testkit.ChildJvm;
+import com.kestrum.tavrel.testkit.Nodes;
 import java.util.List;
 import java.util.regex.Pattern;
 import org.junit.jupiter.params.ParameterizedTest;
@@ -32,7 +35,9 @@ class MisuseRegressionTest {
          * A view of a grid that keeps one coordinate per column and per row (a representation's
          * mesh, once the grid's own Java object is disposed) given arrays shorter than its axes.
          */
-        SHORT_COORDINATES_ON_A_VIEW("view of PbParalCartesianGrid2D: refused x\\Rrefused y\\Raccepted\\R");
+        SHORT_COORDINATES_ON_A_VIEW("view of PbParalCartesianGrid2D: refused x\\Rrefused y\\Raccepted\\R"),
+        /** A field of a node used after the node's Java object, its only holder, was disposed. */
+        FIELD_AFTER_ITS_NODE("field position: 1 2 3, node references: 1 then 0\\R");
 
         final Pattern expected;
 
@@ -56,6 +61,9 @@ class MisuseRegressionTest {
             case SHORT_COORDINATES_ON_A_VIEW:
                 shortCoordinatesOnAView();
                 break;
+            case FIELD_AFTER_ITS_NODE:
+                fieldAfterItsNode();
+                break;
         }
         System.out.println(DONE);
     }
@@ -76,6 +84,20 @@ class MisuseRegressionTest {
         rep.setMesh(mesh);
         mesh.dispose();
         return rep.getMesh();
+    }
+
+    private static void fieldAfterItsNode() {
+        PoMeshProbePoint probe = new PoMeshProbePoint();
+        long node = probe.getNativeResourceHandleInternal();
+        SoField field = probe.getField("position");
+        probe.dispose();
+        field.setValue("1 2 3");
+        String text = "field " + field.getName() + ": " + field.getValue() + ", node references: "
+                + Nodes.refCount(node);
+        Nodes.ref(node);  // keeps the node for the count after the field has let go
+        field.dispose();
+        System.out.println(text + " then " + (Nodes.refCount(node) - 1));
+        Nodes.unref(node);
     }
 
     private static String attempt(String what, Runnable call) {
