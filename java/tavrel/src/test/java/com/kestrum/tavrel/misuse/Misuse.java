@@ -89,8 +89,11 @@ public final class Misuse {
     private final Map<Long, List<Long>> children = new HashMap<>();
     private final ExecutorService worker = Executors.newSingleThreadExecutor(r -> new Thread(r, "worker"));
     private final Map<String, Integer> outcomes = new TreeMap<>();
+    /** The object each object came from (the receiver of the call that returned it). */
+    private final Map<Object, java.lang.ref.WeakReference<Object>> parents = new java.util.WeakHashMap<>();
     /** With -Dmisuse.stats=true: outcomes per method, printed at the end (to tune the arguments). */
     private static final boolean STATS = Boolean.getBoolean("misuse.stats");
+    private static final boolean TMP_SKIP_CELL_VIEWS = Boolean.getBoolean("misuse.tmpSkipCellViews");
     private final Map<String, Integer> detail = new TreeMap<>();
     private final String[] operations;
     private int calls;
@@ -140,9 +143,9 @@ public final class Misuse {
     /** One step; a top-level one may run on another thread and may collect garbage. */
     private void step(boolean topLevel) {
         int r = rnd.nextInt(100);
-        if (r < 20) {
+        if (r < 19) {
             onSomeThread(topLevel, this::construct);
-        } else if (r < 66) {
+        } else if (r < 64) {
             Object receiver = pickAny(Object.class, 90);
             if (receiver != null) {
                 onSomeThread(topLevel, () -> callRandomMethod(receiver));
@@ -158,14 +161,58 @@ public final class Misuse {
             scene();
         } else if (r < 93) {
             toolkitEvent();
-        } else if (r < 96) {
+        } else if (r < 95) {
             mutateMesh(null);
+        } else if (r < 98) {
+            orphan(topLevel);
         } else if (r < 99) {
             drop();
         } else if (topLevel && rnd.nextInt(10) == 0) {
-            log.write(thread(), depth, "# System.gc()");
-            System.gc();
+            collectGarbage();
         }
+    }
+
+    private void collectGarbage() {
+        log.write(thread(), depth, "# System.gc()");
+        System.gc();
+    }
+
+    /**
+     * An object that a call returned (a cell, a field, a view of a mesh or node) outliving the
+     * object it came from: the parent is disposed, or dropped and collected, then the child is
+     * called.
+     */
+    private void orphan(boolean topLevel) {
+        List<Object> children = new ArrayList<>();
+        for (Object o : pool) {
+            Object parent = parentOf(o);
+            if (parent instanceof NativeObject && !((NativeObject) parent).isDisposed()) {
+                children.add(o);
+            }
+        }
+        if (children.isEmpty()) {
+            return;
+        }
+        Object child = children.get(rnd.nextInt(children.size()));
+        NativeObject parent = (NativeObject) parentOf(child);
+        if (topLevel && rnd.nextInt(4) == 0) {
+            pool.remove(parent);
+            log.write(thread(), depth, "# drop " + log.render(parent));
+            parent = null;
+            collectGarbage();
+        } else {
+            NativeObject p = parent;
+            call(p, "dispose", p::dispose);
+        }
+        int n = 1 + rnd.nextInt(3);
+        for (int i = 0; i < n; i++) {
+            callRandomMethod(child);
+        }
+    }
+
+    private Object parentOf(Object o) {
+        java.lang.ref.WeakReference<Object> parent = parents.get(o);
+        return parent == null ? null : parent.get();
     }
 
     /** Runs on this thread, or hands to the worker or to a new thread and waits. */
@@ -562,6 +609,9 @@ public final class Misuse {
             related.add(self);
         }
         for (Object a : args) {
+            if (TMP_SKIP_CELL_VIEWS && a instanceof PbCell && listener) {
+                continue;
+            }
             if (a instanceof NativeObject) {
                 related.add(a);
                 // Nodes, meshes and cells handed to a callback may be kept for later; the
@@ -651,7 +701,7 @@ public final class Misuse {
             addChild((SoGroup) receiver, (SoNode) args[0]);
             return null;
         }
-        return perform(name, args, () -> {
+        return perform(receiver, name, args, () -> {
             try {
                 return e instanceof Constructor ? ((Constructor<?>) e).newInstance(args)
                         : ((Method) e).invoke(receiver, args);
@@ -664,7 +714,7 @@ public final class Misuse {
     /** A direct call, logged and made like a reflective one. */
     private Object call(Object receiver, String method, Callable<?> body, Object... args) {
         String name = receiver == null ? method : log.render(receiver) + "." + method;
-        return perform(name, args, () -> body.call(), method);
+        return perform(receiver, name, args, () -> body.call(), method);
     }
 
     private Object call(Object receiver, String method, Runnable body, Object... args) {
@@ -679,13 +729,13 @@ public final class Misuse {
         Object run() throws Throwable;
     }
 
-    private Object perform(String name, Object[] args, Body body, String outcomeKey) {
+    private Object perform(Object receiver, String name, Object[] args, Body body, String outcomeKey) {
         int line = log.write(thread(), depth, name + "(" + renderAll(args) + ")");
         calls++;
         try {
             Object result = body.run();
             outcome(outcomeKey, "returned");
-            takeIn(result, line);
+            takeIn(result, line, receiver);
             return result;
         } catch (VirtualMachineError | LinkageError e) {
             if (e instanceof UnsatisfiedLinkError) {
@@ -715,9 +765,12 @@ public final class Misuse {
     }
 
     /** Results: objects join the pool; buffers are read (and data sets written) at once; counts are noted. */
-    private void takeIn(Object result, int line) {
+    private void takeIn(Object result, int line, Object receiver) {
         if (result instanceof NativeObject) {
             adopt(result, line);
+            if (receiver != null && receiver != result && !parents.containsKey(result)) {
+                parents.put(result, new java.lang.ref.WeakReference<>(receiver));
+            }
         } else if (result instanceof FloatBuffer) {
             touch((FloatBuffer) result);
         } else if (result instanceof FloatBuffer[]) {
@@ -846,6 +899,8 @@ public final class Misuse {
         int intArrays;
         int intArraysInCall;
         int cellTypesSum = -1;
+        /** The public int constants of the receiving class (array lengths it publishes). */
+        final List<Integer> constants = new ArrayList<>();
     }
 
     /** Node and cell counts of the last mesh a call was about to be made on (see callRandomMethod). */
@@ -860,6 +915,20 @@ public final class Misuse {
         }
         lastNodes = -1;
         lastCells = -1;
+        if (receiver != null) {
+            for (java.lang.reflect.Field f : receiver.getClass().getFields()) {
+                int m = f.getModifiers();
+                if (f.getType() == int.class && java.lang.reflect.Modifier.isStatic(m)
+                        && java.lang.reflect.Modifier.isFinal(m)) {
+                    try {
+                        ctx.constants.add(f.getInt(null));
+                    } catch (IllegalAccessException ex) {
+                        throw new IllegalStateException(ex);
+                    }
+                }
+            }
+            ctx.sizes.addAll(ctx.constants);
+        }
         Class<?>[] types = e.getParameterTypes();
         for (Class<?> t : types) {
             if (t == int[].class) {
@@ -917,6 +986,10 @@ public final class Misuse {
         if (t == PoRebuildCB.Listener.class) {
             return rnd.nextInt(6) == 0 ? null : rebuildListener();
         }
+        if (t == java.util.function.IntSupplier.class) {
+            int v = nextInt(ctx);
+            return rnd.nextInt(4) == 0 ? null : (java.util.function.IntSupplier) () -> v;
+        }
         if (NativeObject.class.isAssignableFrom(t)) {
             if (rnd.nextInt(ctx.wellFormed ? 30 : 10) == 0) {
                 return null;
@@ -940,7 +1013,12 @@ public final class Misuse {
         int nodes = ctx.receiverNodes >= 0 ? ctx.receiverNodes : first;
         if (component == float.class) {
             int length;
-            if (ctx.receiverNodes >= 0) {
+            if (rnd.nextInt(4) == 0) {
+                // Outputs: a value, a point, a box, or a length the receiving class publishes.
+                List<Integer> fixed = new ArrayList<>(List.of(1, 3, 4, 6));
+                fixed.addAll(ctx.constants);
+                length = fixed.get(rnd.nextInt(fixed.size()));
+            } else if (ctx.receiverNodes >= 0) {
                 length = rnd.nextInt(3) == 0 && ctx.receiverCells >= 0 ? ctx.receiverCells
                         : rnd.nextInt(8) == 0 ? 3 : ctx.receiverNodes;
             } else if (ctx.lengthRule == 0 || ctx.ints.isEmpty()) {
