@@ -39,8 +39,11 @@ class CrashRegressionTest {
 
     /** A scenario: what the child does, its JVM options, and a pattern its output must match. */
     enum Scenario {
+        /** A probe listener keeps its cell; the mesh's geometry changes; the cell is used. */
+        PROBE_CELL_AFTER_GEOMETRY_CHANGE(List.of(),
+                "refused: java.lang.IllegalStateException: the cell's mesh has changed since the cell was obtained"),
         /** A listener disposes the probe (its Java object holds the last reference) mid-render. */
-        PROBE_DISPOSED_BY_ITS_LISTENER(List.of(), "probe disposed: true"),
+        PROBE_DISPOSED_BY_ITS_LISTENER(List.of(), "events: 3\\Rprobe disposed: true\\R"),
         /** A filter applied alone, then disposed; a representation rendered with that action. */
         FILTER_DISPOSED_AFTER_APPLY(List.of(), "cells drawn: " + Scenarios.FILTER_CELLS + "\\R"),
         /** A filter that disposes itself in acceptCell, asked by a representation. */
@@ -65,6 +68,7 @@ class CrashRegressionTest {
     public static void main(String[] args) throws Exception {
         Scenario scenario = Scenario.valueOf(args[0]);
         switch (scenario) {
+            case PROBE_CELL_AFTER_GEOMETRY_CHANGE -> Scenarios.probeCellAfterGeometryChange();
             case PROBE_DISPOSED_BY_ITS_LISTENER -> Scenarios.probeDisposedByItsListener();
             case FILTER_DISPOSED_AFTER_APPLY -> Scenarios.filterDisposedAfterApply();
             case FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL -> Scenarios.filterDisposingItselfInAcceptCell();
@@ -99,6 +103,24 @@ class CrashRegressionTest {
             PbRegularCartesianGrid2D grid = new PbRegularCartesianGrid2D(n, n, 0, 0, 1, 1, false);
             grid.getArea();
             return grid;
+        }
+
+        static void probeCellAfterGeometryChange() {
+            PbRegularCartesianGrid2D grid = gridWithEveryCell(600);
+            PbCell[] seen = new PbCell[1];
+            try (PoMeshProbePoint probe = new PoMeshProbePoint(); SoGLRenderAction render = new SoGLRenderAction()) {
+                probe.setMesh(grid);
+                probe.setMotionCallback(new PoProbeCB((p, cell, handle, data) -> seen[0] = cell), null);
+                probe.setPosition(0.5f, 0.5f, 0);
+                render.apply(probe);
+            }
+            System.out.println("cell area before: " + seen[0].getArea());
+            grid.setGeometry(2, 2, 0, 0, 1, 1);  // frees every cell of the old geometry
+            try {
+                System.out.println("cell area after: " + seen[0].getArea());
+            } catch (IllegalStateException e) {
+                System.out.println("refused: " + e);
+            }
         }
 
         static void probeDisposedByItsListener() {

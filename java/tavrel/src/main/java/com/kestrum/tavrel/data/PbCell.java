@@ -4,15 +4,19 @@ import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
 
 /**
  * One cell of a mesh: its nodes, measures, point location and interpolation in parametric
  * coordinates.
  *
- * <p>A cell obtained from a mesh belongs to the mesh: it stops working ({@link
- * IllegalStateException}) once the mesh's geometry has been changed through its Java object or
- * that object has been disposed. A cell made by a subclass's constructor from a mesh alone is
- * not attached to any cell of it: it has no nodes.
+ * <p>A cell obtained from a mesh, or handed to a probe's listener, belongs to the mesh, which
+ * frees it when its geometry changes: the cell then stops working ({@link
+ * IllegalStateException}). A cell obtained from a mesh's Java object stops working too once that
+ * object has been disposed. A cell whose mesh is not known (a listener's cell when the probe's
+ * mesh was not set through its Java object) stops working at the first change of geometry of any
+ * mesh. A cell made by a subclass's constructor belongs to its Java object and always works;
+ * made from a mesh alone, it is not attached to any cell of it: it has no nodes.
  *
  * <p>Interpolation reads per-node data of the whole mesh: the values or vectors arrays are
  * indexed by the cell's node indices, so they must be longer than the largest of them.
@@ -21,32 +25,61 @@ public class PbCell extends NativeObject {
     static {
         JarInitializer.init();
         ManagedObjects.registerWrapper(PbCell.class.getName(), address -> new PbCell(address, null));
+        JavaViews.registerViewIn(PbCell.class, PbCell::viewIn);
     }
 
+    /** The Java object of the mesh the cell was obtained from, or null. */
     private final PbMesh owner;
-    private final int generation;
+    /** The changes of the cell's mesh; null for a cell of an unknown mesh or a cell of its own. */
+    private final GeometryChanges geometry;
+    /** Whether the cell belongs to a mesh, which frees it when its geometry changes. */
+    private final boolean ofMesh;
+    /** The count of geometry changes (of the mesh, else of all meshes) when the cell was obtained. */
+    private final long changes;
     private int[] nodeIndices;
 
     /** A view of a cell owned by a mesh (owner null: the mesh is not known). */
     PbCell(long handle, PbMesh owner) {
-        super(handle);
-        this.owner = owner;
-        this.generation = owner == null ? 0 : owner.generation;
+        this(handle, owner, true);
     }
 
     /** A cell made by a subclass's constructor, registered as the peer of its native cell. */
     protected PbCell(long handle) {
-        this(handle, null);
+        this(handle, null, false);
         registerAsPeer(false);
+    }
+
+    private PbCell(long handle, PbMesh owner, boolean ofMesh) {
+        super(handle);
+        this.owner = owner;
+        this.geometry = owner == null ? null : owner.geometry;
+        this.ofMesh = ofMesh;
+        this.changes = geometry != null ? geometry.count() : GeometryChanges.ofAllMeshes();
+    }
+
+    /**
+     * The view of a cell that a node found in its mesh (a probe's cell): the probe's mesh owns it
+     * when the probe's Java object knows it.
+     */
+    private static PbCell viewIn(long address, NativeObject node) {
+        PbMesh mesh = node instanceof PoMeshProbePoint ? ((PoMeshProbePoint) node).meshObject() : null;
+        return new PbCell(address, mesh);
     }
 
     /** The native handle of a cell that is still valid. */
     final long cellHandle() {
         long h = handle();
-        if (owner != null && (owner.isDisposed() || owner.generation != generation)) {
+        if (ofMesh && !current()) {
             throw new IllegalStateException("the cell's mesh has changed since the cell was obtained");
         }
         return h;
+    }
+
+    private boolean current() {
+        if (owner != null) {
+            return !owner.isDisposed() && geometry.count() == changes;
+        }
+        return GeometryChanges.ofAllMeshes() == changes;
     }
 
     /** The components of parametric coordinates (a new array). */

@@ -18,8 +18,9 @@ import java.nio.FloatBuffer;
  * #getDirectVecsSet}, {@link #getCoordinates}) alias the mesh's own memory, and the cells it
  * returns belong to it. A buffer must not be used once its set has been removed or replaced or
  * the geometry has changed; a cell refuses to work ({@link IllegalStateException}) once the
- * geometry has been changed through this object. Native meshes are never freed: disposing of
- * the Java object only forgets the handle.
+ * geometry has been changed (through any Java object of the same native mesh), since the mesh
+ * then frees its cells. Native meshes are never freed: disposing of the Java object only
+ * forgets the handle.
  */
 public abstract class PbMesh extends NativeObject {
     static {
@@ -60,18 +61,22 @@ public abstract class PbMesh extends NativeObject {
         private static native int getPERNODENative();
     }
 
-    /** Changes each time the geometry is replaced through this object; cells compare it. */
-    int generation;
+    /** The changes of the native mesh's geometry, shared with every Java object of that mesh. */
+    final GeometryChanges geometry;
 
     /** Wraps a native mesh (made by a subclass's constructor, or owned elsewhere). */
     protected PbMesh(long handle) {
         super(handle);
         registerAsPeer(false);
+        geometry = GeometryChanges.of(handle);
     }
 
-    /** Records a change of geometry: the cells handed out so far stop working. */
+    /**
+     * Records a change of geometry, after any native call that may have freed the mesh's cells:
+     * the cells handed out so far stop working.
+     */
     final void geometryChanged() {
-        generation++;
+        geometry.changed();
     }
 
     // --- counts -------------------------------------------------------------------------

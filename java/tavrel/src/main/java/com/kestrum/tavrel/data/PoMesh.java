@@ -148,6 +148,11 @@ public abstract class PoMesh extends PoDessvane {
         return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);
     }
 
+    /** The Java object given to {@link #setMesh}, or null. */
+    final PbMesh meshObject() {
+        return mesh;
+    }
+
     /** The mesh (or null) as a mesh of the class a representation needs. */
     static <M extends PbMesh> M meshOfClass(PbMesh mesh, Class<M> type) {
         if (mesh != null && !type.isInstance(mesh)) {

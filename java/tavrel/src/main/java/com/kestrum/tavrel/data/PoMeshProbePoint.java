@@ -21,7 +21,9 @@ import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
  * its events are then dropped.
  *
  * <p>The Java object registers itself as the peer of its native probe, so that callbacks receive
- * it as their probe.
+ * it as their probe. A listener may dispose the probe during an event: the native probe lives
+ * until the Java call that made it probe (an {@code apply}, or {@code GLRender} called directly)
+ * returns, and the later events of that call hand the listener a new view of it.
  */
 public class PoMeshProbePoint extends PoMesh {
     static {

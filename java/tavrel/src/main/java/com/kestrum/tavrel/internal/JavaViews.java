@@ -2,6 +2,8 @@ package com.kestrum.tavrel.internal;
 
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import java.util.Map;
+import java.util.concurrent.ConcurrentHashMap;
 
 /**
  * Internal to the product: finds the Java object for a native address that a native method or
@@ -12,7 +14,41 @@ import com.kestrum.corvel.misc.NativeObject;
  * mesh changes, and the next event makes a new one.
  */
 public final class JavaViews {
+    private static final Map<Class<?>, ViewFactory<?>> VIEWS_IN = new ConcurrentHashMap<>();
+
     private JavaViews() {}
+
+    /** Makes the view of a native object found by or for another object (its context). */
+    @FunctionalInterface
+    public interface ViewFactory<T> {
+        /** A view of the native object at the address (non-zero); the context may be null. */
+        T make(long address, NativeObject context);
+    }
+
+    /**
+     * Registers the factory of the views of a class that depend on the Java object they were
+     * found for, e.g. a cell handed to a probe's listener, which belongs to the probe's mesh.
+     */
+    public static <T extends NativeObject> void registerViewIn(Class<T> type, ViewFactory<? extends T> factory) {
+        VIEWS_IN.put(type, factory);
+    }
+
+    /**
+     * As {@link #find} without a remembered object, except that a new view is made by the factory
+     * the class registered with {@link #registerViewIn}, if any, which is given the context.
+     */
+    public static <T extends NativeObject> T viewIn(Class<T> type, long address, NativeObject context) {
+        if (address == 0) {
+            return null;
+        }
+        ensureInitialized(type);
+        Object peer = ManagedObjects.peerOf(address);
+        if (type.isInstance(peer) && !((NativeObject) peer).isDisposed()) {
+            return type.cast(peer);
+        }
+        ViewFactory<?> factory = VIEWS_IN.get(type);
+        return factory == null ? find(type, address, null) : type.cast(factory.make(address, context));
+    }
 
     /** The Java object of the class for the native object at the address, or null for 0. */
     public static <T extends NativeObject> T find(Class<T> type, long address, T remembered) {

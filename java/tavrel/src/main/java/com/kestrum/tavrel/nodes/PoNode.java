@@ -34,6 +34,10 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * CustomPoNode.&lt;operation&gt;." with the exception as its cause; the rest of that traversal
  * no longer calls Java.
  *
+ * <p>An override may dispose its node, or the action, while the toolkit is using them: the Java
+ * object is disposed at once, and the native one is let go when the Java call that started the
+ * traversal ({@code apply}, or a node operation called directly) returns.
+ *
  * <p>The toolkit may call a node as long as it references it, so a node stays reachable (it is
  * not collected) until it is disposed: dispose nodes you no longer need, e.g. with
  * try-with-resources. {@link #getRenderEngineMode()} is asked once, while the object is being

@@ -33,7 +33,7 @@ public class PoProbeCB extends CallbackObject<PoProbeCB.Listener> {
          *
          * @param probe the probe that raised the event (its registered Java object, or a new view)
          * @param cell the Java view of the cell that contains the probe, or null when the probe is
-         *     outside the mesh or no view of the cell is available
+         *     outside the mesh; it stops working once the mesh's geometry changes
          * @param cellHandle the native handle of that cell, 0 when the probe is outside the mesh
          * @param userData the user data given with the registration
          */
@@ -46,12 +46,11 @@ public class PoProbeCB extends CallbackObject<PoProbeCB.Listener> {
 
     /** Called by the native bridge with the addresses of the probe and of the cell (or 0). */
     private void invokeNativ(long probe, long cell) {
-        getListener().invoke(JavaViews.find(PoMeshProbePoint.class, probe, null), cellView(cell), cell, getUserData());
-    }
-
-    /** The Java view of a cell: a view made by the factory registered for PbCell, or null. */
-    private static PbCell cellView(long cell) {
-        return JavaViews.find(PbCell.class, cell, null);
+        PoMeshProbePoint probeObject = JavaViews.find(PoMeshProbePoint.class, probe, null);
+        // A view of the cell that knows the probe's mesh, so that it stops working once the mesh
+        // frees its cells.
+        PbCell cellView = JavaViews.viewIn(PbCell.class, cell, probeObject);
+        getListener().invoke(probeObject, cellView, cell, getUserData());
     }
 
     private static native long constructor();
