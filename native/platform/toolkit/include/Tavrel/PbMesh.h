@@ -107,6 +107,9 @@ class PbMesh {
   // indices outside the mesh are left out; a cell without nodes gets 0), and 0
   // for every cell when the set is missing or has no data.
   std::vector<float> cellValues(int set) const;
+  // Counts the changes of geometry: the cells handed out before the last change
+  // are freed.
+  unsigned long getGeometryVersion() const { return geometryVersion; }
 
  protected:
   explicit PbMesh(int isDataDuplicated);
@@ -155,4 +158,5 @@ class PbMesh {
   std::map<int, Set<SbVec3f>> vecs;
   std::map<int, Set<SbString>> strings;
   mutable std::vector<std::unique_ptr<PbCell>> cells;
+  unsigned long geometryVersion = 0;
 };

@@ -3,12 +3,16 @@ package com.kestrum.tavrel.misuse;
 import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.kestrum.corvel.actions.SoCallbackAction;
 import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.data.PbCell;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.data.PbParalCartesianGrid2D;
 import com.kestrum.tavrel.data.PoMeshFilled;
 import com.kestrum.tavrel.data.PoMeshProbePoint;
+import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
+import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
 import com.kestrum.tavrel.nodes.PoCellFilter;
 import com.kestrum.tavrel.nodes.PoNode;
 import com.kestrum.tavrel.testkit.ChildJvm;
@@ -37,7 +41,15 @@ class MisuseRegressionTest {
          */
         SHORT_COORDINATES_ON_A_VIEW("view of PbParalCartesianGrid2D: refused x\\Rrefused y\\Raccepted\\R"),
         /** A field of a node used after the node's Java object, its only holder, was disposed. */
-        FIELD_AFTER_ITS_NODE("field position: 1 2 3, node references: 1 then 0\\R");
+        FIELD_AFTER_ITS_NODE("field position: 1 2 3, node references: 1 then 0\\R"),
+        /**
+         * The enter-mesh listener changes the probe's mesh's geometry (which frees its cells); the
+         * events that follow in the same move carry no cell rather than the freed one.
+         */
+        PROBE_MESH_CHANGED_BY_AN_EARLIER_EVENT("enter: cell 0 .*\\Rchange: no cell\\Rmotion: no cell\\R"),
+        /** The enter-mesh listener gives the probe another mesh: the events that follow carry no cell. */
+        PROBE_MESH_REPLACED_BY_AN_EARLIER_EVENT("enter: cell 0 .*\\Rchange: no cell\\Rmotion: no cell\\R"
+                + "cell kept from the enter event: refused\\R");
 
         final Pattern expected;
 
@@ -63,6 +75,12 @@ class MisuseRegressionTest {
                 break;
             case FIELD_AFTER_ITS_NODE:
                 fieldAfterItsNode();
+                break;
+            case PROBE_MESH_CHANGED_BY_AN_EARLIER_EVENT:
+                probeMeshChangedByAnEarlierEvent(false);
+                break;
+            case PROBE_MESH_REPLACED_BY_AN_EARLIER_EVENT:
+                probeMeshChangedByAnEarlierEvent(true);
                 break;
         }
         System.out.println(DONE);
@@ -100,12 +118,50 @@ class MisuseRegressionTest {
         Nodes.unref(node);
     }
 
+    /**
+     * A probe enters a grid; its enter-mesh listener changes the grid's geometry, or gives the
+     * probe another mesh and then changes the grid's geometry; the change-cell and motion
+     * listeners of the same move use the cell they get.
+     */
+    private static void probeMeshChangedByAnEarlierEvent(boolean replaceMesh) {
+        // Large enough that freed cells go back to the system and a read of them faults.
+        PbRegularCartesianGrid2D grid = new PbRegularCartesianGrid2D(400, 400, 0, 0, 1, 1, false);
+        PbRegularCartesianGrid2D other = new PbRegularCartesianGrid2D(2, 2, 5, 5, 6, 6, false);
+        for (int i = 0; i < 399 * 399; i += 97) {
+            grid.getCell(i);
+        }
+        PbCell[] kept = new PbCell[1];
+        try (PoMeshProbePoint probe = new PoMeshProbePoint(); SoCallbackAction action = new SoCallbackAction()) {
+            probe.setMesh(grid);
+            probe.setEnterMeshCallback(new PoProbeCB((p, cell, handle, data) -> {
+                System.out.println("enter: " + describe(cell));
+                kept[0] = cell;
+                if (replaceMesh) {
+                    p.setMesh(other);
+                }
+                grid.setGeometry(400, 400, 0, 0, 2, 2);
+            }), null);
+            PoProbeCB.Listener later = (p, cell, handle, data) -> System.out.println(data + ": " + describe(cell));
+            probe.setChangeCellCallback(new PoProbeCB(later), "change");
+            probe.setMotionCallback(new PoProbeCB(later), "motion");
+            probe.setPosition(0.001f, 0.001f, 0);
+            action.apply(probe);
+        }
+        if (replaceMesh) {
+            System.out.println("cell kept from the enter event: " + attempt("", () -> kept[0].getVolume()));
+        }
+    }
+
+    private static String describe(PbCell cell) {
+        return cell == null ? "no cell" : "cell " + cell.getIndex() + " of area " + cell.getArea();
+    }
+
     private static String attempt(String what, Runnable call) {
         try {
             call.run();
             return "accepted";
-        } catch (IllegalArgumentException e) {
-            return "refused " + what;
+        } catch (IllegalArgumentException | IllegalStateException e) {
+            return ("refused " + what).trim();
         }
     }
 
