@@ -59,7 +59,9 @@ import java.util.concurrent.FutureTask;
  * <p>The test library's natives (raising probe and rebuild events, calling a node's virtual
  * operations) act as the toolkit does, so they get what the toolkit would give: live objects of
  * the right class, held by a reference for the duration of the call (as a traversal holds the
- * nodes it visits), and cells that are valid when the call starts.
+ * nodes it visits), and a cell of the probe's own mesh, valid when the call starts, for a single
+ * event only (the test library raises a list of events without the checks the probe makes
+ * between the events of a move).
  */
 public final class Misuse {
     /** The run of this process; hooks of listeners and nodes reach it. */
@@ -93,7 +95,6 @@ public final class Misuse {
     private final Map<Object, java.lang.ref.WeakReference<Object>> parents = new java.util.WeakHashMap<>();
     /** With -Dmisuse.stats=true: outcomes per method, printed at the end (to tune the arguments). */
     private static final boolean STATS = Boolean.getBoolean("misuse.stats");
-    private static final boolean TMP_SKIP_CELL_VIEWS = Boolean.getBoolean("misuse.tmpSkipCellViews");
     private final Map<String, Integer> detail = new TreeMap<>();
     private final String[] operations;
     private int calls;
@@ -461,13 +462,15 @@ public final class Misuse {
                 if (probe == null) {
                     return;
                 }
-                long cell = validCell();
+                long cell = cellOfProbeMesh(probe);
                 long h = probe.getNativeResourceHandleInternal();
-                int[] events = new int[1 + rnd.nextInt(4)];
+                // A listener may free the cell: only a single event carries it (the probe's own
+                // moves check the cell before each event).
+                int[] events = new int[rnd.nextBoolean() ? 1 : 1 + rnd.nextInt(4)];
                 long[] cells = new long[events.length];
                 for (int i = 0; i < events.length; i++) {
                     events[i] = rnd.nextInt(4);
-                    cells[i] = rnd.nextInt(4) == 0 ? 0 : cell;
+                    cells[i] = events.length == 1 ? cell : 0;
                 }
                 int kind = rnd.nextInt(3);
                 String what = kind == 0 ? "Probes.raise" : kind == 1 ? "Probes.raiseOnNativeThread" : "Probes.moveTo";
@@ -536,21 +539,16 @@ public final class Misuse {
         }
     }
 
-    /** The address of a cell valid now: just obtained from a mesh, or made by a constructor. */
-    private long validCell() {
+    /**
+     * The address of a cell of the probe's mesh, just obtained (0 for none), as the probe itself
+     * would find it.
+     */
+    private long cellOfProbeMesh(PoMeshProbePoint probe) {
         if (rnd.nextInt(3) == 0) {
             return 0;
         }
-        if (rnd.nextBoolean()) {
-            for (Object o : pool) {
-                if (o instanceof PbCell && o.getClass() != PbCell.class && !((PbCell) o).isDisposed()
-                        && rnd.nextInt(3) == 0) {
-                    return ((PbCell) o).getNativeResourceHandleInternal();
-                }
-            }
-        }
-        PbMesh mesh = pickLive(PbMesh.class);
-        if (mesh == null) {
+        PbMesh mesh = (PbMesh) call(probe, "getMesh", probe::getMesh);
+        if (mesh == null || mesh.isDisposed()) {
             return 0;
         }
         int index = rnd.nextInt(4);
@@ -609,9 +607,6 @@ public final class Misuse {
             related.add(self);
         }
         for (Object a : args) {
-            if (TMP_SKIP_CELL_VIEWS && a instanceof PbCell && listener) {
-                continue;
-            }
             if (a instanceof NativeObject) {
                 related.add(a);
                 // Nodes, meshes and cells handed to a callback may be kept for later; the
