@@ -21,7 +21,7 @@ import com.kestrum.tavrel.nodes.PoCellFilter;
  * A Java cell filter whose {@code acceptCell} and every other forwarded operation misbehave at
  * the misuse run's choice.
  *
- * Each override asks the misuse run ({@link Misuse#enter}, {@link Misuse#value}) what to do:
+ * <p>Each override asks the misuse run ({@link Misuse#enter}, {@link Misuse#value}) what to do:
  * make further calls (disposing this node, the action, ...), then call {@code super}, return a
  * hostile value (null, a disposed object) or throw.
  */

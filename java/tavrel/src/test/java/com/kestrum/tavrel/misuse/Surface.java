@@ -85,6 +85,9 @@ final class Surface {
      *   <li>Counts that fit in a Java array but not in memory (hundreds of millions of nodes):
      *       an allocation failure inside the toolkit ends the process, as documented. Counts
      *       are small, or beyond what any Java array could hold ({@link Integer#MAX_VALUE}).
+     *   <li>A node added under itself, directly or through other groups: the toolkit's scene
+     *       graphs are acyclic, and traversing a cycle recurses without end. The run keeps the
+     *       graphs it builds acyclic.
      *   <li>The test library's natives with anything but live objects of the right class: they
      *       act as the toolkit does and take raw addresses (see {@link Misuse}).
      * </ul>
