@@ -16,7 +16,8 @@ import java.util.WeakHashMap;
  *
  * <p>A line is {@code <number> <thread> <indent><receiver>.<method>(<arguments>)}. Objects are
  * named {@code Class@n}, n being the number of the line whose call made or returned them (a
- * disposed object is marked with {@code !}); arrays show their length and first elements.
+ * disposed object is marked with {@code !}); arrays show their length and first elements; native
+ * addresses are in hexadecimal.
  */
 final class CallLog implements AutoCloseable {
     private static final int SHOWN_ELEMENTS = 6;
@@ -76,8 +77,13 @@ final class CallLog implements AutoCloseable {
             }
             return b.append(length > SHOWN_ELEMENTS ? ", ...}" : "}").toString();
         }
+        if (value instanceof Long) {
+            // Native addresses (cell and node handles given to listeners).
+            long address = (Long) value;
+            return address == 0 ? "0" : "0x" + Long.toHexString(address);
+        }
         if (value instanceof Float || value instanceof Integer || value instanceof Boolean || value instanceof Short
-                || value instanceof Long || value instanceof Enum) {
+                || value instanceof Enum) {
             return String.valueOf(value);
         }
         Integer id = ids.get(value);
