@@ -6,6 +6,7 @@
 #                newest JDK of version 21 or newer on the machine, if there is one
 #   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
 #   make bench   runs the JMH benchmarks
+#   make fuzz    hostile calls to the public API in child JVMs (CALLS=200000 SEED=...)
 
 BUILD_DIR      ?= native/build
 ASAN_BUILD_DIR ?= native/build-asan
@@ -25,7 +26,7 @@ SANITIZER_ENV := ASAN_OPTIONS=handle_segv=0:allow_user_segv_handler=1:detect_lea
 NEWEST_JDK ?= $(shell scripts/newest-jdk 21)
 
 .PHONY: all native native-asan java demo test native-test java-test native-test-asan java-test-asan \
-	java-test-newest-jdk soak bench clean
+	java-test-newest-jdk soak bench fuzz clean
 # The test runs share Maven's output folders: one at a time.
 .NOTPARALLEL:
 
@@ -85,6 +86,23 @@ bench: native
 	$(MVN) -q -Pbench package -DskipTests
 	java $(BENCH_OPTS) -cp "java/benchmarks/target/tavrel-benchmarks.jar:java/benchmarks/target/lib/*" \
 		com.kestrum.tavrel.benchmarks.RunBenchmarks
+
+# Random misuse of the public API in child JVMs, one after the other (README.md, "Misuse runs"):
+# CALLS calls in all, CALLS_PER_JVM per child JVM, seeds from SEED (random when empty). A failed
+# child is reported with its seed, its last calls and the JVM's error file. FUZZ_LIBS and
+# FUZZ_ENV run it against other native libraries, e.g. a sanitizer build with its runtime
+# preloaded.
+CALLS         ?= 200000
+CALLS_PER_JVM ?= 25000
+SEED          ?=
+FUZZ_LIBS     ?= $(abspath $(NATIVE_LIBS))
+FUZZ_ENV      ?=
+FUZZ_CP       := $(abspath java/tavrel/target/test-classes):$(abspath java/tavrel/target/classes):$(abspath java/corvel/target/classes)
+fuzz: native
+	$(MVN) -q -pl tavrel -am test-compile
+	$(FUZZ_ENV) java -cp "$(FUZZ_CP)" -Dkestrum.native.dir=$(FUZZ_LIBS) \
+		-Dtavrel.testkit.library=$(FUZZ_LIBS)/libtavrel_testkit.so \
+		com.kestrum.tavrel.misuse.MisuseRuns $(CALLS) "$(SEED)" $(CALLS_PER_JVM)
 
 clean:
 	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR)

@@ -5,6 +5,7 @@
 
 #include <Corvel/SoAction.h>
 #include <Corvel/SoField.h>
+#include <Corvel/SoFieldContainer.h>
 #include <Corvel/SoInput.h>
 #include <Corvel/SoNode.h>
 #include <CorvelJNI/StringHelper.h>
@@ -95,6 +96,19 @@ JNIEXPORT jboolean JNICALL Java_com_kestrum_corvel_fields_SoField_isConnectedNat
 
 JNIEXPORT void JNICALL Java_com_kestrum_corvel_fields_SoField_deleteNative(JNIEnv*, jclass, jlong handle) {
   delete from<SoField>(handle);
+}
+
+// A reference on the container of the field (a node), for a Java view of the
+// field; its address, 0 for a field that belongs to no container.
+JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_fields_SoField_refContainerNative(JNIEnv*, jclass, jlong handle) {
+  SoFieldContainer* container = from<SoField>(handle)->getContainer();
+  if (container != nullptr) container->ref();
+  return handleOf(container);
+}
+
+JNIEXPORT void JNICALL Java_com_kestrum_corvel_fields_SoField_unrefContainerNative(JNIEnv*, jclass,
+                                                                                 jlong container) {
+  from<SoFieldContainer>(container)->unref();
 }
 
 JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_SoInput_newNative(JNIEnv* env, jclass, jstring text) {

@@ -118,6 +118,9 @@ class PbMesh {
   int numberOfCells() const { return numCells; }
   // Whether the other mesh is the same (see above).
   bool sameMeshAs(const PbMesh& other) const;
+  // Counts the changes of geometry: the cells handed out before the last change
+  // are freed.
+  unsigned long getGeometryVersion() const { return geometryVersion; }
 
  protected:
   explicit PbMesh(int isDataDuplicated);
@@ -166,4 +169,5 @@ class PbMesh {
   std::map<int, Set<SbVec3f>> vecs;
   std::map<int, Set<SbString>> strings;
   mutable std::vector<std::unique_ptr<PbCell>> cells;
+  unsigned long geometryVersion = 0;
 };

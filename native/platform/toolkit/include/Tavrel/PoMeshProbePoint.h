@@ -17,6 +17,10 @@
 //   4. motion       always, last.
 // The probe starts outside the mesh, at the origin. Cells are told apart by
 // their index, since a mesh may hand out one cell object for every search.
+// A callback may change the mesh's geometry (which frees its cells) or give
+// the probe another mesh: the events that follow in the same move then carry
+// no cell (null) rather than one that is freed or belongs to another mesh, and
+// getCurrentCell() gives null until the probe next moves.
 //
 // raiseEvent(event, cell) raises one event at once with the given cell, as the
 // probe does during a move; it changes nothing in the probe's state.
@@ -79,6 +83,8 @@ class PoMeshProbePoint : public PoMesh {
  private:
   // Probes at the field's point when it is not the last point probed.
   void probeFieldPosition();
+  // The current cell while it is still a cell of the probe's mesh, else null.
+  const PbCell* validCell();
 
   Callback callbacks[4];
   SoField* positionField;
@@ -86,4 +92,7 @@ class PoMeshProbePoint : public PoMesh {
   SbVec3f position;
   const PbCell* currentCell = nullptr;
   long currentCellIndex = -1;
+  // The mesh the current cell belongs to, and its geometry version then.
+  const PbMesh* cellMesh = nullptr;
+  unsigned long cellMeshVersion = 0;
 };

@@ -153,6 +153,7 @@ SbBool SoFieldContainer::readInstance(SoInput* in, unsigned short flags) {
 
 SoField* SoFieldContainer::addOwnField(const SbName& name) {
   ownFields.push_back(new SoField(name));
+  ownFields.back()->setContainer(this);
   return ownFields.back();
 }
 

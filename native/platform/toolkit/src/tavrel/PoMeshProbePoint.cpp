@@ -80,10 +80,22 @@ void PoMeshProbePoint::moveTo(const SbVec3f& newPosition, const PbCell* cell, lo
   position = newPosition;
   currentCell = cellIndex >= 0 ? cell : nullptr;
   currentCellIndex = cellIndex >= 0 ? cellIndex : -1;
+  cellMesh = currentCell != nullptr ? currentCell->getMesh() : nullptr;
+  cellMeshVersion = cellMesh != nullptr ? cellMesh->getGeometryVersion() : 0;
   const bool inside = isInsideMesh();
 
+  // Each event may change the mesh or its geometry: the cell is checked before each.
   if (wasInside && !inside) raiseEvent(LEAVE_MESH, nullptr);
-  if (!wasInside && inside) raiseEvent(ENTER_MESH, currentCell);
-  if (inside && currentCellIndex != previousIndex) raiseEvent(CHANGE_CELL, currentCell);
-  raiseEvent(MOTION, currentCell);
+  if (!wasInside && inside) raiseEvent(ENTER_MESH, validCell());
+  if (inside && currentCellIndex != previousIndex) raiseEvent(CHANGE_CELL, validCell());
+  raiseEvent(MOTION, validCell());
+}
+
+const PbCell* PoMeshProbePoint::validCell() {
+  if (currentCell != nullptr &&
+      (cellMesh != getMesh() || cellMesh == nullptr || cellMesh->getGeometryVersion() != cellMeshVersion)) {
+    currentCell = nullptr;
+    cellMesh = nullptr;
+  }
+  return currentCell;
 }

@@ -65,6 +65,7 @@ void PbMesh::geometryChanged(int nodes, int cellCount) {
   numNodes = std::max(nodes, 0);
   numCells = std::max(cellCount, 0);
   cells.clear();
+  ++geometryVersion;
   for (auto& entry : values)
     if (entry.second.hasData && (entry.second.binding == PER_CELL ? cellsChanged : nodesChanged))
       entry.second.data.resize(length(entry.second.binding), 0.0f);

@@ -5,9 +5,11 @@ import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
 
 /**
- * A field of a node. A view of a native field that belongs to its node, or, for a field made
- * in Java (a subclass's constructor), the owner of its native field, which the binding core
- * frees when the field is disposed or collected.
+ * A field of a node. Either a view of a native field that belongs to its node: the view holds a
+ * reference on that node, so the field stays valid while the view lives, given back when the
+ * view is disposed or collected. Or, for a field made in Java (a subclass's constructor), the
+ * owner of its native field, which the binding core frees when the field is disposed or
+ * collected.
  */
 public class SoField extends NativeObject {
     static {
@@ -16,7 +18,11 @@ public class SoField extends NativeObject {
     }
 
     protected SoField(long handle) {
-        super(handle);
+        this(handle, refContainerNative(handle));
+    }
+
+    private SoField(long handle, long container) {
+        super(handle, container == 0 ? null : releaseWith(SoField::unrefContainerNative, container));
     }
 
     /**
@@ -56,6 +62,11 @@ public class SoField extends NativeObject {
         }
         setValueNative(handle(), value);
     }
+
+    /** Takes a reference on the field's container; its address, 0 when the field has none. */
+    private static native long refContainerNative(long handle);
+
+    private static native void unrefContainerNative(long container);
 
     private static native String getNameNative(long handle);
 

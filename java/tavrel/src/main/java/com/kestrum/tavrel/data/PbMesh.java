@@ -267,20 +267,33 @@ public abstract class PbMesh extends NativeObject {
     /**
      * Replaces the node coordinates of a mesh that keeps coordinate arrays (a null array keeps
      * that coordinate); other meshes ignore the call. Each array must have as many values as
-     * {@link #getCoordinates} reports for it (the node count unless the class says otherwise).
+     * {@link #getCoordinates} reports for it, or the node count when it reports none.
      */
     public void setCoordinates(float[] x, float[] y, float[] z) {
         long h = handle();
-        Checks.optional(x, coordinatesLength(h, 0), "x");
-        Checks.optional(y, coordinatesLength(h, 1), "y");
-        Checks.optional(z, coordinatesLength(h, 2), "z");
+        long[] lengths = coordinatesLengths(h);
+        Checks.optional(x, lengths[0], "x");
+        Checks.optional(y, lengths[1], "y");
+        Checks.optional(z, lengths[2], "z");
         setCoordinatesImpl(h, x, y, z);
         geometryChanged();
     }
 
-    /** Number of values of coordinate array axis (0 x, 1 y, 2 z) that setCoordinates reads. */
-    long coordinatesLength(long handle, int axis) {
-        return getNumNodesImpl(handle);
+    /**
+     * Number of values of each coordinate array (x, y, z) that setCoordinates reads: the length
+     * of the mesh's own array, or the node count where it has none (an elevation array, for
+     * instance, is made of one value per node). Asked of the native mesh, so that a view of a
+     * mesh made elsewhere reads as many as the mesh's own class does.
+     */
+    private long[] coordinatesLengths(long handle) {
+        Object[][] arrays = {new Object[1], new Object[1], new Object[1]};
+        getCoordinatesImpl(handle, arrays[0], arrays[1], arrays[2]);
+        long[] lengths = new long[3];
+        for (int axis = 0; axis < 3; axis++) {
+            ByteBuffer array = (ByteBuffer) arrays[axis][0];
+            lengths[axis] = array == null ? getNumNodesImpl(handle) : array.capacity() / Float.BYTES;
+        }
+        return lengths;
     }
 
     /**

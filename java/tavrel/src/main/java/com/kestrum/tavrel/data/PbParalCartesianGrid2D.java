@@ -46,12 +46,6 @@ public class PbParalCartesianGrid2D extends PbGrid2D {
                 : ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
     }
 
-    @Override
-    long coordinatesLength(long handle, int axis) {
-        int[] dim = getDim();
-        return axis < 2 ? dim[axis] : (long) dim[0] * dim[1];
-    }
-
     private static native long ctorImpl(boolean isDataDuplicated);
 
     private static native long ctorImpl1(long other);

@@ -41,11 +41,6 @@ public class PbParalCartesianGrid3D extends PbGrid3D {
         return ctorImpl2(numX, numY, numZ, x, y, z, isDataDuplicated);
     }
 
-    @Override
-    long coordinatesLength(long handle, int axis) {
-        return getDim()[axis];
-    }
-
     private static native long ctorImpl(boolean isDataDuplicated);
 
     private static native long ctorImpl1(long other);

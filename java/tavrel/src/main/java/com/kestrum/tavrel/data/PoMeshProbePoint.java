@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
@@ -66,7 +67,12 @@ public class PoMeshProbePoint extends PoMesh {
      * next traverses it, raising its events then.
      */
     public void setPosition(float x, float y, float z) {
-        getField("position").setValue(x + " " + y + " " + z);
+        SoField position = getField("position");
+        try {
+            position.setValue(x + " " + y + " " + z);
+        } finally {
+            position.dispose();  // gives back the view's reference on this node at once
+        }
     }
 
     public void setMotionCallback(PoProbeCB callback, Object userData) {

@@ -52,13 +52,14 @@ final class CustomTypes {
                         natives.initCustomClass(node, handle, true, r.typeName);
                         registerFactory(node.getClass(), r.typeName);
                         r.created = true;
-                        natives.initCustomRenderEngineMode(node, handle);
+                        node.whileHeld(() -> natives.initCustomRenderEngineMode(node, handle));
                         return;
                     }
                 }
             }
             natives.initCustomClass(node, handle, false, r.typeName);
-            natives.initCustomRenderEngineMode(node, handle);
+            // Asks the class's getRenderEngineMode, which may dispose the node.
+            node.whileHeld(() -> natives.initCustomRenderEngineMode(node, handle));
         } catch (RuntimeException | Error e) {
             node.dispose();
             throw e;

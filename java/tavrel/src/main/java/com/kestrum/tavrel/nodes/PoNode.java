@@ -82,6 +82,20 @@ public abstract class PoNode extends SoNode {
         CustomTypes.bind(this, handle, typeName, natives);
     }
 
+    /**
+     * Makes a native call that may call this node's Java overrides, holding the node meanwhile:
+     * an override that disposes the node (even while it is being made) lets go of the native
+     * node only when the call has returned.
+     */
+    final void whileHeld(Runnable call) {
+        enter();
+        try {
+            call.run();
+        } finally {
+            leave();
+        }
+    }
+
     /** The name of the toolkit type of PoNode (the base of every Java node's type). */
     public static String getClassTypeName() {
         return getClassTypeId();

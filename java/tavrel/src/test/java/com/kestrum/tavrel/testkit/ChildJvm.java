@@ -66,7 +66,10 @@ public final class ChildJvm {
         }
     }
 
-    /** Runs {@code mainClass.main(args)} in a child JVM; waits at most {@code timeoutSeconds}. */
+    /**
+     * Runs {@code mainClass.main(args)} in a child JVM; waits at most {@code timeoutSeconds}, then
+     * asks the child for a thread dump (it goes to the child's output) and kills it.
+     */
     public static Result run(Class<?> mainClass, List<String> jvmOptions, long timeoutSeconds, String... args)
             throws IOException, InterruptedException {
         Path workDir = Files.createTempDirectory("tavrel-child-");
@@ -100,11 +103,22 @@ public final class ChildJvm {
                 .start();
         boolean finished = process.waitFor(timeoutSeconds, TimeUnit.SECONDS);
         if (!finished) {
+            dumpThreads(process);
             process.destroyForcibly();
             process.waitFor();
         }
         String output = Files.readString(out, StandardCharsets.UTF_8);
         return new Result(finished ? process.exitValue() : -1, output, workDir, !finished);
+    }
+
+    /** Asks a hung child for a thread dump (SIGQUIT), which it prints to its output. */
+    private static void dumpThreads(Process process) throws InterruptedException {
+        try {
+            new ProcessBuilder("kill", "-QUIT", Long.toString(process.pid())).start().waitFor();
+            process.waitFor(2, TimeUnit.SECONDS);
+        } catch (IOException e) {
+            // No thread dump then; the timeout is reported all the same.
+        }
     }
 
     /** As {@link #run(Class, List, long, String...)} with no extra options and a two-minute limit. */
