@@ -165,7 +165,13 @@ void PoBase::getBoundingBox(SoGetBoundingBoxAction* action) {
 
 // --- PoRectangle ---------------------------------------------------------------------
 
-PoRectangle::PoRectangle() : corner1(0, 0), corner2(1, 1) { CallJournal::record("PoRectangle::PoRectangle"); }
+PoRectangle::PoRectangle() { CallJournal::record("PoRectangle::PoRectangle"); }
+
+void PoRectangle::init(const SbVec2f& c1, const SbVec2f& c2) {
+  CallJournal::record("PoRectangle::init", c1, c2);
+  corner1 = c1;
+  corner2 = c2;
+}
 
 PoRectangle::~PoRectangle() = default;
 
