@@ -4,6 +4,13 @@
 // (see SoState.h). Outside apply an action has no state.
 #pragma once
 
+#include <Corvel/SbColor.h>
+#include <Corvel/SbVec.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
 #include <Corvel/SoSubClass.h>
 #include <Corvel/SbBox.h>
 #include <string>
@@ -66,7 +73,28 @@ class SoAction {
   int nodesTraversed = 0;
 };
 
-class SoGLRenderAction : public SoAction { SO_ACTION_HEADER(SoGLRenderAction) };
+// Renders the scene. This toolkit draws nothing on screen; it keeps what the
+// graph nodes it reaches draw (lines, filled polygons and texts, in scene
+// coordinates, in the order drawn, over every apply) as a picture, which it
+// writes as an SVG document: the x and y of the points, y pointing up, fitted
+// with a margin into a viewBox; polygons filled with their colour, lines
+// stroked black, texts at their point.
+class SoGLRenderAction : public SoAction {
+  SO_ACTION_HEADER(SoGLRenderAction)
+ public:
+  struct Primitive {
+    enum Kind { LINE, POLYGON, TEXT } kind;
+    std::vector<SbVec3f> points;
+    SbColor color;
+    std::string text;
+  };
+  void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
+  const std::vector<Primitive>& getPrimitives() const { return primitives; }
+  std::string toSvg() const;
+
+ private:
+  std::vector<Primitive> primitives;
+};
 class SoCallbackAction : public SoAction { SO_ACTION_HEADER(SoCallbackAction) };
 class SoGetBoundingBoxAction : public SoAction {
   SO_ACTION_HEADER(SoGetBoundingBoxAction)

@@ -42,6 +42,7 @@ class PoArrow : public PoQuorvex {
  protected:
   ~PoArrow() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
   void init(int isDefault, int numPoints, const SbVec2f* points, PatternType startPattern, PatternType endPattern,

@@ -42,6 +42,7 @@ class PoArrow3 : public PoQuorvex {
  protected:
   ~PoArrow3() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
   void init(int isDefault, int numPoints, const SbVec3f* points, PatternType startPattern, PatternType endPattern,

@@ -31,6 +31,7 @@ class PoCircle : public PoQuorvex {
   PoCircle();
   ~PoCircle() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
   void setCircle(const SbVec2f& newCenter, float newRadius);
 
  private:

@@ -33,6 +33,7 @@ class PoCircle3 : public PoQuorvex {
   PoCircle3();
   ~PoCircle3() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
   void setCircle(const SbVec3f& newCenter, float newRadius, const SbVec3f& newNormal);
 
  private:

@@ -37,6 +37,7 @@ class PoCircleArc : public PoQuorvex {
   PoCircleArc();
   ~PoCircleArc() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
   void setArc(const SbVec2f& newCenter, float newRadius, float newStartAngle, float newSweep);
   // A degenerate arc drawn as the straight segment from a to b (radius 0,
   // centre halfway).

@@ -39,6 +39,7 @@ class PoCircleArc3 : public PoQuorvex {
   PoCircleArc3();
   ~PoCircleArc3() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
   // start is the start point; its direction from the centre is made
   // perpendicular to the normal. A zero normal is (0, 0, 1).
   void setArc(const SbVec3f& newCenter, const SbVec3f& start, const SbVec3f& newNormal, float newSweep);

@@ -30,6 +30,7 @@ class PoParallelogram : public PoQuorvex {
  protected:
   ~PoParallelogram() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
   void init(const SbVec2f& a, const SbVec2f& b, const SbVec2f& c);

@@ -32,6 +32,7 @@ class PoParallelogram3 : public PoQuorvex {
  protected:
   ~PoParallelogram3() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
   void init(int isDefault, const SbVec3f& a, const SbVec3f& b, const SbVec3f& c);

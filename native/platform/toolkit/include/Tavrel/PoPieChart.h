@@ -30,6 +30,8 @@
 //    centre, then points of the arc every 1/64 turn or less), in the plane
 //    z = centre z, mapped through the matrix of the domain when the node
 //    has one.
+//  - A render traversal keeps those polygons in the slices' colours, and
+//    each slice's name (if any) outside it, along the middle of its span.
 #pragma once
 
 #include <Corvel/SbColor.h>
@@ -95,6 +97,7 @@ class PoPieChart : public PoChart {
   void setSlices(const SbVec3f& center, float radius, short numSlices, const char** names, const float* values,
                  int numColors, const SbColor* colors);
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
   SbVec3f center;

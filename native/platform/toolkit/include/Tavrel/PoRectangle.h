@@ -35,6 +35,7 @@ class PoRectangle : public PoQuorvex {
  protected:
   ~PoRectangle() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
   void init(const SbVec2f& corner1, const SbVec2f& corner2);

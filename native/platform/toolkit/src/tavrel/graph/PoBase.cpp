@@ -9,6 +9,8 @@
 #include <Tavrel/PoQuorvex.h>
 #include <Tavrel/PoRectangle.h>
 
+#include <Corvel/SoAction.h>
+
 #include <atomic>
 
 // --- types and catalogs --------------------------------------------------------
@@ -148,8 +150,11 @@ void PoBase::rebuildForTraversal() {
   if (modified) rebuild();
 }
 
+void PoBase::draw(SoGLRenderAction*) {}
+
 void PoBase::GLRender(SoGLRenderAction* action) {
   rebuildForTraversal();
+  draw(action);
   SoBaseKit::GLRender(action);
 }
 
@@ -178,6 +183,10 @@ PoRectangle::~PoRectangle() = default;
 void PoRectangle::rebuild() {
   CallJournal::record("PoRectangle::rebuild");
   runRebuild();
+}
+
+void PoRectangle::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
 }
 
 void PoRectangle::build() {

@@ -7,6 +7,8 @@
 #include <Tavrel/PoPieChart3D.h>
 #include <Tavrel/PoPieChartRep.h>
 
+#include <Corvel/SoAction.h>
+
 #include <cmath>
 
 PO_GRAPH_KIT_ABSTRACT_SOURCE(PoPieChart, PoChart, "PoPieChart", {"slices", "annotations"})
@@ -152,6 +154,23 @@ void PoPieChart::build() {
       for (SbVec3f& p : polygon.points) d->matrix().multVecMatrix(p, p);
     }
     polygons.push_back(std::move(polygon));
+  }
+}
+
+void PoPieChart::draw(SoGLRenderAction* action) {
+  for (const Polygon& polygon : polygons) {
+    const Slice& s = slices[static_cast<std::size_t>(polygon.slice)];
+    action->addPrimitive({SoGLRenderAction::Primitive::POLYGON, polygon.points, s.color, {}});
+  }
+  for (const Polygon& polygon : polygons) {
+    const Slice& s = slices[static_cast<std::size_t>(polygon.slice)];
+    if (s.name.empty()) continue;
+    // The name outside the slice, along the middle of its span.
+    const double middle = s.startAngle + s.sweep / 2.0;
+    SbVec3f at = sliceCenter(center, s) + SbVec3f(static_cast<float>(1.2 * radius * std::cos(middle)),
+                                                  static_cast<float>(1.2 * radius * std::sin(middle)), 0.0f);
+    if (const PbDomain* d = domainInUse()) d->matrix().multVecMatrix(at, at);
+    action->addPrimitive({SoGLRenderAction::Primitive::TEXT, {at}, s.color, s.name});
   }
 }
 

@@ -19,6 +19,8 @@
 #include <Tavrel/PoParallelogram.h>
 #include <Tavrel/PoParallelogram3.h>
 
+#include <Corvel/SoAction.h>
+
 #include <cmath>
 
 // --- types and catalogs --------------------------------------------------------
@@ -479,4 +481,36 @@ void PoParallelogram3::build() {
   CallJournal::record("PoParallelogram3::build");
   outline = {corners[0], corners[1], corners[2], corners[3], corners[0]};
   mapThroughDomain(*this, outline);
+}
+
+void PoCircle::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoCircle3::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoCircleArc::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoCircleArc3::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoArrow::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoArrow3::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoParallelogram::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
+}
+
+void PoParallelogram3::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
 }

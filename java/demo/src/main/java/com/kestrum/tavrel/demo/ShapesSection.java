@@ -10,9 +10,16 @@ import com.kestrum.tavrel.graph.PoCircleArcThreePts;
 import com.kestrum.tavrel.graph.PoCircleThreePoints;
 import com.kestrum.tavrel.graph.PoPieChart2D;
 import com.kestrum.tavrel.graph.PoRectangle;
+import java.io.IOException;
+import java.io.UncheckedIOException;
+import java.nio.file.Path;
+import java.nio.file.Paths;
 import java.util.List;
 
-/** A pie chart and the geometric shapes, built through the binding and rendered. */
+/**
+ * A pie chart and the geometric shapes, built through the binding and rendered; the render
+ * writes what they drew to chart.svg in the working directory.
+ */
 final class ShapesSection implements Demo.Section {
     @Override
     public String title() {
@@ -40,13 +47,18 @@ final class ShapesSection implements Demo.Section {
             pie.setSliceToTranslate(0, 0.2f);
             System.out.println("  the format set (" + (pie.getFormat() == format) + "), slice 0 moved out by "
                     + pie.getSliceToTranslate(0) + " (the chart rebuilt at once: built " + pie.isBuilt() + ")");
-            List<PoBase> shapes = List.of(circle, arc, arrow, frame);
+            List<PoBase> shapes = List.of(frame, pie, circle, arc, arrow);
             try (SoGLRenderAction render = new SoGLRenderAction()) {
                 for (PoBase shape : shapes) {
                     render.apply(shape);
                     System.out.println("  " + shape.getTypeName() + " rendered: built " + shape.isBuilt());
                 }
+                Path picture = Paths.get("chart.svg").toAbsolutePath();
+                render.writeSvg(picture);
+                System.out.println("  what the render kept, as a picture: " + picture + " (open it in a browser)");
             }
+        } catch (IOException e) {
+            throw new UncheckedIOException(e);
         } finally {
             format.dispose();
         }
