@@ -67,6 +67,8 @@ class SoAction {
  protected:
   SoAction() = default;
   void countNode() { ++nodesTraversed; }
+  // Called when an apply starts that is not inside another of this action.
+  virtual void beginApply() {}
 
  private:
   SoState* state = nullptr;
@@ -75,7 +77,7 @@ class SoAction {
 
 // Renders the scene. This toolkit draws nothing on screen; it keeps what the
 // graph nodes it reaches draw (lines, filled polygons and texts, in scene
-// coordinates, in the order drawn, over every apply) as a picture, which it
+// coordinates, in the order drawn; each apply starts a new one) as a picture, which it
 // writes as an SVG document: the x and y of the points, y pointing up, fitted
 // with a margin into a viewBox; polygons filled with their colour, lines
 // stroked black, texts at their point.
@@ -91,6 +93,9 @@ class SoGLRenderAction : public SoAction {
   void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
   const std::vector<Primitive>& getPrimitives() const { return primitives; }
   std::string toSvg() const;
+
+ protected:
+  void beginApply() override { primitives.clear(); }
 
  private:
   std::vector<Primitive> primitives;

@@ -53,7 +53,8 @@ std::string SoGLRenderAction::toSvg() const {
     if (p.kind == Primitive::TEXT) {
       if (p.points.empty()) continue;
       out += "<text x=\"", number(out, p.points[0][0]), out += "\" y=\"", number(out, -p.points[0][1]);
-      out += "\" font-size=\"", number(out, 12 * stroke), out += "\" text-anchor=\"middle\">" + escaped(p.text) + "</text>\n";
+      out += "\" font-size=\"", number(out, 12 * stroke);
+      out += "\" text-anchor=\"middle\">" + escaped(p.text) + "</text>\n";
     } else if (p.kind == Primitive::POLYGON) {
       char fill[16];
       std::snprintf(fill, sizeof fill, "#%02x%02x%02x", static_cast<int>(p.color[0] * 255 + 0.5f) & 255,

@@ -62,7 +62,9 @@ int pickSlice(const SoNode* node, const std::vector<PoPieChart::Slice>& slices, 
 }
 
 void translate(std::vector<PoPieChart::Slice>& slices, int slice, float distance) {
-  if (slice >= 0 && static_cast<std::size_t>(slice) < slices.size()) slices[static_cast<std::size_t>(slice)].translation = distance;
+  if (slice >= 0 && static_cast<std::size_t>(slice) < slices.size()) {
+    slices[static_cast<std::size_t>(slice)].translation = distance;
+  }
 }
 
 float translation(const std::vector<PoPieChart::Slice>& slices, int slice) {

@@ -8,7 +8,8 @@ import java.nio.file.Path;
 
 /**
  * Renders the scene graph. The toolkit keeps what the graph nodes it reaches draw (lines, filled
- * polygons and texts, over every {@link #apply}), which {@link #toSvg} gives as an SVG document.
+ * polygons and texts; each {@link #apply} starts anew), which {@link #toSvg} gives as an SVG
+ * document: render a group to picture several nodes together.
  */
 public class SoGLRenderAction extends SoAction {
     static {

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.demo;
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
 import com.kestrum.tavrel.graph.PoArrow;
 import com.kestrum.tavrel.graph.PoBase;
@@ -48,10 +49,15 @@ final class ShapesSection implements Demo.Section {
             System.out.println("  the format set (" + (pie.getFormat() == format) + "), slice 0 moved out by "
                     + pie.getSliceToTranslate(0) + " (the chart rebuilt at once: built " + pie.isBuilt() + ")");
             List<PoBase> shapes = List.of(frame, pie, circle, arc, arrow);
-            try (SoGLRenderAction render = new SoGLRenderAction()) {
+            try (SoGLRenderAction render = new SoGLRenderAction(); SoGroup scene = new SoGroup()) {
                 for (PoBase shape : shapes) {
-                    render.apply(shape);
-                    System.out.println("  " + shape.getTypeName() + " rendered: built " + shape.isBuilt());
+                    shape.setUpdateMethod(PoBase.UpdateMethodTypes.UPDATEMETHODONACTION);
+                    scene.addChild(shape);
+                }
+                render.apply(scene);
+                for (PoBase shape : shapes) {
+                    System.out.println("  " + shape.getTypeName() + " rendered in a group: built "
+                            + shape.isBuilt());
                 }
                 Path picture = Paths.get("chart.svg").toAbsolutePath();
                 render.writeSvg(picture);

@@ -13,7 +13,10 @@ public class PoCircleCenterRadius extends PoCircle {
         JarInitializer.init();
     }
 
-    /** A new node with the toolkit's default geometry (centre (0, 0), radius 1); holds one reference on its native node. */
+    /**
+     * A new node with the toolkit's default geometry (centre (0, 0), radius 1); holds one reference
+     * on its native node.
+     */
     public PoCircleCenterRadius() {
         this(ctorImpl());
     }

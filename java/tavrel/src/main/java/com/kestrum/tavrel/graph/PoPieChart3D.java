@@ -33,14 +33,16 @@ public class PoPieChart3D extends PoPieChart {
      *     modulo numColors
      * @param colors null (no colours), or at least numColors colours, none of them null
      */
-    public PoPieChart3D(SbVec3f center, float radius, float height, int numSlices, String[] names, float[] values, int numColors,
-            SbColor[] colors) {
-        this(ctorImpl1(notNull(center, "center").getValue(), radius, height, ChartChecks.slices(numSlices, names, values),
+    public PoPieChart3D(SbVec3f center, float radius, float height, int numSlices, String[] names, float[] values,
+            int numColors, SbColor[] colors) {
+        this(ctorImpl1(notNull(center, "center").getValue(), radius, height,
+                ChartChecks.slices(numSlices, names, values),
                 names, values, ChartChecks.count(numColors, "numColors"), colors(colors, numColors, "colors")));
     }
 
     /** A chart of one slice per value, each with its name and colour (colors may be null). */
-    public static PoPieChart3D of(SbVec3f center, float radius, float height, String[] names, float[] values, SbColor[] colors) {
+    public static PoPieChart3D of(SbVec3f center, float radius, float height, String[] names, float[] values,
+            SbColor[] colors) {
         int n = notNull(values, "values").length;
         return new PoPieChart3D(center, radius, height, n, names, values, colors == null ? 0 : colors.length, colors);
     }

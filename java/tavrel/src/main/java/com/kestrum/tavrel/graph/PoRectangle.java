@@ -16,7 +16,10 @@ public class PoRectangle extends PoQuorvex {
         JarInitializer.init();
     }
 
-    /** A new node with the toolkit's default geometry (corners (0, 0) and (1, 1)); holds one reference on its native node. */
+    /**
+     * A new node with the toolkit's default geometry (corners (0, 0) and (1, 1)); holds one
+     * reference on its native node.
+     */
     public PoRectangle() {
         this(ctorImpl());
     }

@@ -6,6 +6,7 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.nodes.SoGroup;
 import java.util.ArrayList;
 import java.util.List;
 import java.util.regex.Matcher;
@@ -26,14 +27,18 @@ class PictureTest {
         try (PoCircleCenterRadius circle = new PoCircleCenterRadius(new SbVec2f(1, 2), 3);
                 PoPieChart2D pie = PoPieChart2D.of(new SbVec2f(10, 0), 1, new String[] {"a", "b & c", "d"},
                         new float[] {1, 2, 3}, new SbColor[] {new SbColor(1, 0, 0)});
-                SoGLRenderAction render = new SoGLRenderAction()) {
+                SoGLRenderAction render = new SoGLRenderAction(); SoGroup scene = new SoGroup()) {
             circle.setUpdateMethod(PoBase.UpdateMethodTypes.UPDATEMETHODONACTION);
-            render.apply(circle);
+            scene.addChild(circle);
+            scene.addChild(pie);
             render.apply(pie);
+            assertEquals(3, count(render.toSvg(), "<polygon "));
+            render.apply(scene);
             svg = render.toSvg();
         }
         assertTrue(svg.startsWith("<svg xmlns=\"http://www.w3.org/2000/svg\""), svg);
-        assertEquals(3, count(svg, "<polygon "), "one filled polygon per slice");
+        assertEquals(3, count(svg, "<polygon "), "one filled polygon per slice, the last apply's only");
+        assertEquals(1, count(svg, "<polyline "));
         assertEquals(3, count(svg, "fill=\"#ff0000\""), "the slices' colour");
         assertEquals(3, count(svg, "<text "));
         assertTrue(svg.contains(">b &amp; c</text>"));
