@@ -76,6 +76,11 @@ JNIEXPORT jstring JNICALL Java_com_kestrum_corvel_actions_SoWriteAction_getOutpu
   return StringHelper::fromNativeString(env, from<SoWriteAction>(handle)->getOutput().c_str());
 }
 
+JNIEXPORT jstring JNICALL Java_com_kestrum_corvel_actions_SoGLRenderAction_toSvgNative(JNIEnv* env, jclass,
+                                                                                       jlong handle) {
+  return StringHelper::fromNativeString(env, from<SoGLRenderAction>(handle)->toSvg().c_str());
+}
+
 JNIEXPORT jstring JNICALL Java_com_kestrum_corvel_fields_SoField_getNameNative(JNIEnv* env, jclass, jlong handle) {
   return StringHelper::fromNativeString(env, from<SoField>(handle)->getName());
 }

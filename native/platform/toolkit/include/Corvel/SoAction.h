@@ -4,6 +4,13 @@
 // (see SoState.h). Outside apply an action has no state.
 #pragma once
 
+#include <Corvel/SbColor.h>
+#include <Corvel/SbVec.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
 #include <Corvel/SoSubClass.h>
 #include <Corvel/SbBox.h>
 #include <string>
@@ -60,13 +67,39 @@ class SoAction {
  protected:
   SoAction() = default;
   void countNode() { ++nodesTraversed; }
+  // Called when an apply starts that is not inside another of this action.
+  virtual void beginApply() {}
 
  private:
   SoState* state = nullptr;
   int nodesTraversed = 0;
 };
 
-class SoGLRenderAction : public SoAction { SO_ACTION_HEADER(SoGLRenderAction) };
+// Renders the scene. This toolkit draws nothing on screen; it keeps what the
+// graph nodes it reaches draw (lines, filled polygons and texts, in scene
+// coordinates, in the order drawn; each apply starts a new one) as a picture, which it
+// writes as an SVG document: the x and y of the points, y pointing up, fitted
+// with a margin into a viewBox; polygons filled with their colour, lines
+// stroked black, texts at their point.
+class SoGLRenderAction : public SoAction {
+  SO_ACTION_HEADER(SoGLRenderAction)
+ public:
+  struct Primitive {
+    enum Kind { LINE, POLYGON, TEXT } kind;
+    std::vector<SbVec3f> points;
+    SbColor color;
+    std::string text;
+  };
+  void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
+  const std::vector<Primitive>& getPrimitives() const { return primitives; }
+  std::string toSvg() const;
+
+ protected:
+  void beginApply() override { primitives.clear(); }
+
+ private:
+  std::vector<Primitive> primitives;
+};
 class SoCallbackAction : public SoAction { SO_ACTION_HEADER(SoCallbackAction) };
 class SoGetBoundingBoxAction : public SoAction {
   SO_ACTION_HEADER(SoGetBoundingBoxAction)

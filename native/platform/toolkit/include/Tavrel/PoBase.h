@@ -33,6 +33,8 @@
 //  - The update method, the modified flag and the built flag are read and
 //    written directly (inline accessors). A new node is modified and not
 //    built.
+//  - A render traversal, once it has rebuilt the node if it must, keeps what
+//    the node built in the action's picture (draw(); see SoGLRenderAction).
 //  - The type of PoBase and of the graph classes below it is available as
 //    the static data member classTypeId (valid once the extension is
 //    initialised) as well as through getClassTypeId().
@@ -120,6 +122,10 @@ class PoBase : public SoBaseKit {
   // A change of the node: the modified flag, then a rebuild at once with
   // the immediate update method.
   void changed();
+  // What a render traversal keeps of the node once it is rebuilt (see
+  // SoGLRenderAction): lines, filled polygons and texts of its last build.
+  // PoBase's own adds nothing.
+  virtual void draw(SoGLRenderAction* action);
 
  private:
   // Rebuilds the node if a traversal must (see above).

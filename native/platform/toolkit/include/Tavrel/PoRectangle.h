@@ -4,6 +4,9 @@
 // Behaviour of this toolkit (what a caller may rely on):
 //  - A new rectangle (the default constructor, which the toolkit also uses
 //    to make one from its type name) has the corners (0, 0) and (1, 1).
+//  - PoRectangle(corner1, corner2) sets the corners through init() after
+//    the PoQuorvex base; any two opposite corners will do (equal ones give
+//    a flat outline, drawn as is).
 //  - Its build makes the outline: the corners p1, (p2.x, p1.y), p2,
 //    (p1.x, p2.y) and p1 again, at z 0, each mapped through the matrix of
 //    the domain (getMatrix) when the node has one.
@@ -19,6 +22,7 @@ class PoRectangle : public PoQuorvex {
 
  public:
   PoRectangle();
+  PoRectangle(const SbVec2f& corner1, const SbVec2f& corner2) { init(corner1, corner2); }
 
   void rebuild() override;
 
@@ -31,9 +35,12 @@ class PoRectangle : public PoQuorvex {
  protected:
   ~PoRectangle() override;
   void build() override;
+  void draw(SoGLRenderAction* action) override;
 
  private:
-  SbVec2f corner1;
-  SbVec2f corner2;
+  void init(const SbVec2f& corner1, const SbVec2f& corner2);
+
+  SbVec2f corner1{0.0f, 0.0f};
+  SbVec2f corner2{1.0f, 1.0f};
   std::vector<SbVec3f> outline;
 };

@@ -25,6 +25,7 @@ SoAction::~SoAction() { delete state; }
 void SoAction::apply(SoNode* node) {
   CallJournal::record("SoAction::apply", getTypeId(), static_cast<const void*>(node));
   SoState* outer = state;
+  if (outer == nullptr) beginApply();
   state = new SoState(this);
   node->ref();
   traverse(node);

@@ -9,6 +9,8 @@
 #include <Tavrel/PoQuorvex.h>
 #include <Tavrel/PoRectangle.h>
 
+#include <Corvel/SoAction.h>
+
 #include <atomic>
 
 // --- types and catalogs --------------------------------------------------------
@@ -148,8 +150,11 @@ void PoBase::rebuildForTraversal() {
   if (modified) rebuild();
 }
 
+void PoBase::draw(SoGLRenderAction*) {}
+
 void PoBase::GLRender(SoGLRenderAction* action) {
   rebuildForTraversal();
+  draw(action);
   SoBaseKit::GLRender(action);
 }
 
@@ -165,13 +170,23 @@ void PoBase::getBoundingBox(SoGetBoundingBoxAction* action) {
 
 // --- PoRectangle ---------------------------------------------------------------------
 
-PoRectangle::PoRectangle() : corner1(0, 0), corner2(1, 1) { CallJournal::record("PoRectangle::PoRectangle"); }
+PoRectangle::PoRectangle() { CallJournal::record("PoRectangle::PoRectangle"); }
+
+void PoRectangle::init(const SbVec2f& c1, const SbVec2f& c2) {
+  CallJournal::record("PoRectangle::init", c1, c2);
+  corner1 = c1;
+  corner2 = c2;
+}
 
 PoRectangle::~PoRectangle() = default;
 
 void PoRectangle::rebuild() {
   CallJournal::record("PoRectangle::rebuild");
   runRebuild();
+}
+
+void PoRectangle::draw(SoGLRenderAction* action) {
+  action->addPrimitive({SoGLRenderAction::Primitive::LINE, outline, SbColor(0, 0, 0), {}});
 }
 
 void PoRectangle::build() {

@@ -1,8 +1,16 @@
 package com.kestrum.corvel.actions;
 
 import com.kestrum.corvel.misc.ManagedObjects;
+import java.io.IOException;
+import java.nio.charset.StandardCharsets;
+import java.nio.file.Files;
+import java.nio.file.Path;
 
-/** Renders the scene graph. */
+/**
+ * Renders the scene graph. The toolkit keeps what the graph nodes it reaches draw (lines, filled
+ * polygons and texts; each {@link #apply} starts anew), which {@link #toSvg} gives as an SVG
+ * document: render a group to picture several nodes together.
+ */
 public class SoGLRenderAction extends SoAction {
     static {
         ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGLRenderAction", SoGLRenderAction::new);
@@ -22,4 +30,16 @@ public class SoGLRenderAction extends SoAction {
     protected SoGLRenderAction(long handle) {
         super(handle);
     }
+
+    /** What the graph nodes rendered so far drew, as an SVG document. */
+    public String toSvg() {
+        return toSvgNative(handle());
+    }
+
+    /** Writes {@link #toSvg} into the file (replacing it) as UTF-8. */
+    public void writeSvg(Path file) throws IOException {
+        Files.writeString(file, toSvg(), StandardCharsets.UTF_8);
+    }
+
+    private static native String toSvgNative(long handle);
 }

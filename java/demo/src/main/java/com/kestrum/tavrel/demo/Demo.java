@@ -25,7 +25,8 @@ public final class Demo {
                 new CustomNodeSection(),
                 new MeshNodeSection(),
                 new GraphSection(),
-                new AxesSection());
+                new AxesSection(),
+                new ShapesSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");

@@ -2,6 +2,7 @@ package com.kestrum.tavrel.soak;
 
 import com.kestrum.corvel.SbBox3f;
 import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
@@ -23,12 +24,14 @@ import com.kestrum.tavrel.graph.PbLinearDataMapping;
 import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.graph.PbNonLinearDataMapping2;
 import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
+import com.kestrum.tavrel.graph.PoArrow;
 import com.kestrum.tavrel.graph.PoBase;
 import com.kestrum.tavrel.graph.PoCartesianAxis;
 import com.kestrum.tavrel.graph.PoGenAxis;
 import com.kestrum.tavrel.graph.PoLinearAxis;
 import com.kestrum.tavrel.graph.PoLogAxis;
 import com.kestrum.tavrel.graph.PoTimeAxis;
+import com.kestrum.tavrel.graph.PoPieChart2D;
 import com.kestrum.tavrel.misc.callbacks.PoRebuildCB;
 import java.nio.FloatBuffer;
 
@@ -319,6 +322,37 @@ final class DataPaths {
                     check(node.getDomain() == domain && node.isBuilt(), "graph node built with its domain");
                 }
                 check(events[0] == before + 22, "rebuild events");
+            }
+
+            @Override
+            public void close() {
+                render.dispose();
+            }
+        };
+    }
+
+    /**
+     * A pie chart made from names, values and colour objects and disposed, a slice moved out,
+     * and an arrow made from vector objects and disposed; each rendered.
+     */
+    static Loop pieCharts() {
+        SoGLRenderAction render = new SoGLRenderAction();
+        String[] names = {"north", "east", "south", "west"};
+        SbColor[] colors = {new SbColor(1, 0, 0), new SbColor(0, 1, 0), new SbColor(0, 0, 1)};
+        SbVec2f[] points = {new SbVec2f(0, 0), new SbVec2f(1, 1), new SbVec2f(2, 0)};
+        return new Loop() {
+            @Override
+            public void step(int i) {
+                float[] values = {1 + i % 7, 2, 3, 4};
+                try (PoPieChart2D pie = PoPieChart2D.of(new SbVec2f(0, 0), 1, names, values, colors);
+                        PoArrow arrow = PoArrow.along(points, PoArrow.PatternTypes.NOPATTERN,
+                                PoArrow.PatternTypes.DIRECTTRIANGLE, 0.1f, 0.1f)) {
+                    pie.setSliceToTranslate(i % 4, 0.25f);
+                    check(pie.getSliceToTranslate(i % 4) == 0.25f, "slice moved out");
+                    render.apply(pie);
+                    render.apply(arrow);
+                    check(arrow.isBuilt(), "arrow built by the render");
+                }
             }
 
             @Override

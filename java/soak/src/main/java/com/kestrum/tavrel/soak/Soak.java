@@ -45,7 +45,8 @@ public final class Soak {
             new SoakPath("cell-filter-traversals", DataPaths::cellFilterTraversals),
             new SoakPath("graph-rebuilds", DataPaths::graphRebuilds),
             new SoakPath("attribute-objects", DataPaths::attributeObjects),
-            new SoakPath("axes", DataPaths::axes));
+            new SoakPath("axes", DataPaths::axes),
+            new SoakPath("pie-charts", DataPaths::pieCharts));
 
     static final long RSS_LIMIT = 4L << 20;
     static final long HEAP_LIMIT = 1L << 20;

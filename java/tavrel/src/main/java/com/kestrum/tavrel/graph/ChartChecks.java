@@ -1,0 +1,62 @@
+package com.kestrum.tavrel.graph;
+
+/** Argument checks of the shapes and pie charts, made before any native call. */
+final class ChartChecks {
+    private ChartChecks() {}
+
+    /** A count of 0 or more. */
+    static int count(int n, String name) {
+        return Checks.count(n, Integer.MAX_VALUE, name);
+    }
+
+    /**
+     * The points of an arrow: at least numPoints of them, none null (the conversion reads every
+     * element); null only when numPoints is 0.
+     */
+    static Object[] vectors(Object[] points, int numPoints, String name) {
+        count(numPoints, "numPoints");
+        if (points == null) {
+            if (numPoints > 0) {
+                throw new NullPointerException(name + " is null");
+            }
+            return null;
+        }
+        if (points.length < numPoints) {
+            throw new IllegalArgumentException(name + " has " + points.length + " elements, " + numPoints + " needed");
+        }
+        for (int i = 0; i < points.length; i++) {
+            if (points[i] == null) {
+                throw new NullPointerException(name + "[" + i + "] is null");
+            }
+        }
+        return points;
+    }
+
+    /** The slices of a pie chart: a count the toolkit's short holds, with that many names and values. */
+    static int slices(int numSlices, String[] names, float[] values) {
+        Checks.count(numSlices, Short.MAX_VALUE, "numSlices");
+        Checks.notNull(names, "names");
+        if (names.length < numSlices) {
+            throw new IllegalArgumentException("names has " + names.length + " elements, " + numSlices + " needed");
+        }
+        Checks.length(values, numSlices, "values");
+        return numSlices;
+    }
+
+    /** The address of a picked path: not 0. */
+    static long path(long path) {
+        if (path == 0) {
+            throw new IllegalArgumentException("path is 0");
+        }
+        return path;
+    }
+
+    /** An output array of at least one element. */
+    static int[] output(int[] out, String name) {
+        Checks.notNull(out, name);
+        if (out.length < 1) {
+            throw new IllegalArgumentException(name + " is empty");
+        }
+        return out;
+    }
+}

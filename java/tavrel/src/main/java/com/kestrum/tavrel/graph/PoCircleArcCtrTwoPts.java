@@ -1,0 +1,59 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A 2D arc given by its centre and two points: it starts at the first and runs
+ * counter-clockwise to the direction of the second.
+ */
+public class PoCircleArcCtrTwoPts extends PoCircleArc {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new node with the toolkit's default geometry; holds one reference on its native node. */
+    public PoCircleArcCtrTwoPts() {
+        this(ctorImpl());
+    }
+
+    /**
+     * A new node; holds one reference on its native node.
+     *
+     * @param center the centre
+     * @param p1 the start, at the radius from the centre
+     * @param p2 a point in the direction of the end
+     */
+    public PoCircleArcCtrTwoPts(SbVec2f center, SbVec2f p1, SbVec2f p2) {
+        this(ctorImpl1(point(center, "center"), point(p1, "p1"), point(p2, "p2")));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoCircleArcCtrTwoPts(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static float[] point(SbVec2f point, String name) {
+        return notNull(point, name).getValue();
+    }
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float[] center, float[] p1, float[] p2);
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

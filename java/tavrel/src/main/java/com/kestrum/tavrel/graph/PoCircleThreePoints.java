@@ -1,0 +1,59 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A 2D circle through three points. Collinear points have no such circle: the node then draws
+ * the circle whose diameter joins the two points farthest apart.
+ */
+public class PoCircleThreePoints extends PoCircle {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new node with the toolkit's default geometry; holds one reference on its native node. */
+    public PoCircleThreePoints() {
+        this(ctorImpl());
+    }
+
+    /**
+     * A new node; holds one reference on its native node.
+     *
+     * @param p1 a first point
+     * @param p2 a second point
+     * @param p3 a third point
+     */
+    public PoCircleThreePoints(SbVec2f p1, SbVec2f p2, SbVec2f p3) {
+        this(ctorImpl1(point(p1, "p1"), point(p2, "p2"), point(p3, "p3")));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoCircleThreePoints(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static float[] point(SbVec2f point, String name) {
+        return notNull(point, name).getValue();
+    }
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float[] p1, float[] p2, float[] p3);
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,58 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A 3D parallelogram given by three consecutive corners a, b, c; the fourth is a + c - b.
+ */
+public class PoParallelogram3 extends PoQuorvex {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new node with the toolkit's default geometry; holds one reference on its native node. */
+    public PoParallelogram3() {
+        this(ctorImpl());
+    }
+
+    /**
+     * A new node; holds one reference on its native node.
+     *
+     * @param a a first corner
+     * @param b the corner between a and c
+     * @param c a third corner
+     */
+    public PoParallelogram3(SbVec3f a, SbVec3f b, SbVec3f c) {
+        this(ctorImpl1(point(a, "a"), point(b, "b"), point(c, "c")));
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoParallelogram3(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static float[] point(SbVec3f point, String name) {
+        return notNull(point, name).getValue();
+    }
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float[] a, float[] b, float[] c);
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,271 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/**
+ * Base of the pie charts: slices with names, values and colours around a centre.
+ *
+ * <p>The slices go counter-clockwise from the x axis, in order, each spanning a share of the turn
+ * proportional to its value (a value that is not positive spans nothing).
+ */
+public abstract class PoPieChart extends PoChart {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Where the annotations inside the slices go. */
+    public enum IntAnnotPositions {
+        RADIALINTPOS(JarInitializer.value(IntAnnotPositions::getRADIALINTPOSNative)),
+        HORINTPOS(JarInitializer.value(IntAnnotPositions::getHORINTPOSNative));
+
+        private final int value;
+
+        IntAnnotPositions(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static IntAnnotPositions fromValue(int value) {
+            for (IntAnnotPositions c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getRADIALINTPOSNative();
+
+        private static native int getHORINTPOSNative();
+    }
+
+    /** Where the annotations outside the slices go. */
+    public enum ExtAnnotPositions {
+        RADIALEXTPOS(JarInitializer.value(ExtAnnotPositions::getRADIALEXTPOSNative)),
+        HOREXTPOS(JarInitializer.value(ExtAnnotPositions::getHOREXTPOSNative)),
+        HORALIGNEDEXTPOS(JarInitializer.value(ExtAnnotPositions::getHORALIGNEDEXTPOSNative)),
+        VERTALIGNEDEXTPOS(JarInitializer.value(ExtAnnotPositions::getVERTALIGNEDEXTPOSNative)),
+        SQUAREALIGNEDEXTPOS(JarInitializer.value(ExtAnnotPositions::getSQUAREALIGNEDEXTPOSNative));
+
+        private final int value;
+
+        ExtAnnotPositions(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static ExtAnnotPositions fromValue(int value) {
+            for (ExtAnnotPositions c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getRADIALEXTPOSNative();
+
+        private static native int getHOREXTPOSNative();
+
+        private static native int getHORALIGNEDEXTPOSNative();
+
+        private static native int getVERTALIGNEDEXTPOSNative();
+
+        private static native int getSQUAREALIGNEDEXTPOSNative();
+    }
+
+    /** How the annotation texts are aligned. */
+    public enum Alignments {
+        LEFTALIGN(JarInitializer.value(Alignments::getLEFTALIGNNative)),
+        CENTERALIGN(JarInitializer.value(Alignments::getCENTERALIGNNative)),
+        RIGHTALIGN(JarInitializer.value(Alignments::getRIGHTALIGNNative)),
+        INWARDSALIGN(JarInitializer.value(Alignments::getINWARDSALIGNNative)),
+        OUTWARDSALIGN(JarInitializer.value(Alignments::getOUTWARDSALIGNNative));
+
+        private final int value;
+
+        Alignments(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Alignments fromValue(int value) {
+            for (Alignments c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getLEFTALIGNNative();
+
+        private static native int getCENTERALIGNNative();
+
+        private static native int getRIGHTALIGNNative();
+
+        private static native int getINWARDSALIGNNative();
+
+        private static native int getOUTWARDSALIGNNative();
+    }
+
+    /** Whether the values are shown as given or as percentages. */
+    public enum PercentStatus {
+        ABSOLUTE(JarInitializer.value(PercentStatus::getABSOLUTENative)),
+        PERCENTAGE(JarInitializer.value(PercentStatus::getPERCENTAGENative));
+
+        private final int value;
+
+        PercentStatus(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static PercentStatus fromValue(int value) {
+            for (PercentStatus c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getABSOLUTENative();
+
+        private static native int getPERCENTAGENative();
+    }
+
+    private PbMiscTextAttr textAttr;
+    private PbNumericDisplayFormat format;
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoPieChart(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    /**
+     * Sets the text attributes of the annotations; null for none. The chart keeps the object's
+     * address: later changes of it reach the chart; this object keeps the Java object as long as
+     * it is set. A change of the node (see {@link PoBase}).
+     */
+    public void setMiscTextAttr(PbMiscTextAttr attr) {
+        long address = handleOrZero(attr, "attr");
+        this.textAttr = attr;
+        long h = enter();
+        try {
+            setMiscTextAttrImpl(h, address);
+        } finally {
+            leave();
+        }
+    }
+
+    /** The text attributes, or null: the Java object set while the chart holds its address, else a view. */
+    public PbMiscTextAttr getMiscTextAttr() {
+        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), textAttr);
+    }
+
+    /** Sets the number format of the annotations; null for none. As {@link #setMiscTextAttr}. */
+    public void setFormat(PbNumericDisplayFormat format) {
+        long address = handleOrZero(format, "format");
+        this.format = format;
+        long h = enter();
+        try {
+            setFormatImpl(h, address);
+        } finally {
+            leave();
+        }
+    }
+
+    /** The number format, or null: the Java object set while the chart holds its address, else a view. */
+    public PbNumericDisplayFormat getFormat() {
+        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+    }
+
+    /**
+     * Moves a slice out from the centre by the distance, along the middle of its span (a slice
+     * number the chart does not have is ignored). A change of the node (see {@link PoBase}).
+     */
+    public void setSliceToTranslate(int slice, float distance) {
+        long h = enter();
+        try {
+            setSliceToTranslateImpl(h, slice, distance);
+        } finally {
+            leave();
+        }
+    }
+
+    /** The distance a slice has been moved out by; 0 for a slice never moved or out of range. */
+    public float getSliceToTranslate(int slice) {
+        return getSliceToTranslateImpl(handle(), slice);
+    }
+
+    /**
+     * The slice a picked path points at.
+     *
+     * @param path the address of a native path (an {@code SoPath}) as a pick gives it; it must be
+     *     live for the call
+     * @param slice at least one element: element 0 receives the slice number, or 0 when the
+     *     toolkit did not write it
+     * @return the toolkit's result: non-zero when the path picks a slice of this chart
+     */
+    public int getPickedSliceNumber(long path, int[] slice) {
+        ChartChecks.path(path);
+        ChartChecks.output(slice, "slice");
+        return getPickedSliceNumberImpl(handle(), path, slice);
+    }
+
+    /** The slice a picked path points at, or -1 when it picks none of this chart's slices. */
+    public int getPickedSliceNumber(long path) {
+        int[] slice = new int[1];
+        return getPickedSliceNumber(path, slice) != 0 ? slice[0] : -1;
+    }
+
+    private native void setMiscTextAttrImpl(long handle, long attr);
+
+    private native long getMiscTextAttrImpl(long handle);
+
+    private native void setFormatImpl(long handle, long format);
+
+    private native long getFormatImpl(long handle);
+
+    private native void setSliceToTranslateImpl(long handle, int slice, float distance);
+
+    private native float getSliceToTranslateImpl(long handle, int slice);
+
+    private native int getPickedSliceNumberImpl(long handle, long path, int[] slice);
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,73 @@
+package com.kestrum.tavrel.graph;
+
+import static com.kestrum.tavrel.graph.Checks.colors;
+import static com.kestrum.tavrel.graph.Checks.notNull;
+
+import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A pie chart with a height (see {@link PoPieChart}).
+ */
+public class PoPieChart3D extends PoPieChart {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A new chart without slices; holds one reference on its native node. */
+    public PoPieChart3D() {
+        this(ctorImpl());
+    }
+
+    /**
+     * A new chart; holds one reference on its native node.
+     *
+     * @param center the centre
+     * @param radius the radius
+     * @param height the height of the chart
+     * @param numSlices the number of slices, 0 to {@link Short#MAX_VALUE}
+     * @param names at least numSlices names (an element may be null: no name)
+     * @param values at least numSlices values
+     * @param numColors the number of colours the chart takes (0 or more); slice i gets colour i
+     *     modulo numColors
+     * @param colors null (no colours), or at least numColors colours, none of them null
+     */
+    public PoPieChart3D(SbVec3f center, float radius, float height, int numSlices, String[] names, float[] values,
+            int numColors, SbColor[] colors) {
+        this(ctorImpl1(notNull(center, "center").getValue(), radius, height,
+                ChartChecks.slices(numSlices, names, values),
+                names, values, ChartChecks.count(numColors, "numColors"), colors(colors, numColors, "colors")));
+    }
+
+    /** A chart of one slice per value, each with its name and colour (colors may be null). */
+    public static PoPieChart3D of(SbVec3f center, float radius, float height, String[] names, float[] values,
+            SbColor[] colors) {
+        int n = notNull(values, "values").length;
+        return new PoPieChart3D(center, radius, height, n, names, values, colors == null ? 0 : colors.length, colors);
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoPieChart3D(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(float[] center, float radius, float height, int numSlices, Object[] names,
+            float[] values, int numColors, Object[] colors);
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,31 @@
+// A path of nodes from a scene's root, as a pick gives it: the nodes in
+// order and the picked point (in scene coordinates) at its tail.
+//
+// Behaviour of this toolkit (what a caller may rely on):
+//  - The path keeps the nodes by address and takes no reference on them:
+//    the nodes must outlive it.
+//  - A new path is empty, its picked point (0, 0, 0).
+#pragma once
+
+#include <Corvel/SbVec.h>
+
+#include <algorithm>
+#include <vector>
+
+class SoNode;
+
+class SoPath {
+ public:
+  SoPath() = default;
+
+  void append(SoNode* node) { nodes.push_back(node); }
+  int getLength() const { return static_cast<int>(nodes.size()); }
+  SoNode* getNode(int index) const { return nodes.at(static_cast<std::size_t>(index)); }
+  bool containsNode(const SoNode* node) const { return std::find(nodes.begin(), nodes.end(), node) != nodes.end(); }
+  void setPickedPoint(const SbVec3f& point) { pickedPoint = point; }
+  const SbVec3f& getPickedPoint() const { return pickedPoint; }
+
+ private:
+  std::vector<SoNode*> nodes;
+  SbVec3f pickedPoint;
+};

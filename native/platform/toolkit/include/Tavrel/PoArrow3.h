@@ -1,0 +1,58 @@
+// A 3D arrow: a polyline with a pattern at each end.
+//
+// Behaviour of this toolkit (what a caller may rely on):
+//  - init(isDefault, count, points, startPattern, endPattern, width,
+//    length): the arrow keeps the count as given and copies that many
+//    points; with a null point pointer it keeps the count and no points.
+//    isDefault is 1 when the default constructor calls it, 0 otherwise; it
+//    changes nothing. width and length are the size of the end patterns,
+//    kept as given.
+//  - The default arrow has no points, no start pattern, a direct triangle
+//    at its end, and patterns of size 0.1 by 0.1.
+//  - Its build makes the polyline of the points, mapped through
+//    the matrix of the domain when the node has one.
+#pragma once
+
+#include <Corvel/SbVec.h>
+#include <Tavrel/PoQuorvex.h>
+
+#include <vector>
+
+class PoArrow3 : public PoQuorvex {
+  PO_GRAPH_KIT_HEADER(PoArrow3)
+
+ public:
+  enum PatternType : int { NOPATTERN = 0, DIRECTTRIANGLE = 1, INDIRECTTRIANGLE = 2, RECTANGLE = 3 };
+
+  PoArrow3() { init(1, 0, nullptr, NOPATTERN, DIRECTTRIANGLE, 0.1f, 0.1f); }
+  PoArrow3(int numPoints, const SbVec3f* points, PatternType startPattern, PatternType endPattern, float width,
+          float length) {
+    init(0, numPoints, points, startPattern, endPattern, width, length);
+  }
+
+  void rebuild() override;
+
+  // --- Used inside this toolkit (not journaled) ---
+  int getNumPoints() const { return numPoints; }
+  const std::vector<SbVec3f>& getPoints() const { return points; }
+  PatternType getStartPattern() const { return startPattern; }
+  PatternType getEndPattern() const { return endPattern; }
+  const std::vector<SbVec3f>& getOutline() const { return outline; }
+
+ protected:
+  ~PoArrow3() override;
+  void build() override;
+  void draw(SoGLRenderAction* action) override;
+
+ private:
+  void init(int isDefault, int numPoints, const SbVec3f* points, PatternType startPattern, PatternType endPattern,
+            float width, float length);
+
+  int numPoints = 0;
+  std::vector<SbVec3f> points;
+  PatternType startPattern = NOPATTERN;
+  PatternType endPattern = NOPATTERN;
+  float width = 0.0f;
+  float length = 0.0f;
+  std::vector<SbVec3f> outline;
+};
