@@ -24,7 +24,8 @@ public final class Demo {
                 new RepresentationsSection(),
                 new CustomNodeSection(),
                 new MeshNodeSection(),
-                new GraphSection());
+                new GraphSection(),
+                new ChartSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");
