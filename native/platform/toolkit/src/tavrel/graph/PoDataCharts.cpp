@@ -1,15 +1,21 @@
-// Curves, error curves, histograms and item legends: what they are given,
+// Curves, error curves, histograms, item and value legends: what they are given,
 // kept by value, and the parts their builds make.
 
 #include <Corvel/CallJournal.h>
+#include <Tavrel/PoAutoValueLegend.h>
 #include <Tavrel/PoCurve.h>
 #include <Tavrel/PoCurve3.h>
 #include <Tavrel/PoErrorCurve.h>
 #include <Tavrel/PoHistogram.h>
 #include <Tavrel/PoItemLegend.h>
 #include <Tavrel/PoLegend.h>
+#include <Tavrel/PoLinearValueLegend.h>
 #include <Tavrel/PoMultipleHistogram.h>
+#include <Tavrel/PoNonLinearValueLegend1.h>
+#include <Tavrel/PoNonLinearValueLegend2.h>
+#include <Tavrel/PoNonLinearValueLegend3.h>
 #include <Tavrel/PoSingleHistogram.h>
+#include <Tavrel/PoValueLegend.h>
 
 #include <cmath>
 
@@ -272,3 +278,79 @@ void PoItemLegend::build() {
                          " " + colour + " " + text(names[i]));
   }
 }
+
+// --- value legends -------------------------------------------------------------------
+
+PO_GRAPH_KIT_ABSTRACT_SOURCE(PoValueLegend, PoLegend, "PoValueLegend", {"valueBoxes"})
+PO_GRAPH_KIT_SOURCE(PoLinearValueLegend, PoValueLegend, "PoLinearValueLegend", {})
+PO_GRAPH_KIT_SOURCE(PoNonLinearValueLegend1, PoValueLegend, "PoNonLinearValueLegend1", {})
+PO_GRAPH_KIT_SOURCE(PoNonLinearValueLegend2, PoValueLegend, "PoNonLinearValueLegend2", {})
+PO_GRAPH_KIT_SOURCE(PoNonLinearValueLegend3, PoValueLegend, "PoNonLinearValueLegend3", {})
+PO_GRAPH_KIT_ABSTRACT_SOURCE(PoAutoValueLegend, PoValueLegend, "PoAutoValueLegend", {})
+
+PoValueLegend::PoValueLegend() : corner1(0, 0), corner2(1, 1) {}
+PoValueLegend::PoValueLegend(const SbVec2f& c1, const SbVec2f& c2) : corner1(c1), corner2(c2) {}
+PoValueLegend::~PoValueLegend() = default;
+
+void PoValueLegend::setIsovaluesList(PbIsovaluesList* list) {
+  CallJournal::record("PoValueLegend::setIsovaluesList", static_cast<const void*>(list));
+  isovaluesList = list;
+}
+
+PbIsovaluesList* PoValueLegend::getIsovaluesList() const {
+  CallJournal::record("PoValueLegend::getIsovaluesList");
+  return isovaluesList;
+}
+
+void PoValueLegend::setDataMapping(PbDataMapping* mapping) {
+  CallJournal::record("PoValueLegend::setDataMapping", static_cast<const void*>(mapping));
+  dataMapping = mapping;
+}
+
+PbDataMapping* PoValueLegend::getDataMapping() const {
+  CallJournal::record("PoValueLegend::getDataMapping");
+  return dataMapping;
+}
+
+void PoValueLegend::setFormat(PbNumericDisplayFormat* newFormat) {
+  CallJournal::record("PoValueLegend::setFormat", static_cast<const void*>(newFormat));
+  format = newFormat;
+}
+
+PbNumericDisplayFormat* PoValueLegend::getFormat() const {
+  CallJournal::record("PoValueLegend::getFormat");
+  return format;
+}
+
+void PoValueLegend::rebuild() {
+  CallJournal::record("PoValueLegend::rebuild");
+  runRebuild();
+}
+
+void PoValueLegend::build() {
+  CallJournal::record("PoValueLegend::build");
+  builtParts = {"frame " + text(corner1) + ".." + text(corner2)};
+}
+
+PoLinearValueLegend::PoLinearValueLegend() { CallJournal::record("PoLinearValueLegend::PoLinearValueLegend"); }
+
+PoLinearValueLegend::PoLinearValueLegend(const SbVec2f& c1, const SbVec2f& c2, ValueDistribution d)
+    : PoValueLegend(c1, c2), distribution(d) {
+  CallJournal::record("PoLinearValueLegend::PoLinearValueLegend", c1, c2, static_cast<int>(d));
+}
+
+PoLinearValueLegend::~PoLinearValueLegend() = default;
+
+#define TK_NON_LINEAR_VALUE_LEGEND(className)                                                       \
+  className::className() { CallJournal::record(#className "::" #className); }                     \
+  className::className(const SbVec2f& c1, const SbVec2f& c2) : PoValueLegend(c1, c2) {            \
+    CallJournal::record(#className "::" #className, c1, c2);                                        \
+  }                                                                                                 \
+  className::~className() = default;
+
+TK_NON_LINEAR_VALUE_LEGEND(PoNonLinearValueLegend1)
+TK_NON_LINEAR_VALUE_LEGEND(PoNonLinearValueLegend2)
+TK_NON_LINEAR_VALUE_LEGEND(PoNonLinearValueLegend3)
+
+PoAutoValueLegend::PoAutoValueLegend() = default;
+PoAutoValueLegend::~PoAutoValueLegend() = default;

@@ -92,7 +92,23 @@ class CurvesHistogramsLegendsTest {
                 arguments(PoItemLegend.class, "ctorImpl1",
                         new Object[] {new float[] {0, 0}, new float[] {2, 4}, 1, new String[] {"x"},
                                 new Object[] {null, new SbColor(0, 0, 1)}},
-                        "PoItemLegend::init(0, (0, 0), (2, 4), 1, [\"x\"], null)"));
+                        "PoItemLegend::init(0, (0, 0), (2, 4), 1, [\"x\"], null)"),
+                arguments(PoLinearValueLegend.class, "ctorImpl", new Object[0],
+                        "PoLinearValueLegend::PoLinearValueLegend()"),
+                arguments(PoLinearValueLegend.class, "ctorImpl1", new Object[] {origin, new float[] {3, 4}, 2},
+                        "PoLinearValueLegend::PoLinearValueLegend((1, 2), (3, 4), 2)"),
+                arguments(PoNonLinearValueLegend1.class, "ctorImpl", new Object[0],
+                        "PoNonLinearValueLegend1::PoNonLinearValueLegend1()"),
+                arguments(PoNonLinearValueLegend1.class, "ctorImpl1", new Object[] {origin, new float[] {3, 4}},
+                        "PoNonLinearValueLegend1::PoNonLinearValueLegend1((1, 2), (3, 4))"),
+                arguments(PoNonLinearValueLegend2.class, "ctorImpl", new Object[0],
+                        "PoNonLinearValueLegend2::PoNonLinearValueLegend2()"),
+                arguments(PoNonLinearValueLegend2.class, "ctorImpl1", new Object[] {origin, new float[] {3, 4}},
+                        "PoNonLinearValueLegend2::PoNonLinearValueLegend2((1, 2), (3, 4))"),
+                arguments(PoNonLinearValueLegend3.class, "ctorImpl", new Object[0],
+                        "PoNonLinearValueLegend3::PoNonLinearValueLegend3()"),
+                arguments(PoNonLinearValueLegend3.class, "ctorImpl1", new Object[] {origin, new float[] {3, 4}},
+                        "PoNonLinearValueLegend3::PoNonLinearValueLegend3((1, 2), (3, 4))"));
     }
 
     /** Every constructor function makes one toolkit call with the count as given, not as long as the array. */
@@ -166,6 +182,18 @@ class CurvesHistogramsLegendsTest {
     }
 
     @Test
+    void valueLegendsKeepTheirCorners() {
+        try (PoLinearValueLegend linear = new PoLinearValueLegend(new SbVec2f(1, 2), new SbVec2f(3, 5),
+                PoLinearValueLegend.ValueDistributions.MINMAXVALUES);
+                PoNonLinearValueLegend1 plain = new PoNonLinearValueLegend1()) {
+            linear.rebuild();
+            plain.rebuild();
+            assertEquals(List.of("frame (1, 2)..(3, 5)"), Charts.parts(handle(linear)));
+            assertEquals(List.of("frame (0, 0)..(1, 1)"), Charts.parts(handle(plain)));
+        }
+    }
+
+    @Test
     void aLegendWithoutColoursHasItemsWithoutColour() {
         try (PoItemLegend legend = new PoItemLegend(new SbVec2f(0, 0), new SbVec2f(1, 1), 1, new String[] {"a"},
                 null)) {
@@ -190,7 +218,11 @@ class CurvesHistogramsLegendsTest {
                 new Link("PoHistogram", "DataMapping", histogram, PbLinearDataMapping::new),
                 new Link("PoHistogram", "Format", histogram,
                         () -> new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.FLOATFORMAT, 6, 2)),
-                new Link("PoLegend", "MiscTextAttr", legend, PbMiscTextAttr::new));
+                new Link("PoLegend", "MiscTextAttr", legend, PbMiscTextAttr::new),
+                new Link("PoValueLegend", "IsovaluesList", PoLinearValueLegend::new, PbIsovaluesList::new),
+                new Link("PoValueLegend", "DataMapping", PoNonLinearValueLegend2::new, PbLinearDataMapping::new),
+                new Link("PoValueLegend", "Format", PoNonLinearValueLegend3::new,
+                        () -> new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.AUTOFORMAT, 4, 1)));
     }
 
     @ParameterizedTest(name = "{0}")
@@ -299,7 +331,9 @@ class CurvesHistogramsLegendsTest {
                 arguments(PoLegend.TextPaths.class, "PATHRIGHT 0, PATHLEFT 1, PATHUP 2, PATHDOWN 3"),
                 arguments(PoLegend.Positions.class, "POSBOTTOM 0, POSTOP 1, POSRIGHT 2, POSLEFT 3"),
                 arguments(PoLegend.MarginTypes.class, "RELMARGIN 0, FIXEDMARGIN 1"),
-                arguments(PoLegend.IncrementTypes.class, "VERTICALINCREMENT 0, HORIZONTALINCREMENT 1"));
+                arguments(PoLegend.IncrementTypes.class, "VERTICALINCREMENT 0, HORIZONTALINCREMENT 1"),
+                arguments(PoLinearValueLegend.ValueDistributions.class,
+                        "ALLVALUES 0, LINEARVALUES 1, MINMAXVALUES 2"));
     }
 
     /** Each constant of the enumerations has its getter, and carries the toolkit's value. */
@@ -327,6 +361,18 @@ class CurvesHistogramsLegendsTest {
                 (LongSupplier) PoLegend::getClassNodekitCatalog},
             {"PoItemLegend", (Supplier<String>) PoItemLegend::getClassTypeName,
                 (LongSupplier) PoItemLegend::getClassNodekitCatalog},
+            {"PoValueLegend", (Supplier<String>) PoValueLegend::getClassTypeName,
+                (LongSupplier) PoValueLegend::getClassNodekitCatalog},
+            {"PoLinearValueLegend", (Supplier<String>) PoLinearValueLegend::getClassTypeName,
+                (LongSupplier) PoLinearValueLegend::getClassNodekitCatalog},
+            {"PoNonLinearValueLegend1", (Supplier<String>) PoNonLinearValueLegend1::getClassTypeName,
+                (LongSupplier) PoNonLinearValueLegend1::getClassNodekitCatalog},
+            {"PoNonLinearValueLegend2", (Supplier<String>) PoNonLinearValueLegend2::getClassTypeName,
+                (LongSupplier) PoNonLinearValueLegend2::getClassNodekitCatalog},
+            {"PoNonLinearValueLegend3", (Supplier<String>) PoNonLinearValueLegend3::getClassTypeName,
+                (LongSupplier) PoNonLinearValueLegend3::getClassNodekitCatalog},
+            {"PoAutoValueLegend", (Supplier<String>) PoAutoValueLegend::getClassTypeName,
+                (LongSupplier) PoAutoValueLegend::getClassNodekitCatalog},
         };
         for (Object[] row : rows) {
             String name = (String) row[0];
