@@ -29,7 +29,7 @@ import org.junit.jupiter.params.provider.Arguments;
 import org.junit.jupiter.params.provider.MethodSource;
 
 /**
- * Curves, error curves, histograms and item legends: what their constructor functions hand the
+ * Curves, their representations, error curves, histograms and legends: what their constructor functions hand the
  * toolkit (journal), what the nodes build from it, their attribute objects, and the Java checks.
  */
 class CurvesHistogramsLegendsTest {
@@ -93,6 +93,18 @@ class CurvesHistogramsLegendsTest {
                         new Object[] {new float[] {0, 0}, new float[] {2, 4}, 1, new String[] {"x"},
                                 new Object[] {null, new SbColor(0, 0, 1)}},
                         "PoItemLegend::init(0, (0, 0), (2, 4), 1, [\"x\"], null)"),
+                arguments(PoCurveFilling.class, "ctorImpl", new Object[0], "PoCurveFilling::PoCurveFilling()"),
+                arguments(PoCurveLine.class, "ctorImpl", new Object[0], "PoCurveLine::PoCurveLine()"),
+                arguments(PoLabel.class, "ctorImpl", new Object[0], "PoLabel::PoLabel()"),
+                arguments(PoRibbon.class, "ctorImpl", new Object[0], "PoRibbon::PoRibbon()"),
+                arguments(PoTube.class, "ctorImpl", new Object[0], "PoTube::PoTube()"),
+                arguments(PoScatter.class, "ctorImpl", new Object[0], "PoScatter::PoScatter()"),
+                arguments(PoGeneralizedScatter.class, "ctorImpl", new Object[0], "PoGeneralizedScatter::PoGeneralizedScatter()"),
+                arguments(PoProfileBar.class, "ctorImpl", new Object[0], "PoProfileBar::PoProfileBar()"),
+                arguments(PoLinearBar.class, "ctorImpl", new Object[0], "PoLinearBar::PoLinearBar()"),
+                arguments(PoConicBar.class, "ctorImpl", new Object[0], "PoConicBar::PoConicBar()"),
+                arguments(PoCylindricalBar.class, "ctorImpl", new Object[0], "PoCylindricalBar::PoCylindricalBar()"),
+                arguments(PoGeneralizedBar.class, "ctorImpl", new Object[0], "PoGeneralizedBar::PoGeneralizedBar()"),
                 arguments(PoLinearValueLegend.class, "ctorImpl", new Object[0],
                         "PoLinearValueLegend::PoLinearValueLegend()"),
                 arguments(PoLinearValueLegend.class, "ctorImpl1", new Object[] {origin, new float[] {3, 4}, 2},
@@ -333,7 +345,13 @@ class CurvesHistogramsLegendsTest {
                 arguments(PoLegend.MarginTypes.class, "RELMARGIN 0, FIXEDMARGIN 1"),
                 arguments(PoLegend.IncrementTypes.class, "VERTICALINCREMENT 0, HORIZONTALINCREMENT 1"),
                 arguments(PoLinearValueLegend.ValueDistributions.class,
-                        "ALLVALUES 0, LINEARVALUES 1, MINMAXVALUES 2"));
+                        "ALLVALUES 0, LINEARVALUES 1, MINMAXVALUES 2"),
+                arguments(PoCurveFilling.Orientations.class, "HORIZONTAL 0, VERTICAL 1"),
+                arguments(PoCurveLine.ThicknessBindings.class, "PERPARTTHICKNESS 0, PERVERTEXTHICKNESS 1"),
+                arguments(PoBar.Orientations.class, "HORIZONTAL 0, VERTICAL 1"),
+                arguments(PoLabel.ValueTypes.class, "VALUE 0, NAME 1"),
+                arguments(PoLabel.Positions.class, "VALUEPOS 0, MIDDLEPOS 1, THRESHOLDPOS 2"),
+                arguments(PoLabel.AxisType.class, "X 0, Y 1"));
     }
 
     /** Each constant of the enumerations has its getter, and carries the toolkit's value. */
@@ -373,6 +391,32 @@ class CurvesHistogramsLegendsTest {
                 (LongSupplier) PoNonLinearValueLegend3::getClassNodekitCatalog},
             {"PoAutoValueLegend", (Supplier<String>) PoAutoValueLegend::getClassTypeName,
                 (LongSupplier) PoAutoValueLegend::getClassNodekitCatalog},
+            {"PoCurveFilling", (Supplier<String>) PoCurveFilling::getClassTypeName,
+                (LongSupplier) PoCurveFilling::getClassNodekitCatalog},
+            {"PoCurveLine", (Supplier<String>) PoCurveLine::getClassTypeName,
+                (LongSupplier) PoCurveLine::getClassNodekitCatalog},
+            {"PoLabel", (Supplier<String>) PoLabel::getClassTypeName,
+                (LongSupplier) PoLabel::getClassNodekitCatalog},
+            {"PoRibbon", (Supplier<String>) PoRibbon::getClassTypeName,
+                (LongSupplier) PoRibbon::getClassNodekitCatalog},
+            {"PoTube", (Supplier<String>) PoTube::getClassTypeName,
+                (LongSupplier) PoTube::getClassNodekitCatalog},
+            {"PoScatter", (Supplier<String>) PoScatter::getClassTypeName,
+                (LongSupplier) PoScatter::getClassNodekitCatalog},
+            {"PoGeneralizedScatter", (Supplier<String>) PoGeneralizedScatter::getClassTypeName,
+                (LongSupplier) PoGeneralizedScatter::getClassNodekitCatalog},
+            {"PoProfileBar", (Supplier<String>) PoProfileBar::getClassTypeName,
+                (LongSupplier) PoProfileBar::getClassNodekitCatalog},
+            {"PoLinearBar", (Supplier<String>) PoLinearBar::getClassTypeName,
+                (LongSupplier) PoLinearBar::getClassNodekitCatalog},
+            {"PoConicBar", (Supplier<String>) PoConicBar::getClassTypeName,
+                (LongSupplier) PoConicBar::getClassNodekitCatalog},
+            {"PoCylindricalBar", (Supplier<String>) PoCylindricalBar::getClassTypeName,
+                (LongSupplier) PoCylindricalBar::getClassNodekitCatalog},
+            {"PoGeneralizedBar", (Supplier<String>) PoGeneralizedBar::getClassTypeName,
+                (LongSupplier) PoGeneralizedBar::getClassNodekitCatalog},
+            {"PoBar", (Supplier<String>) PoBar::getClassTypeName,
+                (LongSupplier) PoBar::getClassNodekitCatalog},
         };
         for (Object[] row : rows) {
             String name = (String) row[0];
