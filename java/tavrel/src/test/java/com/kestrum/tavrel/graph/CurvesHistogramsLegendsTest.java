@@ -99,12 +99,46 @@ class CurvesHistogramsLegendsTest {
                 arguments(PoRibbon.class, "ctorImpl", new Object[0], "PoRibbon::PoRibbon()"),
                 arguments(PoTube.class, "ctorImpl", new Object[0], "PoTube::PoTube()"),
                 arguments(PoScatter.class, "ctorImpl", new Object[0], "PoScatter::PoScatter()"),
-                arguments(PoGeneralizedScatter.class, "ctorImpl", new Object[0], "PoGeneralizedScatter::PoGeneralizedScatter()"),
+                arguments(PoGeneralizedScatter.class, "ctorImpl", new Object[0],
+                        "PoGeneralizedScatter::PoGeneralizedScatter()"),
                 arguments(PoProfileBar.class, "ctorImpl", new Object[0], "PoProfileBar::PoProfileBar()"),
                 arguments(PoLinearBar.class, "ctorImpl", new Object[0], "PoLinearBar::PoLinearBar()"),
                 arguments(PoConicBar.class, "ctorImpl", new Object[0], "PoConicBar::PoConicBar()"),
                 arguments(PoCylindricalBar.class, "ctorImpl", new Object[0], "PoCylindricalBar::PoCylindricalBar()"),
                 arguments(PoGeneralizedBar.class, "ctorImpl", new Object[0], "PoGeneralizedBar::PoGeneralizedBar()"),
+                arguments(PoHighLowClose.class, "ctorImpl", new Object[0],
+                        "PoHighLowClose::init(1, 0, null, null, null, null)"),
+                arguments(PoHighLowClose.class, "ctorImpl1",
+                        new Object[] {1, new float[] {1, 2}, new float[] {5}, new float[] {3}, new float[] {4}},
+                        "PoHighLowClose::init(0, 1, [1], [5], [3], [4])"),
+                arguments(PoValuedMarkerField.class, "ctorImpl", new Object[0],
+                        "PoValuedMarkerField::init(1, 0, null, null, null)"),
+                arguments(PoValuedMarkerField.class, "ctorImpl1",
+                        new Object[] {2, new Object[] {P0, P1, P2}, new float[] {1, 2, 3}, new float[] {4, 5}},
+                        "PoValuedMarkerField::init(0, 2, [(0, 1), (2, 3)], [1, 2], [4, 5])"),
+                arguments(PoPointsFieldBars.class, "ctorImpl", new Object[0],
+                        "PoPointsFieldBars::init(1, 0, null, null, 1, 1)"),
+                arguments(PoPointsFieldBars.class, "ctorImpl1",
+                        new Object[] {1, new Object[] {new SbVec3f(1, 2, 3)}, new float[] {7}, 0.5f, 0.25f},
+                        "PoPointsFieldBars::init(0, 1, [(1, 2, 3)], [7], 0.5, 0.25)"),
+                arguments(PoErrorPointField.class, "ctorImpl", new Object[0],
+                        "PoErrorPointField::init(1, 0, null, null, null, 1, 1)"),
+                arguments(PoErrorPointField.class, "ctorImpl1",
+                        new Object[] {1, new Object[] {P1}, new float[] {0.5f}, new float[] {0.25f}, 3, 4},
+                        "PoErrorPointField::init(0, 1, [(2, 3)], [0.5], [0.25], 3, 4)"),
+                arguments(PoBiErrorPointField.class, "ctorImpl", new Object[0],
+                        "PoBiErrorPointField::init(1, 0, null, null, null, null, null, 0, 1, 1)"),
+                arguments(PoBiErrorPointField.class, "ctorImpl1",
+                        new Object[] {1, new Object[] {P1}, new float[] {1}, new float[] {2}, new float[] {3},
+                                new float[] {4}, 2, 7, -8},
+                        "PoBiErrorPointField::init(0, 1, [(2, 3)], [1], [2], [3], [4], 2, 7, -8)"),
+                arguments(PoLabelField.class, "ctorImpl", new Object[0],
+                        "PoLabelField::init(1, 0, null, null, null, 0, 0, 0, 3)"),
+                arguments(PoLabelField.class, "ctorImpl1",
+                        new Object[] {2, new Object[] {P0, P1}, new String[] {"é", UNICODE}, new float[] {1, 2}, 0.5f,
+                                3, 2, 4},
+                        "PoLabelField::init(0, 2, [(0, 1), (2, 3)], [\"é\", \"" + UNICODE
+                                + "\"], [1, 2], 0.5, 3, 2, 4)"),
                 arguments(PoLinearValueLegend.class, "ctorImpl", new Object[0],
                         "PoLinearValueLegend::PoLinearValueLegend()"),
                 arguments(PoLinearValueLegend.class, "ctorImpl1", new Object[] {origin, new float[] {3, 4}, 2},
@@ -194,6 +228,35 @@ class CurvesHistogramsLegendsTest {
     }
 
     @Test
+    void pointFieldsBuildOnePartAPoint() {
+        SbVec2f[] two = {P0, P1};
+        try (PoHighLowClose hlc = new PoHighLowClose(2, new float[] {1, 2}, new float[] {9, 8}, new float[] {3, 4},
+                new float[] {5, 6});
+                PoValuedMarkerField markers = new PoValuedMarkerField(2, two, new float[] {1, 2}, new float[] {3, 4});
+                PoPointsFieldBars bars = new PoPointsFieldBars(1, new SbVec3f[] {new SbVec3f(1, 2, 3)},
+                        new float[] {7}, 0.5f, 0.25f);
+                PoErrorPointField errors = new PoErrorPointField(1, two, new float[] {0.5f, 9}, new float[] {0.25f, 9},
+                        PoErrorPointField.ShapeTypes.ELLIPSESHAPE, PoErrorPointField.SkeletonTypes.BARSKELETON);
+                PoBiErrorPointField biErrors = new PoBiErrorPointField(1, new SbVec2f[] {P1}, new float[] {1},
+                        new float[] {2}, new float[] {3}, new float[] {4},
+                        PoBiErrorPointField.VariationTypes.RELVARIATION, 0, 1);
+                PoLabelField labels = new PoLabelField(2, two, new String[] {"a", UNICODE}, new float[] {1.5f, 2},
+                        0, PoLabelField.ConcatTypes.VALUEBEFORESTRING, PoLabelField.Justifications.CENTER,
+                        PoLabelField.VerticalJustifications.HALF)) {
+            for (PoBase node : List.of(hlc, markers, bars, errors, biErrors, labels)) {
+                node.rebuild();
+            }
+            assertEquals(List.of("hlc 1 3..9 close 5", "hlc 2 4..8 close 6"), Charts.parts(handle(hlc)));
+            assertEquals(List.of("marker (0, 1) 1 3", "marker (2, 3) 2 4"), Charts.parts(handle(markers)));
+            assertEquals(List.of("bar (1, 2, 3) height 7 size 0.5 x 0.25"), Charts.parts(handle(bars)));
+            assertEquals(List.of("error (0, 1) +-(0.5, 0.25)"), Charts.parts(handle(errors)));
+            assertEquals(List.of("error (2, 3) x 1..4 y 0..7"), Charts.parts(handle(biErrors)));
+            assertEquals(List.of("label (0, 1) 1.5 \"a\"", "label (2, 3) 2 \"" + UNICODE + "\""),
+                    Charts.parts(handle(labels)));
+        }
+    }
+
+    @Test
     void valueLegendsKeepTheirCorners() {
         try (PoLinearValueLegend linear = new PoLinearValueLegend(new SbVec2f(1, 2), new SbVec2f(3, 5),
                 PoLinearValueLegend.ValueDistributions.MINMAXVALUES);
@@ -231,6 +294,10 @@ class CurvesHistogramsLegendsTest {
                 new Link("PoHistogram", "Format", histogram,
                         () -> new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.FLOATFORMAT, 6, 2)),
                 new Link("PoLegend", "MiscTextAttr", legend, PbMiscTextAttr::new),
+                new Link("PoLabelField", "Format", PoLabelField::new,
+                        () -> new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.INTEGERFORMAT, 3, 0)),
+                new Link("PoPointsFieldBars", "DataMapping", PoPointsFieldBars::new, PbLinearDataMapping::new),
+                new Link("PoValuedMarkerField", "DataMapping", PoValuedMarkerField::new, PbLinearDataMapping::new),
                 new Link("PoValueLegend", "IsovaluesList", PoLinearValueLegend::new, PbIsovaluesList::new),
                 new Link("PoValueLegend", "DataMapping", PoNonLinearValueLegend2::new, PbLinearDataMapping::new),
                 new Link("PoValueLegend", "Format", PoNonLinearValueLegend3::new,
@@ -307,6 +374,18 @@ class CurvesHistogramsLegendsTest {
                         (Executable) () -> new PoItemLegend(o, o, 2, names, new SbColor[] {new SbColor()})),
                 arguments("a null colour", NullPointerException.class,
                         (Executable) () -> new PoItemLegend(o, o, 1, names, new SbColor[] {new SbColor(), null})),
+                arguments("a field count above the points", IllegalArgumentException.class,
+                        (Executable) () -> new PoValuedMarkerField(3, two, new float[3], new float[3])),
+                arguments("label strings shorter than the count", IllegalArgumentException.class,
+                        (Executable) () -> new PoLabelField(2, two, new String[] {"a"}, new float[2], 0,
+                                PoLabelField.ConcatTypes.STRINGBEFOREVALUE, PoLabelField.Justifications.LEFT,
+                                PoLabelField.VerticalJustifications.TOP)),
+                arguments("high-low-close lists shorter than the count", IllegalArgumentException.class,
+                        (Executable) () -> new PoHighLowClose(2, new float[2], new float[2], new float[1],
+                                new float[2])),
+                arguments("bar heights shorter than the count", IllegalArgumentException.class,
+                        (Executable) () -> new PoPointsFieldBars(1, new SbVec3f[] {new SbVec3f()}, new float[0], 1,
+                                1)),
                 arguments("items above the names", IllegalArgumentException.class,
                         (Executable) () -> new PoItemLegend(o, o, 3, names, null)));
     }
@@ -351,7 +430,19 @@ class CurvesHistogramsLegendsTest {
                 arguments(PoBar.Orientations.class, "HORIZONTAL 0, VERTICAL 1"),
                 arguments(PoLabel.ValueTypes.class, "VALUE 0, NAME 1"),
                 arguments(PoLabel.Positions.class, "VALUEPOS 0, MIDDLEPOS 1, THRESHOLDPOS 2"),
-                arguments(PoLabel.AxisType.class, "X 0, Y 1"));
+                arguments(PoLabel.AxisType.class, "X 0, Y 1"),
+                arguments(PoHighLowClose.HorCloseBarPositions.class, "LEFT 0, MIDDLE 1, RIGHT 2"),
+                arguments(PoLabelField.Justifications.class, "LEFT 0, RIGHT 1, CENTER 2"),
+                arguments(PoLabelField.VerticalJustifications.class, "TOP 0, CAP 1, HALF 2, BASE 3, BOTTOM 4"),
+                arguments(PoLabelField.CoordinateTypes.class, "COORDINATEINDOMAIN 0, COORDINATEINCURRENTUNIT 1"),
+                arguments(PoLabelField.ConcatTypes.class,
+                        "STRINGBEFOREVALUE 0, VALUEBEFORESTRING 1, STRINGABOVEVALUE 2, VALUEABOVESTRING 3"),
+                arguments(PoErrorPointField.ShapeTypes.class,
+                        "NOSHAPE 0, RECTANGLESHAPE 1, QUADRANGLESHAPE 2, ELLIPSESHAPE 3"),
+                arguments(PoErrorPointField.SkeletonTypes.class,
+                        "NOSKELETON 0, CROSS1SKELETON 1, CROSS2SKELETON 2, CROSS3SKELETON 3, BARSKELETON 4"),
+                arguments(PoBiErrorPointField.VariationTypes.class,
+                        "FIXEDVARIATION 0, RELVARIATION 1, PERCENTFIXEDVARIATION 2, PERCENTRELVARIATION 3"));
     }
 
     /** Each constant of the enumerations has its getter, and carries the toolkit's value. */
@@ -417,6 +508,18 @@ class CurvesHistogramsLegendsTest {
                 (LongSupplier) PoGeneralizedBar::getClassNodekitCatalog},
             {"PoBar", (Supplier<String>) PoBar::getClassTypeName,
                 (LongSupplier) PoBar::getClassNodekitCatalog},
+            {"PoHighLowClose", (Supplier<String>) PoHighLowClose::getClassTypeName,
+                (LongSupplier) PoHighLowClose::getClassNodekitCatalog},
+            {"PoValuedMarkerField", (Supplier<String>) PoValuedMarkerField::getClassTypeName,
+                (LongSupplier) PoValuedMarkerField::getClassNodekitCatalog},
+            {"PoPointsFieldBars", (Supplier<String>) PoPointsFieldBars::getClassTypeName,
+                (LongSupplier) PoPointsFieldBars::getClassNodekitCatalog},
+            {"PoErrorPointField", (Supplier<String>) PoErrorPointField::getClassTypeName,
+                (LongSupplier) PoErrorPointField::getClassNodekitCatalog},
+            {"PoBiErrorPointField", (Supplier<String>) PoBiErrorPointField::getClassTypeName,
+                (LongSupplier) PoBiErrorPointField::getClassNodekitCatalog},
+            {"PoLabelField", (Supplier<String>) PoLabelField::getClassTypeName,
+                (LongSupplier) PoLabelField::getClassNodekitCatalog},
         };
         for (Object[] row : rows) {
             String name = (String) row[0];
