@@ -2,6 +2,7 @@ package com.kestrum.tavrel.soak;
 
 import com.kestrum.corvel.SbBox3f;
 import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
@@ -24,8 +25,14 @@ import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.graph.PbNonLinearDataMapping2;
 import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
 import com.kestrum.tavrel.graph.PoBase;
+import com.kestrum.tavrel.graph.PoErrorCurve;
+import com.kestrum.tavrel.graph.PoHistogram;
+import com.kestrum.tavrel.graph.PoItemLegend;
+import com.kestrum.tavrel.graph.PoLabelField;
+import com.kestrum.tavrel.graph.PoSingleHistogram;
 import com.kestrum.tavrel.misc.callbacks.PoRebuildCB;
 import java.nio.FloatBuffer;
+import java.util.List;
 
 /**
  * The data paths of the soak, one factory each: the factory makes what the path reuses (native
@@ -352,6 +359,34 @@ final class DataPaths {
             format.setFormat(PbNumericDisplayFormat.FormatTypes.INTEGERFORMAT, i % 8, 0);
             check(format.getFormat().width() == i % 8, "numeric format");
             check(dates.setFormat(i % 2 == 0 ? "%Y" : "%d.%m.%Y") && dates.getCoordinate("2000-01-03") == 2, "dates");
+        };
+    }
+
+    /** Curves, histograms, labels and legends made from Java arrays, rebuilt and disposed of. */
+    static Loop chartsFromArrays() {
+        float[] xy = {0, 1, 1, 3, 2, 2, 3, 5};
+        float[] variation = {0.5f, 0.25f, 0.5f, 1};
+        SbVec2f[] points = {new SbVec2f(0, 1), new SbVec2f(1, 3), new SbVec2f(2, 2)};
+        String[] names = {"north", "süd", "東 \uD83D\uDE00"};
+        SbColor[] colors = {new SbColor(1, 0, 0), new SbColor(0, 1, 0), new SbColor(0, 0, 1)};
+        PbMiscTextAttr text = new PbMiscTextAttr();
+        return i -> {
+            float[] values = {i % 7, 2, 3};
+            try (PoErrorCurve curve = new PoErrorCurve(xy, variation, variation,
+                    PoErrorCurve.VariationTypes.FIXEDVARIATION, PoErrorCurve.ErrorCurveReps.LINEBAR);
+                    PoSingleHistogram histogram = new PoSingleHistogram(new SbVec2f(0, 0), 6, PoHistogram.Types.X,
+                            3, values, names);
+                    PoLabelField labels = new PoLabelField(3, points, names, values, 0,
+                            PoLabelField.ConcatTypes.STRINGBEFOREVALUE, PoLabelField.Justifications.LEFT,
+                            PoLabelField.VerticalJustifications.BASE);
+                    PoItemLegend legend = new PoItemLegend(new SbVec2f(0, 0), new SbVec2f(1, 1), 3, names, colors)) {
+                histogram.setMiscTextAttr(text);
+                for (PoBase node : List.of(curve, histogram, labels, legend)) {
+                    node.rebuild();
+                    check(node.isBuilt(), "chart built");
+                }
+                check(histogram.getMiscTextAttr() == text, "histogram text attributes");
+            }
         };
     }
 }

@@ -44,7 +44,8 @@ public final class Soak {
             new SoakPath("java-node-traversals", DataPaths::javaNodeTraversals),
             new SoakPath("cell-filter-traversals", DataPaths::cellFilterTraversals),
             new SoakPath("graph-rebuilds", DataPaths::graphRebuilds),
-            new SoakPath("attribute-objects", DataPaths::attributeObjects));
+            new SoakPath("attribute-objects", DataPaths::attributeObjects),
+            new SoakPath("charts-from-arrays", DataPaths::chartsFromArrays));
 
     static final long RSS_LIMIT = 4L << 20;
     static final long HEAP_LIMIT = 1L << 20;

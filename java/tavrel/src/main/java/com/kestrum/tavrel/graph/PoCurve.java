@@ -146,7 +146,11 @@ public class PoCurve extends PoQuorvex {
      * @throws IllegalArgumentException when xy has an odd length
      */
     public PoCurve(float[] xy, CurveReps curveRep) {
-        this(Checks.pairs(xy, "xy").length, Checks.pairs(xy, "xy"), curveRep);
+        this(Checks.pairs(xy, "xy"), curveRep);
+    }
+
+    private PoCurve(SbVec2f[] points, CurveReps curveRep) {
+        this(points.length, points, curveRep);
     }
 
     /** The name of the class's toolkit type. */

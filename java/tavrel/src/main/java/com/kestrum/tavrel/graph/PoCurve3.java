@@ -73,7 +73,11 @@ public class PoCurve3 extends PoQuorvex {
      * @throws IllegalArgumentException when the length of xyz is not a multiple of 3
      */
     public PoCurve3(float[] xyz, CurveReps curveRep) {
-        this(Checks.triples(xyz, "xyz").length, Checks.triples(xyz, "xyz"), curveRep);
+        this(Checks.triples(xyz, "xyz"), curveRep);
+    }
+
+    private PoCurve3(SbVec3f[] points, CurveReps curveRep) {
+        this(points.length, points, curveRep);
     }
 
     /** The name of the class's toolkit type. */

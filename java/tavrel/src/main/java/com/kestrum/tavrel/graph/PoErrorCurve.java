@@ -120,8 +120,12 @@ public class PoErrorCurve extends PoQuorvex {
      */
     public PoErrorCurve(float[] xy, float[] lowVariation, float[] highVariation, VariationTypes variationType,
             ErrorCurveReps errorCurveRep) {
-        this(Checks.pairs(xy, "xy").length, Checks.pairs(xy, "xy"), lowVariation, highVariation, variationType,
-                errorCurveRep);
+        this(Checks.pairs(xy, "xy"), lowVariation, highVariation, variationType, errorCurveRep);
+    }
+
+    private PoErrorCurve(SbVec2f[] points, float[] lowVariation, float[] highVariation, VariationTypes variationType,
+            ErrorCurveReps errorCurveRep) {
+        this(points.length, points, lowVariation, highVariation, variationType, errorCurveRep);
     }
 
     /** The name of the class's toolkit type. */
