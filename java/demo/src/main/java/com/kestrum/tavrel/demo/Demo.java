@@ -26,7 +26,8 @@ public final class Demo {
                 new MeshNodeSection(),
                 new GraphSection(),
                 new AxesSection(),
-                new ShapesSection());
+                new ShapesSection(),
+                new ChartSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");

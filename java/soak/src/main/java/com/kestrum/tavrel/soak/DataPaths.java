@@ -32,8 +32,14 @@ import com.kestrum.tavrel.graph.PoLinearAxis;
 import com.kestrum.tavrel.graph.PoLogAxis;
 import com.kestrum.tavrel.graph.PoTimeAxis;
 import com.kestrum.tavrel.graph.PoPieChart2D;
+import com.kestrum.tavrel.graph.PoErrorCurve;
+import com.kestrum.tavrel.graph.PoHistogram;
+import com.kestrum.tavrel.graph.PoItemLegend;
+import com.kestrum.tavrel.graph.PoLabelField;
+import com.kestrum.tavrel.graph.PoSingleHistogram;
 import com.kestrum.tavrel.misc.callbacks.PoRebuildCB;
 import java.nio.FloatBuffer;
+import java.util.List;
 
 /**
  * The data paths of the soak, one factory each: the factory makes what the path reuses (native
@@ -417,6 +423,34 @@ final class DataPaths {
                 check(log.getGraduations().size() == 7 && log.getLogGrad().decades().length == 3, "log axis");
                 check(gen.getGrad().labels().equals("low\nmid\nhigh"), "generalised axis");
                 check(time.getGraduations().get(3).equals("04/01"), "time axis");
+            }
+        };
+    }
+
+    /** Curves, histograms, labels and legends made from Java arrays, rebuilt and disposed of. */
+    static Loop chartsFromArrays() {
+        float[] xy = {0, 1, 1, 3, 2, 2, 3, 5};
+        float[] variation = {0.5f, 0.25f, 0.5f, 1};
+        SbVec2f[] points = {new SbVec2f(0, 1), new SbVec2f(1, 3), new SbVec2f(2, 2)};
+        String[] names = {"north", "süd", "東 \uD83D\uDE00"};
+        SbColor[] colors = {new SbColor(1, 0, 0), new SbColor(0, 1, 0), new SbColor(0, 0, 1)};
+        PbMiscTextAttr text = new PbMiscTextAttr();
+        return i -> {
+            float[] values = {i % 7, 2, 3};
+            try (PoErrorCurve curve = new PoErrorCurve(xy, variation, variation,
+                    PoErrorCurve.VariationTypes.FIXEDVARIATION, PoErrorCurve.ErrorCurveReps.LINEBAR);
+                    PoSingleHistogram histogram = new PoSingleHistogram(new SbVec2f(0, 0), 6, PoHistogram.Types.X,
+                            3, values, names);
+                    PoLabelField labels = new PoLabelField(3, points, names, values, 0,
+                            PoLabelField.ConcatTypes.STRINGBEFOREVALUE, PoLabelField.Justifications.LEFT,
+                            PoLabelField.VerticalJustifications.BASE);
+                    PoItemLegend legend = new PoItemLegend(new SbVec2f(0, 0), new SbVec2f(1, 1), 3, names, colors)) {
+                histogram.setMiscTextAttr(text);
+                for (PoBase node : List.of(curve, histogram, labels, legend)) {
+                    node.rebuild();
+                    check(node.isBuilt(), "chart built");
+                }
+                check(histogram.getMiscTextAttr() == text, "histogram text attributes");
             }
         };
     }

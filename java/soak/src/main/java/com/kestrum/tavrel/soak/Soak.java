@@ -46,7 +46,8 @@ public final class Soak {
             new SoakPath("graph-rebuilds", DataPaths::graphRebuilds),
             new SoakPath("attribute-objects", DataPaths::attributeObjects),
             new SoakPath("axes", DataPaths::axes),
-            new SoakPath("pie-charts", DataPaths::pieCharts));
+            new SoakPath("pie-charts", DataPaths::pieCharts),
+            new SoakPath("charts-from-arrays", DataPaths::chartsFromArrays));
 
     static final long RSS_LIMIT = 4L << 20;
     static final long HEAP_LIMIT = 1L << 20;

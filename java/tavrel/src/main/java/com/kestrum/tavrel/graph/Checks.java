@@ -1,6 +1,8 @@
 package com.kestrum.tavrel.graph;
 
 import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.corvel.SbVec3f;
 
 /**
  * Argument checks made before any native call of this package: the native methods check
@@ -64,5 +66,61 @@ final class Checks {
     /** The three components of an HLS colour, in a new array. */
     static float[] hls(HlsColor color, String name) {
         return notNull(color, name).toArray();
+    }
+
+    /** Vector objects that are all read: the array and every element non-null. */
+    static <T> T[] vectors(T[] vectors, String name) {
+        notNull(vectors, name);
+        for (int i = 0; i < vectors.length; i++) {
+            if (vectors[i] == null) {
+                throw new NullPointerException(name + "[" + i + "] is null");
+            }
+        }
+        return vectors;
+    }
+
+    /** Strings of which `needed` are read: at least that many, none of those null. */
+    static String[] strings(String[] strings, long needed, String name) {
+        notNull(strings, name);
+        if (strings.length < needed) {
+            throw new IllegalArgumentException(name + " has " + strings.length + " elements, " + needed + " needed");
+        }
+        for (int i = 0; i < needed; i++) {
+            if (strings[i] == null) {
+                throw new NullPointerException(name + "[" + i + "] is null");
+            }
+        }
+        return strings;
+    }
+
+    /** The two components of a 2D point, in a new array. */
+    static float[] pair(SbVec2f point, String name) {
+        return notNull(point, name).getValue();
+    }
+
+    /** The points of an array of x, y pairs. */
+    static SbVec2f[] pairs(float[] xy, String name) {
+        notNull(xy, name);
+        if (xy.length % 2 != 0) {
+            throw new IllegalArgumentException(name + " has an odd length: " + xy.length);
+        }
+        SbVec2f[] points = new SbVec2f[xy.length / 2];
+        for (int i = 0; i < points.length; i++) {
+            points[i] = new SbVec2f(xy[2 * i], xy[2 * i + 1]);
+        }
+        return points;
+    }
+
+    /** The points of an array of x, y, z triples. */
+    static SbVec3f[] triples(float[] xyz, String name) {
+        notNull(xyz, name);
+        if (xyz.length % 3 != 0) {
+            throw new IllegalArgumentException(name + " has a length that is no multiple of 3: " + xyz.length);
+        }
+        SbVec3f[] points = new SbVec3f[xyz.length / 3];
+        for (int i = 0; i < points.length; i++) {
+            points[i] = new SbVec3f(xyz[3 * i], xyz[3 * i + 1], xyz[3 * i + 2]);
+        }
+        return points;
     }
 }

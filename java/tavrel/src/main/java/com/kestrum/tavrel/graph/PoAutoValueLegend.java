@@ -1,0 +1,29 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** A value legend that picks its values itself; this interface offers its type and catalog. */
+public abstract class PoAutoValueLegend extends PoValueLegend {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoAutoValueLegend(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,62 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/** Base of the bar representations of a curve, with their orientations. Abstract. */
+public abstract class PoBar extends PoBase {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Whether the filling or bars go horizontally or vertically. */
+    public enum Orientations {
+        /** HORIZONTAL */
+        HORIZONTAL(JarInitializer.value(Orientations::getHORIZONTALNative)),
+        /** VERTICAL */
+        VERTICAL(JarInitializer.value(Orientations::getVERTICALNative));
+
+        private final int value;
+
+        Orientations(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Orientations fromValue(int value) {
+            for (Orientations c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getHORIZONTALNative();
+
+        private static native int getVERTICALNative();
+    }
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoBar(long handle) {
+        super(handle);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+}

@@ -1,0 +1,85 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A high-low-close chart: at each x a bar from the low to the high value, with a mark at the close
+ * value. The node keeps a copy of the values it is given.
+ */
+public class PoHighLowClose extends PoQuorvex {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Where the close mark sits on its bar. */
+    public enum HorCloseBarPositions {
+        /** LEFT */
+        LEFT(JarInitializer.value(HorCloseBarPositions::getLEFTNative)),
+        /** MIDDLE */
+        MIDDLE(JarInitializer.value(HorCloseBarPositions::getMIDDLENative)),
+        /** RIGHT */
+        RIGHT(JarInitializer.value(HorCloseBarPositions::getRIGHTNative));
+
+        private final int value;
+
+        HorCloseBarPositions(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static HorCloseBarPositions fromValue(int value) {
+            for (HorCloseBarPositions c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getLEFTNative();
+
+        private static native int getMIDDLENative();
+
+        private static native int getRIGHTNative();
+    }
+
+    /** A node without points, with the toolkit's defaults. */
+    public PoHighLowClose() {
+        super(ctorImpl());
+    }
+
+    /**
+     * A chart of the first num values of each list.
+     *
+     * @throws IllegalArgumentException when num is negative or more than a list
+     * @throws NullPointerException when a list is null
+     */
+    public PoHighLowClose(int num, float[] x, float[] high, float[] low, float[] close) {
+        super(ctorImpl1(Checks.count(num, Integer.MAX_VALUE, "num"), Checks.length(x, num, "x"),
+                Checks.length(high, num, "high"),
+                Checks.length(low, num, "low"), Checks.length(close, num, "close")));
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+    private static native long ctorImpl();
+
+    private static native long ctorImpl1(int num, float[] x, float[] high, float[] low, float[] close);
+}

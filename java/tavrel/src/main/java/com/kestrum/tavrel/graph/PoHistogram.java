@@ -1,0 +1,349 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/** Base of the histograms: the attribute objects that colour and label their bars. */
+public abstract class PoHistogram extends PoChart {
+    static {
+        JarInitializer.init();
+    }
+
+    /** The axis along which the bars of a histogram are laid out. */
+    public enum Types {
+        /** X */
+        X(JarInitializer.value(Types::getXNative)),
+        /** Y */
+        Y(JarInitializer.value(Types::getYNative));
+
+        private final int value;
+
+        Types(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Types fromValue(int value) {
+            for (Types c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getXNative();
+
+        private static native int getYNative();
+    }
+
+    /** Where a bar's text goes. */
+    public enum Positions {
+        /** POSTOPOUT */
+        POSTOPOUT(JarInitializer.value(Positions::getPOSTOPOUTNative)),
+        /** POSTOPIN */
+        POSTOPIN(JarInitializer.value(Positions::getPOSTOPINNative)),
+        /** POSBOTTOMOUT */
+        POSBOTTOMOUT(JarInitializer.value(Positions::getPOSBOTTOMOUTNative)),
+        /** POSBOTTOMIN */
+        POSBOTTOMIN(JarInitializer.value(Positions::getPOSBOTTOMINNative)),
+        /** POSRIGHTOUT */
+        POSRIGHTOUT(JarInitializer.value(Positions::getPOSRIGHTOUTNative)),
+        /** POSRIGHTIN */
+        POSRIGHTIN(JarInitializer.value(Positions::getPOSRIGHTINNative)),
+        /** POSLEFTOUT */
+        POSLEFTOUT(JarInitializer.value(Positions::getPOSLEFTOUTNative)),
+        /** POSLEFTIN */
+        POSLEFTIN(JarInitializer.value(Positions::getPOSLEFTINNative)),
+        /** POSCENTER */
+        POSCENTER(JarInitializer.value(Positions::getPOSCENTERNative)),
+        /** POSDEPEND */
+        POSDEPEND(JarInitializer.value(Positions::getPOSDEPENDNative));
+
+        private final int value;
+
+        Positions(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Positions fromValue(int value) {
+            for (Positions c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getPOSTOPOUTNative();
+
+        private static native int getPOSTOPINNative();
+
+        private static native int getPOSBOTTOMOUTNative();
+
+        private static native int getPOSBOTTOMINNative();
+
+        private static native int getPOSRIGHTOUTNative();
+
+        private static native int getPOSRIGHTINNative();
+
+        private static native int getPOSLEFTOUTNative();
+
+        private static native int getPOSLEFTINNative();
+
+        private static native int getPOSCENTERNative();
+
+        private static native int getPOSDEPENDNative();
+    }
+
+    /** Whether a text is shown. */
+    public enum Visibilities {
+        /** VISIBILITYOFF */
+        VISIBILITYOFF(JarInitializer.value(Visibilities::getVISIBILITYOFFNative)),
+        /** VISIBILITYON */
+        VISIBILITYON(JarInitializer.value(Visibilities::getVISIBILITYONNative));
+
+        private final int value;
+
+        Visibilities(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Visibilities fromValue(int value) {
+            for (Visibilities c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getVISIBILITYOFFNative();
+
+        private static native int getVISIBILITYONNative();
+    }
+
+    /** The direction in which a text is written. */
+    public enum TextPaths {
+        /** PATHRIGHT */
+        PATHRIGHT(JarInitializer.value(TextPaths::getPATHRIGHTNative)),
+        /** PATHLEFT */
+        PATHLEFT(JarInitializer.value(TextPaths::getPATHLEFTNative)),
+        /** PATHUP */
+        PATHUP(JarInitializer.value(TextPaths::getPATHUPNative)),
+        /** PATHDOWN */
+        PATHDOWN(JarInitializer.value(TextPaths::getPATHDOWNNative)),
+        /** PATHDEPEND */
+        PATHDEPEND(JarInitializer.value(TextPaths::getPATHDEPENDNative));
+
+        private final int value;
+
+        TextPaths(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static TextPaths fromValue(int value) {
+            for (TextPaths c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getPATHRIGHTNative();
+
+        private static native int getPATHLEFTNative();
+
+        private static native int getPATHUPNative();
+
+        private static native int getPATHDOWNNative();
+
+        private static native int getPATHDEPENDNative();
+    }
+
+    /** Whether the space between bars is relative or fixed. */
+    public enum BarSpaceTypes {
+        /** RELSPACE */
+        RELSPACE(JarInitializer.value(BarSpaceTypes::getRELSPACENative)),
+        /** FIXEDSPACE */
+        FIXEDSPACE(JarInitializer.value(BarSpaceTypes::getFIXEDSPACENative));
+
+        private final int value;
+
+        BarSpaceTypes(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static BarSpaceTypes fromValue(int value) {
+            for (BarSpaceTypes c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getRELSPACENative();
+
+        private static native int getFIXEDSPACENative();
+    }
+
+    /** Where the colours of the bars come from. */
+    public enum Colorings {
+        /** COLORLIST */
+        COLORLIST(JarInitializer.value(Colorings::getCOLORLISTNative)),
+        /** DATAMAPPING */
+        DATAMAPPING(JarInitializer.value(Colorings::getDATAMAPPINGNative));
+
+        private final int value;
+
+        Colorings(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Colorings fromValue(int value) {
+            for (Colorings c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getCOLORLISTNative();
+
+        private static native int getDATAMAPPINGNative();
+    }
+
+    private PbMiscTextAttr miscTextAttr;
+    private PbDataMapping dataMapping;
+    private PbNumericDisplayFormat format;
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoHistogram(long handle) {
+        super(handle);
+    }
+
+    /**
+     * Sets the text attributes of the bars' texts; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
+        setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
+        this.miscTextAttr = miscTextAttr;
+    }
+
+    /**
+     * The text attributes of the bars' texts, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbMiscTextAttr getMiscTextAttr() {
+        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
+    }
+
+    /**
+     * Sets the data mapping that colours the bars; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setDataMapping(PbDataMapping dataMapping) {
+        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        this.dataMapping = dataMapping;
+    }
+
+    /**
+     * The data mapping that colours the bars, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbDataMapping getDataMapping() {
+        return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
+    }
+
+    /**
+     * Sets the numeric format of the bars' values; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setFormat(PbNumericDisplayFormat format) {
+        setFormatImpl(handle(), handleOrZero(format, "format"));
+        this.format = format;
+    }
+
+    /**
+     * The numeric format of the bars' values, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbNumericDisplayFormat getFormat() {
+        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+
+    private native void setMiscTextAttrImpl(long handle, long miscTextAttr);
+
+    private native long getMiscTextAttrImpl(long handle);
+
+    private native void setDataMappingImpl(long handle, long dataMapping);
+
+    private native long getDataMappingImpl(long handle);
+
+    private native void setFormatImpl(long handle, long format);
+
+    private native long getFormatImpl(long handle);
+}

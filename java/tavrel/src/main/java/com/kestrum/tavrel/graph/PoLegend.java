@@ -1,0 +1,238 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/** Base of the legends: the text attributes of their texts. */
+public abstract class PoLegend extends PoBase {
+    static {
+        JarInitializer.init();
+    }
+
+    /** Whether a part of the legend is shown. */
+    public enum Visibilities {
+        /** VISIBILITYOFF */
+        VISIBILITYOFF(JarInitializer.value(Visibilities::getVISIBILITYOFFNative)),
+        /** VISIBILITYON */
+        VISIBILITYON(JarInitializer.value(Visibilities::getVISIBILITYONNative));
+
+        private final int value;
+
+        Visibilities(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Visibilities fromValue(int value) {
+            for (Visibilities c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getVISIBILITYOFFNative();
+
+        private static native int getVISIBILITYONNative();
+    }
+
+    /** The direction in which a text is written. */
+    public enum TextPaths {
+        /** PATHRIGHT */
+        PATHRIGHT(JarInitializer.value(TextPaths::getPATHRIGHTNative)),
+        /** PATHLEFT */
+        PATHLEFT(JarInitializer.value(TextPaths::getPATHLEFTNative)),
+        /** PATHUP */
+        PATHUP(JarInitializer.value(TextPaths::getPATHUPNative)),
+        /** PATHDOWN */
+        PATHDOWN(JarInitializer.value(TextPaths::getPATHDOWNNative));
+
+        private final int value;
+
+        TextPaths(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static TextPaths fromValue(int value) {
+            for (TextPaths c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getPATHRIGHTNative();
+
+        private static native int getPATHLEFTNative();
+
+        private static native int getPATHUPNative();
+
+        private static native int getPATHDOWNNative();
+    }
+
+    /** Where the legend's title goes. */
+    public enum Positions {
+        /** POSBOTTOM */
+        POSBOTTOM(JarInitializer.value(Positions::getPOSBOTTOMNative)),
+        /** POSTOP */
+        POSTOP(JarInitializer.value(Positions::getPOSTOPNative)),
+        /** POSRIGHT */
+        POSRIGHT(JarInitializer.value(Positions::getPOSRIGHTNative)),
+        /** POSLEFT */
+        POSLEFT(JarInitializer.value(Positions::getPOSLEFTNative));
+
+        private final int value;
+
+        Positions(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static Positions fromValue(int value) {
+            for (Positions c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getPOSBOTTOMNative();
+
+        private static native int getPOSTOPNative();
+
+        private static native int getPOSRIGHTNative();
+
+        private static native int getPOSLEFTNative();
+    }
+
+    /** Whether the margins are relative or fixed. */
+    public enum MarginTypes {
+        /** RELMARGIN */
+        RELMARGIN(JarInitializer.value(MarginTypes::getRELMARGINNative)),
+        /** FIXEDMARGIN */
+        FIXEDMARGIN(JarInitializer.value(MarginTypes::getFIXEDMARGINNative));
+
+        private final int value;
+
+        MarginTypes(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static MarginTypes fromValue(int value) {
+            for (MarginTypes c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getRELMARGINNative();
+
+        private static native int getFIXEDMARGINNative();
+    }
+
+    /** The direction in which the items follow each other. */
+    public enum IncrementTypes {
+        /** VERTICALINCREMENT */
+        VERTICALINCREMENT(JarInitializer.value(IncrementTypes::getVERTICALINCREMENTNative)),
+        /** HORIZONTALINCREMENT */
+        HORIZONTALINCREMENT(JarInitializer.value(IncrementTypes::getHORIZONTALINCREMENTNative));
+
+        private final int value;
+
+        IncrementTypes(int value) {
+            this.value = value;
+        }
+
+        /** The toolkit's value of the constant. */
+        public int getValue() {
+            return value;
+        }
+
+        /** The constant with the toolkit's value, or null. */
+        public static IncrementTypes fromValue(int value) {
+            for (IncrementTypes c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getVERTICALINCREMENTNative();
+
+        private static native int getHORIZONTALINCREMENTNative();
+    }
+
+    private PbMiscTextAttr miscTextAttr;
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoLegend(long handle) {
+        super(handle);
+    }
+
+    /**
+     * Sets the text attributes of the legend's texts; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
+        setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
+        this.miscTextAttr = miscTextAttr;
+    }
+
+    /**
+     * The text attributes of the legend's texts, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbMiscTextAttr getMiscTextAttr() {
+        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+
+    private native void setMiscTextAttrImpl(long handle, long miscTextAttr);
+
+    private native long getMiscTextAttrImpl(long handle);
+}

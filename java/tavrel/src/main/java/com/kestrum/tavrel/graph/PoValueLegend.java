@@ -1,0 +1,107 @@
+package com.kestrum.tavrel.graph;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+
+/** Base of the value legends, which show how values map to colours. */
+public abstract class PoValueLegend extends PoLegend {
+    static {
+        JarInitializer.init();
+    }
+
+    private PbIsovaluesList isovaluesList;
+    private PbDataMapping dataMapping;
+    private PbNumericDisplayFormat format;
+
+    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    protected PoValueLegend(long handle) {
+        super(handle);
+    }
+
+    /**
+     * Sets the isovalue list whose values the legend shows; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setIsovaluesList(PbIsovaluesList isovaluesList) {
+        setIsovaluesListImpl(handle(), handleOrZero(isovaluesList, "isovaluesList"));
+        this.isovaluesList = isovaluesList;
+    }
+
+    /**
+     * The isovalue list whose values the legend shows, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbIsovaluesList getIsovaluesList() {
+        return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);
+    }
+
+    /**
+     * Sets the data mapping that colours the legend's boxes; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setDataMapping(PbDataMapping dataMapping) {
+        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        this.dataMapping = dataMapping;
+    }
+
+    /**
+     * The data mapping that colours the legend's boxes, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbDataMapping getDataMapping() {
+        return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
+    }
+
+    /**
+     * Sets the numeric format of the legend's values; null for none.
+     *
+     * <p>The node keeps the object's address, so this object keeps the Java object as long as it
+     * is set.
+     */
+    public void setFormat(PbNumericDisplayFormat format) {
+        setFormatImpl(handle(), handleOrZero(format, "format"));
+        this.format = format;
+    }
+
+    /**
+     * The numeric format of the legend's values, or null for none: the Java object set earlier
+     * while the node still holds its address, else the registered Java object of that address
+     * or a view of it.
+     */
+    public PbNumericDisplayFormat getFormat() {
+        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+    }
+
+    /** The name of the class's toolkit type. */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    public static long getClassNodekitCatalog() {
+        return getClassNodekitCatalogImpl();
+    }
+
+    private static native String getClassTypeId();
+
+    private static native long getClassNodekitCatalogImpl();
+
+
+    private native void setIsovaluesListImpl(long handle, long isovaluesList);
+
+    private native long getIsovaluesListImpl(long handle);
+
+    private native void setDataMappingImpl(long handle, long dataMapping);
+
+    private native long getDataMappingImpl(long handle);
+
+    private native void setFormatImpl(long handle, long format);
+
+    private native long getFormatImpl(long handle);
+}
