@@ -110,7 +110,7 @@ class MisuseRegressionTest {
         SoField field = probe.getField("position");
         probe.dispose();
         field.setValue("1 2 3");
-        String text = "field " + field.getName() + ": " + field.getValue() + ", node references: "
+        String text = "field " + field.getName() + ": " + field.get() + ", node references: "
                 + Nodes.refCount(node);
         Nodes.ref(node);  // keeps the node for the count after the field has let go
         field.dispose();
