@@ -291,19 +291,26 @@ class PoMeshProbePointTest {
 
     @Test
     void movingTheProbeRaisesItsEventsInOrder() {
+        // The probe hands on the cells it is given only while they are cells of its own mesh.
+        PbRegularCartesianGrid2D grid = new PbRegularCartesianGrid2D(3, 2, 0, 0, 2, 1, true);
+        probe.setMesh(grid);
+        long cellA = grid.getCell(0).getNativeResourceHandleInternal();
+        long cellB = grid.getCell(1).getNativeResourceHandleInternal();
         for (Setter s : Setter.values()) {
             s.set.set(probe, recorder(s.name), null);
         }
         Probes.moveTo(handle, -1, 0, 0, 0, -1);
-        Probes.moveTo(handle, 0.25f, 0, 0, CELL_A, 5);
-        Probes.moveTo(handle, 0.5f, 0, 0, CELL_A, 5);
-        Probes.moveTo(handle, 1.5f, 0, 0, CELL_B, 6);
+        Probes.moveTo(handle, 0.25f, 0, 0, cellA, 0);
+        Probes.moveTo(handle, 0.5f, 0, 0, cellA, 0);
+        Probes.moveTo(handle, 1.5f, 0, 0, cellB, 1);
         Probes.moveTo(handle, 3, 0, 0, 0, -1);
 
+        String a = Long.toHexString(cellA);
+        String b = Long.toHexString(cellB);
         assertEquals(List.of("Motion@0",
-                "EnterMesh@ce11a0", "ChangeCell@ce11a0", "Motion@ce11a0",
-                "Motion@ce11a0",
-                "ChangeCell@ce11b0", "Motion@ce11b0",
+                "EnterMesh@" + a, "ChangeCell@" + a, "Motion@" + a,
+                "Motion@" + a,
+                "ChangeCell@" + b, "Motion@" + b,
                 "LeaveMesh@0", "Motion@0"), briefs());
     }
 
