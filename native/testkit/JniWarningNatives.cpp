@@ -125,3 +125,14 @@ extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_pr
   // More local references than a native method may hold without asking.
   for (int i = 0; i < 40; ++i) env->NewStringUTF("leak");
 }
+
+extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_provokeExceptionPendingWarning(
+    JNIEnv* env, jclass) {
+  // A call that JNI forbids while an exception is pending.
+  jclass cls = env->FindClass("java/lang/IllegalStateException");
+  env->ThrowNew(cls, "pending");
+  env->DeleteLocalRef(cls);
+  jclass again = env->FindClass("java/lang/String");
+  env->ExceptionClear();
+  env->DeleteLocalRef(again);
+}

@@ -19,6 +19,9 @@ public final class JniWarnings {
     /** Makes the JVM print a local-reference warning (to check that warnings are seen). */
     public static native void provokeLocalReferenceWarning();
 
+    /** Makes the JVM print a warning for a JNI call made while an exception is pending. */
+    public static native void provokeExceptionPendingWarning();
+
     /** The warnings printed since the last call. */
     public static List<String> take() {
         return Arrays.asList(drain());
