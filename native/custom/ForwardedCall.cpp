@@ -1,5 +1,6 @@
 #include "custom/ForwardedCall.h"
 
+#include <Corvel/SoModuleCheck.h>
 #include <CorvelJNI/ExceptionHelper.h>
 #include <CorvelJNI/ICustomClass.h>
 #include <CorvelJNI/JNIEnvHelper.h>
@@ -7,6 +8,8 @@
 #include <CorvelJNI/StringHelper.h>
 
 #include <cstdint>
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 namespace tavrel {
 namespace custom {
