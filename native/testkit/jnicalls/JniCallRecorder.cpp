@@ -6,6 +6,9 @@
 // signatures, field and method names and signatures, strings, indices,
 // lengths, release modes), and the references it makes and frees are counted.
 //
+// The environment lookups of a recording thread (GetEnv of the JavaVM's
+// invocation interface) are recorded too, as "GetEnv(<version>) -> <result>".
+//
 // How the calls are seen. When the VM starts, the agent takes the JVM's JNI
 // function table (GetJNIFunctionTable) and builds a second one, whose every
 // function records the call when its thread is recording and then calls the
@@ -16,10 +19,13 @@
 // functions called here are the checking ones: a call is recorded, then checked
 // and carried out exactly as without the recorder.
 //
-// Cost when nobody records: none. The recording table is installed when the
-// first thread starts recording and the JVM's table is put back when the last
-// one stops (each a short VM operation); while it is installed, a thread that
-// is not recording passes through one counter check and one lookup.
+// The invocation interface has no such JVMTI function: the JavaVM's pointer to
+// it is set to a copy whose GetEnv records.
+//
+// Cost when nobody records: none. The recording tables are installed when the
+// first thread starts recording and the JVM's are put back when the last one
+// stops (a short VM operation each time); while they are installed, a thread
+// that is not recording passes through one counter check and one lookup.
 //
 // A variadic function (CallVoidMethod, NewObject, ...) is recorded under its
 // own name and carried out by the JVM's form with a va_list. Note that the C++
@@ -54,6 +60,7 @@ enum Function : int {
 #include "JniFunctions.def"
 #undef JNI_PLAIN
 #undef JNI_VARARGS
+  kGetEnv,  // of the JavaVM's invocation interface
   kFunctionCount
 };
 
@@ -63,6 +70,7 @@ constexpr const char* kNames[kFunctionCount] = {
 #include "JniFunctions.def"
 #undef JNI_PLAIN
 #undef JNI_VARARGS
+    "GetEnv",
 };
 
 jvmtiEnv* jvmti = nullptr;
@@ -73,6 +81,12 @@ jniNativeInterface* recordingTable = nullptr;
 // The JVM's functions, by Function.
 void* jvmFunctions[kFunctionCount];
 
+// The JavaVM (there is one) and its invocation interface: the JVM's, and one
+// whose GetEnv records the environment lookups of a recording thread.
+JavaVM* javaVm = nullptr;
+const JNIInvokeInterface_* jvmInvocation = nullptr;
+JNIInvokeInterface_ recordingInvocation;
+
 std::mutex installMutex;
 int installedRecorders = 0;
 
@@ -80,27 +94,32 @@ int installedRecorders = 0;
 
 constexpr std::size_t kMaxCalls = 200000;
 
-// The code of the JDK's own libraries (libjvm.so, libjava.so, ...), by
-// address range.
+// The code of a loaded library, by address range, and whether the library is
+// one of the JDK's own (libjvm.so, libjava.so, ...).
 struct CodeRange {
   std::uintptr_t start, end;
+  bool jdk;
 };
 
-struct Recorder {
-  Recorder(JNIEnv* env, bool keepCalls, std::vector<CodeRange> jdkCode)
-      : env(env), keepCalls(keepCalls), jdkCode(std::move(jdkCode)) {}
+bool jdkMethodRunning(JNIEnv* env);
 
-  // True for a call made by the JDK's own native code.
+struct Recorder {
+  Recorder(JNIEnv* env, bool keepCalls, std::vector<CodeRange> code)
+      : env(env), keepCalls(keepCalls), code(std::move(code)) {}
+
+  // True for a call made by the JDK's own native code: from one of its
+  // libraries, or from code the JVM generated (outside every library) while a
+  // native method of the JDK's runs.
   bool fromJdk(const void* returnAddress) const {
     auto a = reinterpret_cast<std::uintptr_t>(returnAddress);
-    for (const CodeRange& r : jdkCode)
-      if (a >= r.start && a < r.end) return true;
-    return false;
+    for (const CodeRange& r : code)
+      if (a >= r.start && a < r.end) return r.jdk;
+    return jdkMethodRunning(env);
   }
 
   JNIEnv* env;
   bool keepCalls;
-  std::vector<CodeRange> jdkCode;
+  std::vector<CodeRange> code;
   std::vector<std::string> calls;
   bool truncated = false;
   long counts[kFunctionCount] = {};
@@ -352,7 +371,7 @@ void end(Recorder& r, int id, std::size_t index, R result, A... args) {
 }
 
 // Runs the JVM's function, recording the call when the thread records and the
-// caller (the return address) is not the JDK's own code.
+// caller (known by the return address) is not the JDK's own code.
 template <class R, class... P, class... A>
 R invoke(int id, const void* caller, R (*jvmFunction)(JNIEnv*, P...), JNIEnv* env, A... args) {
   Recorder* r = recorderOf(env);
@@ -417,6 +436,22 @@ struct Varargs<Id, VId, R(JNICALL*)(JNIEnv*, T, U, jmethodID, ...), FV> {
   }
 };
 
+// GetEnv of the invocation interface: recorded when it finds the environment
+// of a recording thread (a thread without one records nothing).
+jint JNICALL recordingGetEnv(JavaVM* vm, void** penv, jint version) {
+  const void* caller = __builtin_return_address(0);
+  jint rc = jvmInvocation->GetEnv(vm, penv, version);
+  const bool jni = (version & 0x30000000) == 0;  // not a JVMTI version
+  if (rc != JNI_OK || !jni || penv == nullptr) return rc;
+  Recorder* r = recorderOf(static_cast<JNIEnv*>(*penv));
+  if (r == nullptr || r->fromJdk(caller)) return rc;
+  char text[16];
+  std::snprintf(text, sizeof text, "0x%x", static_cast<unsigned>(version));
+  std::size_t index = begin(*r, kGetEnv);
+  if (r->keepCalls && index < r->calls.size()) r->calls[index] = std::string("GetEnv(") + text + ") -> " + std::to_string(rc);
+  return rc;
+}
+
 void buildRecordingTable() {
 #define JNI_PLAIN(name)                                                         \
   jvmFunctions[k##name] = reinterpret_cast<void*>(jvmTable->name);              \
@@ -430,7 +465,12 @@ void buildRecordingTable() {
 #undef JNI_VARARGS
 }
 
-bool setTable(const jniNativeInterface* table) { return jvmti->SetJNIFunctionTable(table) == JVMTI_ERROR_NONE; }
+// Installs the recording tables, or puts the JVM's back.
+bool install(bool recording) {
+  if (jvmti->SetJNIFunctionTable(recording ? recordingTable : jvmTable) != JVMTI_ERROR_NONE) return false;
+  javaVm->functions = recording ? &recordingInvocation : jvmInvocation;
+  return true;
+}
 
 // The folder of the JDK's libraries: the parent of libjvm.so's folder.
 std::string jdkLibraryFolder() {
@@ -450,29 +490,43 @@ std::string jdkLibraryFolder() {
 
 std::string jdkFolder;
 
-// The executable code of the JDK's libraries loaded now.
-std::vector<CodeRange> jdkCode() {
+// The executable code of the libraries loaded now.
+std::vector<CodeRange> loadedCode() {
   std::vector<CodeRange> ranges;
-  if (jdkFolder.empty()) return ranges;
   dl_iterate_phdr(
       [](dl_phdr_info* object, std::size_t, void* data) {
-        if (object->dlpi_name == nullptr || object->dlpi_name[0] == '\0') return 0;
-        char* real = realpath(object->dlpi_name, nullptr);
-        if (real == nullptr) return 0;
-        bool inJdk = std::strncmp(real, jdkFolder.c_str(), jdkFolder.size()) == 0;
-        std::free(real);
-        if (!inJdk) return 0;
+        bool jdk = false;
+        if (object->dlpi_name != nullptr && object->dlpi_name[0] != '\0' && !jdkFolder.empty()) {
+          char* real = realpath(object->dlpi_name, nullptr);
+          jdk = real != nullptr && std::strncmp(real, jdkFolder.c_str(), jdkFolder.size()) == 0;
+          std::free(real);
+        }
         auto& out = *static_cast<std::vector<CodeRange>*>(data);
         for (int i = 0; i < object->dlpi_phnum; ++i) {
           const ElfW(Phdr)& segment = object->dlpi_phdr[i];
           if (segment.p_type != PT_LOAD || (segment.p_flags & PF_X) == 0) continue;
           std::uintptr_t start = object->dlpi_addr + segment.p_vaddr;
-          out.push_back(CodeRange{start, start + segment.p_memsz});
+          out.push_back(CodeRange{start, start + segment.p_memsz, jdk});
         }
         return 0;
       },
       &ranges);
   return ranges;
+}
+
+// True when the innermost Java frame of this thread is a native method of a
+// JDK class (java.*, javax.*, jdk.*, sun.*).
+bool jdkMethodRunning(JNIEnv* env) {
+  jmethodID method = nullptr;
+  jlocation location = 0;
+  if (jvmti->GetFrameLocation(nullptr, 0, &method, &location) != JVMTI_ERROR_NONE || method == nullptr) return false;
+  jclass declaring = nullptr;
+  if (jvmti->GetMethodDeclaringClass(method, &declaring) != JVMTI_ERROR_NONE) return false;
+  std::string signature = describe(declaring);
+  reinterpret_cast<void (*)(JNIEnv*, jobject)>(jvmFunctions[kDeleteLocalRef])(env, declaring);
+  for (const char* prefix : {"Ljava/", "Ljavax/", "Ljdk/", "Lsun/"})
+    if (signature.rfind(prefix, 0) == 0) return true;
+  return false;
 }
 
 void JNICALL vmInit(jvmtiEnv* env, JNIEnv*, jthread) {
@@ -481,6 +535,9 @@ void JNICALL vmInit(jvmtiEnv* env, JNIEnv*, jthread) {
   if (env->GetJNIFunctionTable(&found) != JVMTI_ERROR_NONE) return;
   if (env->GetJNIFunctionTable(&copy) != JVMTI_ERROR_NONE) return;
   jvmTable = found;
+  jvmInvocation = javaVm->functions;
+  recordingInvocation = *jvmInvocation;
+  recordingInvocation.GetEnv = &recordingGetEnv;
   recordingTable = copy;
   buildRecordingTable();
   jdkFolder = jdkLibraryFolder();
@@ -492,6 +549,7 @@ extern "C" {
 
 JNIEXPORT jint JNICALL Agent_OnLoad(JavaVM* vm, char*, void*) {
   if (vm->GetEnv(reinterpret_cast<void**>(&jvmti), JVMTI_VERSION_1_2) != JNI_OK) return JNI_ERR;
+  javaVm = vm;
   jvmtiEventCallbacks callbacks;
   std::memset(&callbacks, 0, sizeof callbacks);
   callbacks.VMInit = &vmInit;
@@ -514,12 +572,12 @@ JNIEXPORT jboolean JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_start(JNIEnv
     if (slot.env.load() == env) return JNI_FALSE;
   {
     std::lock_guard<std::mutex> lock(installMutex);
-    if (installedRecorders == 0 && !setTable(recordingTable)) return JNI_FALSE;
+    if (installedRecorders == 0 && !install(true)) return JNI_FALSE;
     ++installedRecorders;
   }
   // A slot is claimed with a compare-exchange (another thread may be claiming
   // one too); only its owner reads its recorder.
-  Recorder* recorder = new Recorder(env, keepCalls != JNI_FALSE, jdkCode());
+  Recorder* recorder = new Recorder(env, keepCalls != JNI_FALSE, loadedCode());
   for (Slot& slot : slots) {
     JNIEnv* expected = nullptr;
     if (slot.env.compare_exchange_strong(expected, env)) {
@@ -530,7 +588,7 @@ JNIEXPORT jboolean JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_start(JNIEnv
   }
   delete recorder;
   std::lock_guard<std::mutex> lock(installMutex);
-  if (--installedRecorders == 0) setTable(jvmTable);
+  if (--installedRecorders == 0) install(false);
   return JNI_FALSE;
 }
 
@@ -549,7 +607,7 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_stop(JNIEnv* en
   if (recorder == nullptr) return 0;
   {
     std::lock_guard<std::mutex> lock(installMutex);
-    if (--installedRecorders == 0) setTable(jvmTable);
+    if (--installedRecorders == 0) install(false);
   }
   return static_cast<jlong>(reinterpret_cast<std::intptr_t>(recorder));
 }

@@ -41,6 +41,9 @@ import java.util.Map;
  * members of {@code JNIEnv} ({@code env->CallVoidMethod(...)}) call the {@code va_list} forms,
  * so C++ code shows as {@code CallVoidMethodV}.
  *
+ * <p>The thread's environment lookups, {@code GetEnv} of the {@code JavaVM}, are recorded as well,
+ * as {@code GetEnv(0x10008) -> 0} (the JNI version asked for, the result).
+ *
  * <p>Local references count as made by every function that returns a non-null reference other
  * than {@code NewGlobalRef} and {@code NewWeakGlobalRef}, and as freed by {@code DeleteLocalRef}
  * of a non-null one; the references a native method holds when it returns are freed by the JVM
