@@ -9,6 +9,14 @@
 // The environment lookups of a recording thread (GetEnv of the JavaVM's
 // invocation interface) are recorded too, as "GetEnv(<version>) -> <result>".
 //
+// Calls that the JDK's own native code makes on a recording thread (class
+// loading, linking native methods, ...) are left out: those whose return
+// address lies in a library of the JDK's lib folder, and those from code the
+// JVM generated (outside every library) while the innermost Java frame is a
+// method of a JDK class. The caller is known by its return address only for
+// this: code that jumps to a JNI function as its last act (a tail call) leaves
+// its caller's address, so the recorder makes no finer distinction.
+//
 // How the calls are seen. When the VM starts, the agent takes the JVM's JNI
 // function table (GetJNIFunctionTable) and builds a second one, whose every
 // function records the call when its thread is recording and then calls the
@@ -25,7 +33,10 @@
 // Cost when nobody records: none. The recording tables are installed when the
 // first thread starts recording and the JVM's are put back when the last one
 // stops (a short VM operation each time); while they are installed, a thread
-// that is not recording passes through one counter check and one lookup.
+// that is not recording passes through one counter check and one lookup. With
+// the agent option "installed" (-agentpath:<library>=installed) the recording
+// tables stay installed from the start, so that the cost of passing through
+// them can be measured.
 //
 // A variadic function (CallVoidMethod, NewObject, ...) is recorded under its
 // own name and carried out by the JVM's form with a va_list. Note that the C++
@@ -88,7 +99,8 @@ const JNIInvokeInterface_* jvmInvocation = nullptr;
 JNIInvokeInterface_ recordingInvocation;
 
 std::mutex installMutex;
-int installedRecorders = 0;
+int installedRecorders = 0;  // recording threads, and 1 for the option "installed"
+bool alwaysInstalled = false;
 
 // --- one thread's recording ----------------------------------------------------
 
@@ -371,9 +383,10 @@ void end(Recorder& r, int id, std::size_t index, R result, A... args) {
 }
 
 // Runs the JVM's function, recording the call when the thread records and the
-// caller (known by the return address) is not the JDK's own code.
+// caller (known by the return address) is not the JDK's own code. Kept out of
+// line: the tables' functions only come here while some thread records.
 template <class R, class... P, class... A>
-R invoke(int id, const void* caller, R (*jvmFunction)(JNIEnv*, P...), JNIEnv* env, A... args) {
+[[gnu::noinline]] R record(int id, const void* caller, R (*jvmFunction)(JNIEnv*, P...), JNIEnv* env, A... args) {
   Recorder* r = recorderOf(env);
   if (r == nullptr || r->fromJdk(caller)) return jvmFunction(env, args...);
   std::size_t index = begin(*r, id, args...);
@@ -384,6 +397,13 @@ R invoke(int id, const void* caller, R (*jvmFunction)(JNIEnv*, P...), JNIEnv* en
     end(*r, id, index, result, args...);
     return result;
   }
+}
+
+// The JVM's function straight away while no thread records.
+template <class R, class... P, class... A>
+inline R invoke(int id, const void* caller, R (*jvmFunction)(JNIEnv*, P...), JNIEnv* env, A... args) {
+  if (__builtin_expect(recordingThreads.load(std::memory_order_relaxed) == 0, 1)) return jvmFunction(env, args...);
+  return record(id, caller, jvmFunction, env, args...);
 }
 
 // --- the recording table's functions -----------------------------------------------
@@ -541,13 +561,18 @@ void JNICALL vmInit(jvmtiEnv* env, JNIEnv*, jthread) {
   recordingTable = copy;
   buildRecordingTable();
   jdkFolder = jdkLibraryFolder();
+  if (alwaysInstalled) {
+    std::lock_guard<std::mutex> lock(installMutex);
+    if (install(true)) installedRecorders = 1;
+  }
 }
 
 }  // namespace
 
 extern "C" {
 
-JNIEXPORT jint JNICALL Agent_OnLoad(JavaVM* vm, char*, void*) {
+JNIEXPORT jint JNICALL Agent_OnLoad(JavaVM* vm, char* options, void*) {
+  alwaysInstalled = options != nullptr && std::strcmp(options, "installed") == 0;
   if (vm->GetEnv(reinterpret_cast<void**>(&jvmti), JVMTI_VERSION_1_2) != JNI_OK) return JNI_ERR;
   javaVm = vm;
   jvmtiEventCallbacks callbacks;
