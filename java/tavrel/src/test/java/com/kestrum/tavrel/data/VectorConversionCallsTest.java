@@ -12,7 +12,6 @@ import com.kestrum.corvel.SbVec3f;
 import com.kestrum.tavrel.testkit.JniCalls;
 import com.kestrum.tavrel.testkit.Natives;
 import java.util.ArrayList;
-import java.util.Collections;
 import java.util.List;
 import java.util.stream.Stream;
 import org.junit.jupiter.api.Test;

@@ -14,6 +14,7 @@ import com.kestrum.tavrel.testkit.Journal;
 import com.kestrum.tavrel.testkit.Probes;
 import com.kestrum.tavrel.testkit.Registrations;
 import java.lang.ref.WeakReference;
+import java.util.Arrays;
 import java.util.List;
 import java.util.function.Function;
 import java.util.stream.Stream;
@@ -65,7 +66,7 @@ class BridgeCallsTest {
             public void raise(int n) {
                 int[] events = new int[n];
                 long[] cells = new long[n];
-                java.util.Arrays.fill(cells, CELL);
+                Arrays.fill(cells, CELL);
                 Probes.raise(handle, events, cells);
             }
 
