@@ -7,6 +7,8 @@
 #include <CorvelJNI/ICustomClass.h>
 #include <CorvelJNI/JNIEnvHelper.h>
 
+#include "common/JavaPeer.h"
+
 namespace tavrel {
 
 // Calls the method "invokeNativ" with the signature on the bridge's Java
@@ -21,23 +23,21 @@ namespace tavrel {
 //   nothing is called.
 // - An exception raised by "invokeNativ" is left pending for Java.
 // The method is looked up on every call; the local references made here are
-// released before returning.
+// released before returning. The calls are listed in README.md ("JNI call
+// sequences").
 template <class... Handles>
 inline void invokeNativ(const ICustomClass& bridge, const char* signature, Handles... handles) {
   JNIEnv* env = JNIEnvHelper::getEnv();
   if (env == nullptr || env->ExceptionCheck()) return;
-  jobject live = env->NewLocalRef(bridge.javaPeer);
+  jobject stored = javaPeerOf(bridge);
+  jobject live = env->NewLocalRef(stored);
   if (live == nullptr) {
     PRINTDBG("DEBUG: Java callback object has been freed!\n");
     return;
   }
-  jclass cls = env->GetObjectClass(bridge.javaPeer);
+  jclass cls = env->GetObjectClass(stored);
   jmethodID method = env->GetMethodID(cls, "invokeNativ", signature);
-  if (method != nullptr) {
-    env->CallVoidMethod(bridge.javaPeer, method, static_cast<jlong>(handles)...);
-    // Checked so that the pending exception counts as seen; it stays pending.
-    static_cast<void>(env->ExceptionCheck());
-  }
+  if (method != nullptr) env->CallVoidMethod(stored, method, static_cast<jlong>(handles)...);
   env->DeleteLocalRef(cls);
   env->DeleteLocalRef(live);
 }

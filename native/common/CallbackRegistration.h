@@ -12,21 +12,19 @@
 namespace tavrel {
 
 // Stores the user data object (null included) in the callback object's field
-// "userData". Returns false, with NoSuchFieldError pending, when its class has
-// no such field.
-inline bool storeUserData(JNIEnv* env, jobject callbackObject, jobject userData) {
+// "userData". When its class has no such field, nothing is stored and
+// NoSuchFieldError is left pending.
+inline void storeUserData(JNIEnv* env, jobject callbackObject, jobject userData) {
   jclass cls = env->GetObjectClass(callbackObject);
   jfieldID field = env->GetFieldID(cls, "userData", "Ljava/lang/Object;");
+  if (field != nullptr) env->SetObjectField(callbackObject, field, userData);
   env->DeleteLocalRef(cls);
-  if (field == nullptr) return false;
-  env->SetObjectField(callbackObject, field, userData);
-  return true;
 }
 
 // Bridge handle 0: the toolkit setter gets a null function and null user data,
 // and the Java objects are not touched (the event is detached). Otherwise the
 // user data is stored first, then the setter installs Bridge::RealCallback
-// with the bridge's address.
+// with the bridge's address, whether or not the user data could be stored.
 template <class Bridge, class Node, class Function>
 inline void registerBridge(JNIEnv* env, jlong node, void (Node::*setter)(Function, void*), jobject callbackObject,
                            jobject userData, jlong bridge) {
@@ -35,7 +33,7 @@ inline void registerBridge(JNIEnv* env, jlong node, void (Node::*setter)(Functio
     (target->*setter)(nullptr, nullptr);
     return;
   }
-  if (!storeUserData(env, callbackObject, userData)) return;
+  storeUserData(env, callbackObject, userData);
   (target->*setter)(&Bridge::RealCallback, fromHandle<void>(bridge));
 }
 

@@ -1,6 +1,10 @@
 #include "common/Version.h"
 
+#include <Corvel/SoModuleCheck.h>
+
 #include "tavrel_revision.h"  // TAVREL_SOURCE_REVISION, written at build time
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 namespace com {
 namespace kestrum {

@@ -1,5 +1,9 @@
 #include "custom/CustomPoCellFilter.h"
 
+#include <Corvel/SoModuleCheck.h>
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
+
 SbThreadMutex* CustomPoCellFilter::classMutex = nullptr;
 SoType* CustomPoCellFilter::classTypeId = nullptr;
 const SoFieldData** CustomPoCellFilter::parentFieldData = nullptr;

@@ -1,5 +1,9 @@
 #include "custom/CustomPoNode.h"
 
+#include <Corvel/SoModuleCheck.h>
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
+
 SbThreadMutex* CustomPoNode::classMutex = nullptr;
 SoType* CustomPoNode::classTypeId = nullptr;
 const SoFieldData** CustomPoNode::parentFieldData = nullptr;

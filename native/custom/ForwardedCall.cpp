@@ -1,5 +1,6 @@
 #include "custom/ForwardedCall.h"
 
+#include <Corvel/SoModuleCheck.h>
 #include <CorvelJNI/ExceptionHelper.h>
 #include <CorvelJNI/ICustomClass.h>
 #include <CorvelJNI/JNIEnvHelper.h>
@@ -7,6 +8,10 @@
 #include <CorvelJNI/StringHelper.h>
 
 #include <cstdint>
+
+#include "common/JavaPeer.h"
+
+static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 namespace tavrel {
 namespace custom {
@@ -16,10 +21,12 @@ ForwardedCall::ForwardedCall(const ICustomClass& object, const char* className, 
     : env(JNIEnvHelper::getEnv()), className(className), operation(operation), handleMethod(handleMethod) {
   // Skipped while an exception is pending: NewLocalRef and every call into
   // Java are forbidden then, and the first exception must reach Java as it is.
-  if (env == nullptr || env->ExceptionCheck() || object.javaPeer == nullptr) return;
+  if (env == nullptr || env->ExceptionCheck()) return;
+  jobject stored = javaPeerOf(object);
+  if (stored == nullptr) return;
   // The reference to the peer is weak: a local reference keeps the peer alive
   // for the call, and is null once the peer has been collected.
-  peer = env->NewLocalRef(object.javaPeer);
+  peer = env->NewLocalRef(stored);
 }
 
 ForwardedCall::~ForwardedCall() {
@@ -34,21 +41,26 @@ jobject ForwardedCall::keep(jobject local) {
 }
 
 jobject ForwardedCall::object(const char* dottedClassName, const void* address) {
-  if (peer == nullptr || env->ExceptionCheck()) return nullptr;
-  return keep(ObjectHelper::getManagedObject(env, dottedClassName,
-                                             static_cast<long>(reinterpret_cast<std::intptr_t>(address))));
+  if (peer == nullptr) return nullptr;
+  jobject converted = ObjectHelper::getManagedObject(env, dottedClassName,
+                                                     static_cast<long>(reinterpret_cast<std::intptr_t>(address)));
+  if (converted == nullptr && address != nullptr) conversionFailed = true;
+  return keep(converted);
 }
 
 jstring ForwardedCall::string(const SbName& name) {
-  if (peer == nullptr || env->ExceptionCheck()) return nullptr;
-  return static_cast<jstring>(keep(StringHelper::fromNativeString(env, name)));
+  if (peer == nullptr) return nullptr;
+  jstring converted = StringHelper::fromNativeString(env, name);
+  if (converted == nullptr && name.getString() != nullptr) conversionFailed = true;
+  return static_cast<jstring>(keep(converted));
 }
 
 bool ForwardedCall::argumentsReady() {
   if (peer == nullptr) return false;
-  // A conversion that failed in Java (no wrapper class, for instance) is
-  // reported like an exception of the Java method itself.
-  return !reportException();
+  // A conversion that gave null may have raised an exception in Java (no
+  // wrapper class, for instance): it is reported like one of the Java method
+  // itself, which is then not called. Without one, null is passed.
+  return !(conversionFailed && reportException());
 }
 
 bool ForwardedCall::reportException() {
@@ -60,14 +72,16 @@ bool ForwardedCall::reportException() {
   return true;
 }
 
+// No exception check follows "getNativeResourceHandleInternal" (a final getter
+// of the binding core's Java class): should it ever throw, its result is 0, a
+// null pointer for the toolkit, and its exception stays pending as it is.
 void* ForwardedCall::handleOf(jobject result) {
   if (result == nullptr) {
     reportException();
     return nullptr;
   }
-  env->ExceptionCheck();  // a method that returned an object raised nothing
+  afterObjectResult();
   jlong handle = env->CallLongMethod(result, handleMethod);
-  if (reportException()) return nullptr;
   return reinterpret_cast<void*>(static_cast<std::intptr_t>(handle));
 }
 
@@ -78,7 +92,7 @@ const char* ForwardedCall::callFileFormatName(jmethodID method, std::string& buf
     reportException();
     return nullptr;
   }
-  env->ExceptionCheck();
+  afterObjectResult();
   StringHelper utf(env, result);
   const char* text = utf.toUTFString();
   buffer.clear();
@@ -100,10 +114,13 @@ SbName ForwardedCall::callName(jmethodID method) {
 bool ForwardedCall::callEnum(jmethodID method, int& value) {
   if (!argumentsReady()) return false;
   jobject result = keep(env->CallObjectMethod(peer, method));
-  if (reportException() || result == nullptr) return false;
-  int converted = ObjectHelper::getEnumValue(env, result);
-  if (reportException()) return false;
-  value = converted;
+  if (result == nullptr) {
+    reportException();
+    return false;
+  }
+  afterObjectResult();
+  value = ObjectHelper::getEnumValue(env, result);
+  reportException();
   return true;
 }
 

@@ -4,12 +4,11 @@
 // A ForwardedCall lives on the stack of the overriding operation. It gets the
 // calling thread's environment and a local reference to the peer, converts the
 // arguments, makes the one JNI call that fits the row's result, checks for a
-// Java exception right after every JNI call, and deletes the local references
-// it made when it goes (a toolkit traversal may forward thousands of calls
-// from one native frame, or run on a thread without a Java frame at all).
-// Object rows check for an exception after a non-null result too, before
-// asking the result for its handle: nothing can be pending then, but every
-// JNI call that may raise is followed by a check, as -Xcheck:jni demands.
+// Java exception, and deletes the local references it made when it goes (a
+// toolkit traversal may forward thousands of calls from one native frame, or
+// run on a thread without a Java frame at all). The JNI calls of each kind of
+// row, and why each goes beyond the plain sequence, are listed in README.md
+// ("JNI call sequences"); the tests hold them exactly.
 //
 // A Java exception raised by the Java method is not cleared: it is reported as
 // a java.lang.IllegalArgumentException with the message
@@ -24,7 +23,10 @@
 // exception is pending on the thread does not call Java at all: it returns the
 // row's neutral value (nothing, false, 0, null, the empty name) and leaves the
 // first exception pending, untouched. The same happens when the peer has been
-// collected (its weak reference gives null) or was never bound.
+// collected (its weak reference gives null) or was never bound. An argument
+// conversion that fails (it gives null for a toolkit object or a name) may have
+// raised a Java exception too: then that exception is reported like one of the
+// Java method, which is not called.
 #pragma once
 
 #include <jni.h>
@@ -103,6 +105,10 @@ class ForwardedCall {
   bool reportException();
   void* handleOf(jobject result);
   jobject keep(jobject local);
+  // After a Java call that returned an object: -Xcheck:jni wants an exception
+  // check before the next JNI call that may call Java. Nothing can be pending
+  // (the method returned normally), so nothing else is done.
+  void afterObjectResult() { static_cast<void>(env->ExceptionCheck()); }
 
   JNIEnv* env = nullptr;
   jobject peer = nullptr;
@@ -111,6 +117,7 @@ class ForwardedCall {
   jmethodID handleMethod;
   jobject locals[4] = {nullptr, nullptr, nullptr, nullptr};  // at most one argument and one result per row
   int numLocals = 0;
+  bool conversionFailed = false;
 };
 
 }  // namespace custom

@@ -20,4 +20,13 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Bridges_raiseRebuild(JNIE
                                   reinterpret_cast<PoBase*>(static_cast<std::intptr_t>(node)));
 }
 
+// count rebuild events in this one native call, as a node that rebuilds before
+// and after.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Bridges_raiseRebuilds(JNIEnv*, jclass, jlong bridge,
+                                                                            jlong node, jint count) {
+  for (jint i = 0; i < count; ++i)
+    PoRebuildCallback::RealCallback(reinterpret_cast<void*>(static_cast<std::intptr_t>(bridge)),
+                                    reinterpret_cast<PoBase*>(static_cast<std::intptr_t>(node)));
+}
+
 }  // extern "C"

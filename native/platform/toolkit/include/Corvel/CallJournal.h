@@ -20,6 +20,10 @@
 //
 // The journal is off by default and costs one relaxed atomic load per call
 // while off. Tests switch it on, clear it, and read it back.
+//
+// Only functions built into the stand-in's libraries record: an inline member
+// that recorded would be built into the product, which would then need the
+// journal's symbols and not load against the real toolkit.
 #pragma once
 
 #include <atomic>

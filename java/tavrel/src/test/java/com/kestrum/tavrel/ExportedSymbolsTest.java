@@ -18,28 +18,69 @@ import java.util.ArrayList;
 import java.util.List;
 import java.util.Set;
 import java.util.TreeSet;
+import java.util.regex.Pattern;
 import java.util.stream.Collectors;
 import java.util.stream.Stream;
 import org.junit.jupiter.api.Test;
 
 /**
  * The product exports exactly the JNI functions of the Java classes' native methods, all of
- * them from the list of the finished library, and nothing else.
+ * them from the list of the finished library, and nothing else; and it needs nothing from the
+ * stand-ins that the real toolkit and binding core do not have.
  */
 class ExportedSymbolsTest {
     private static Set<String> exported() throws IOException, InterruptedException {
-        Path lib = Paths.get(System.getProperty("kestrum.native.dir"), System.mapLibraryName("com.kestrum.tavrel"));
-        Process nm = new ProcessBuilder("nm", "-D", "--defined-only", lib.toString()).redirectErrorStream(true).start();
         Set<String> symbols = new TreeSet<>();
+        for (String line : nm("--defined-only")) {
+            String[] parts = line.trim().split("\\s+");
+            symbols.add(parts[parts.length - 1]);
+        }
+        return symbols;
+    }
+
+    /** The lines of nm -D with the options, on the product. */
+    private static List<String> nm(String... options) throws IOException, InterruptedException {
+        Path lib = Paths.get(System.getProperty("kestrum.native.dir"), System.mapLibraryName("com.kestrum.tavrel"));
+        List<String> command = new ArrayList<>(List.of("nm", "-D"));
+        command.addAll(List.of(options));
+        command.add(lib.toString());
+        Process nm = new ProcessBuilder(command).redirectErrorStream(true).start();
+        List<String> lines;
         try (BufferedReader r = new BufferedReader(new InputStreamReader(nm.getInputStream(), StandardCharsets.UTF_8))) {
-            String line;
-            while ((line = r.readLine()) != null) {
-                String[] parts = line.trim().split("\\s+");
-                symbols.add(parts[parts.length - 1]);
+            lines = r.lines().collect(Collectors.toList());
+        }
+        assertEquals(0, nm.waitFor(), "nm failed: " + lines);
+        return lines;
+    }
+
+    /** What only the stand-ins have: the call journal and their own helpers. */
+    private static final Pattern STAND_IN_ONLY = Pattern.compile("[Jj]ournal|^tk::|^corvel::|Unjournaled");
+
+    /** A symbol of the toolkit's classes (So, Sb, Po, Pb, Pi) or of the binding core. */
+    private static final Pattern TOOLKIT_OR_BINDING_CORE = Pattern.compile(
+            "^(?:(?:typeinfo|typeinfo name|vtable|VTT|guard variable) for )?"
+                    + "(?:(?:So|Sb|Po|Pb|Pi)[A-Z]\\w*|ArrayHelper|StringHelper|StringArrayHelper|ObjectHelper"
+                    + "|ExceptionHelper|JNIEnvHelper|ICustomClass|I\\w+ProtectedMethodAccess)(?:::|$)"
+                    + "|^PRINTDBG\\(");
+
+    /** Symbols of the C and C++ runtimes and of sanitizer runtimes that carry no version. */
+    private static final Pattern RUNTIME = Pattern.compile(
+            "^(?:__gmon_start__|_ITM_\\w+|__cxa_\\w+|__(?:asan|ubsan|lsan|tsan|sanitizer)_\\w+)$");
+
+    @Test
+    void needsNoSymbolThatOnlyTheStandInsHave() throws Exception {
+        List<String> unexpected = new ArrayList<>();
+        for (String line : nm("--undefined-only", "-C")) {
+            String symbol = line.trim().replaceFirst("^[A-Za-z]\\s+", "");
+            if (symbol.contains("@") || RUNTIME.matcher(symbol).matches()) {
+                continue; // versioned: the system's libraries
+            }
+            if (STAND_IN_ONLY.matcher(symbol).find() || !TOOLKIT_OR_BINDING_CORE.matcher(symbol).find()) {
+                unexpected.add(symbol);
             }
         }
-        assertEquals(0, nm.waitFor(), "nm failed");
-        return symbols;
+        assertTrue(unexpected.isEmpty(),
+                "the product needs symbols that are not the toolkit's or the binding core's: " + unexpected);
     }
 
     private static Set<String> expected() throws IOException {

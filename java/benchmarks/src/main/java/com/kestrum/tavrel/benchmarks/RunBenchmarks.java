@@ -17,16 +17,24 @@ import org.openjdk.jmh.runner.options.TimeValue;
  * the 99.9% error of the mean, and its ratio to the baseline measured in the same run.
  *
  * <p>Settings (system properties): {@code bench.forks} (3), {@code bench.warmups} (3),
- * {@code bench.iterations} (5), {@code bench.seconds} (1, per iteration).
+ * {@code bench.iterations} (5), {@code bench.seconds} (1, per iteration), {@code bench.include}
+ * (a regular expression of the benchmarks to run; all three by default). The forked JVMs get
+ * this JVM's options, so a JVM option given here (an agent, for instance) applies to them too.
  */
 public final class RunBenchmarks {
     private RunBenchmarks() {}
 
     public static void main(String[] args) throws RunnerException {
-        Options options = new OptionsBuilder()
-                .include(ThinGetterBenchmark.class.getName())
-                .include(AddVecsSetBenchmark.class.getName())
-                .include(ReadValuesBenchmark.class.getName())
+        String only = System.getProperty("bench.include");
+        OptionsBuilder builder = new OptionsBuilder();
+        if (only != null) {
+            builder.include(only);
+        } else {
+            builder.include(ThinGetterBenchmark.class.getName())
+                    .include(AddVecsSetBenchmark.class.getName())
+                    .include(ReadValuesBenchmark.class.getName());
+        }
+        Options options = builder
                 .forks(Integer.getInteger("bench.forks", 3))
                 .warmupIterations(Integer.getInteger("bench.warmups", 3))
                 .measurementIterations(Integer.getInteger("bench.iterations", 5))

@@ -10,4 +10,7 @@ public final class Bridges {
 
     /** A rebuild event of the node at the address, on the rebuild bridge at the address. */
     public static native void raiseRebuild(long bridge, long node);
+
+    /** count rebuild events of the node within one native call. */
+    public static native void raiseRebuilds(long bridge, long node, int count);
 }

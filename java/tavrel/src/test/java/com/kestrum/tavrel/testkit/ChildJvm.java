@@ -16,10 +16,10 @@ import java.util.regex.Pattern;
  * crash the process sees the crash as a result instead of dying with it.
  *
  * <p>The child gets this JVM's executable, class path, {@code -Xcheck:jni}, its native-access
- * permission, the system properties that locate the native libraries, and this process's
- * environment (so a run under a sanitizer, whose runtime is preloaded through the environment,
- * sanitizes the child too). Its working folder is a new temporary folder, where the JVM writes
- * its error file if it crashes.
+ * permission, the system properties that locate the native libraries, the JNI call recorder
+ * ({@link JniCalls}) when this JVM has it, and this process's environment (so a run under a
+ * sanitizer, whose runtime is preloaded through the environment, sanitizes the child too). Its
+ * working folder is a new temporary folder, where the JVM writes its error file if it crashes.
  */
 public final class ChildJvm {
     /** Lines that only a crash or a sanitizer writes. */
@@ -82,6 +82,10 @@ public final class ChildJvm {
             if (option.startsWith("--enable-native-access=")) {
                 command.add(option);
             }
+        }
+        String agent = System.getProperty("tavrel.jnicalls.agent");
+        if (agent != null) {
+            command.add("-agentpath:" + agent);
         }
         for (String name : FORWARDED_PROPERTIES) {
             String value = System.getProperty(name);

@@ -1,0 +1,99 @@
+package com.kestrum.tavrel.testkit;
+
+import java.util.ArrayList;
+import java.util.Collection;
+import java.util.List;
+
+/**
+ * Expected JNI call sequences ({@link JniCalls}), built from the library's own calls and the calls
+ * that the binding core makes for an operation the library asks of it. The binding core's
+ * calls are those of its stand-in (native/platform/corvel); each operation has one method here,
+ * so that a test states which operation the library uses, not how the binding core works.
+ */
+public final class CoreCalls {
+    /** {@code JNIEnvHelper::getEnv()} on a thread the JVM knows: one environment lookup. */
+    public static final String GET_ENV = "GetEnv(0x10008) -> 0";
+
+    private CoreCalls() {}
+
+    /** The calls, strings and lists of strings, in order, as one list. */
+    public static List<String> sequence(Object... parts) {
+        List<String> out = new ArrayList<>();
+        for (Object p : parts) {
+            if (p instanceof Collection<?> c) {
+                for (Object o : c) {
+                    out.add((String) o);
+                }
+            } else {
+                out.add((String) p);
+            }
+        }
+        return out;
+    }
+
+    /** The call n times. */
+    public static List<String> times(int n, Object... calls) {
+        List<String> one = sequence(calls);
+        List<String> out = new ArrayList<>();
+        for (int i = 0; i < n; i++) {
+            out.addAll(one);
+        }
+        return out;
+    }
+
+    /**
+     * Before an {@code ArrayHelper} that converted an array {@code ReadWrite} copies back: its
+     * check for a pending exception (set aside during the copy).
+     */
+    public static final String COPY_BACK_CHECK = "ExceptionCheck() -> false";
+
+    /** {@code ArrayHelper::toNativeArray} of a Java array of the kind ("Float", "Int", ...) and length. */
+    public static List<String> array(String kind, int length) {
+        return List.of("GetArrayLength() -> " + length, "Get" + kind + "ArrayRegion(0, " + length + ")");
+    }
+
+    /** The copy back of a {@code ReadWrite} array when its {@code ArrayHelper} goes. */
+    public static String copyBack(String kind, int length) {
+        return "Set" + kind + "ArrayRegion(0, " + length + ")";
+    }
+
+    /** {@code ObjectHelper::getManagedObject(env, className, address)} for a non-zero address. */
+    public static List<String> managedObject(String dottedClassName) {
+        return List.of("NewStringUTF(\"" + dottedClassName + "\")",
+                "CallStaticObjectMethodV(Lcom/kestrum/corvel/misc/ManagedObjects;, "
+                        + "getManagedObject(Ljava/lang/String;J)Ljava/lang/Object;)",
+                "ExceptionCheck() -> false",
+                "DeleteLocalRef()");
+    }
+
+    /** {@code StringHelper::fromNativeString} of ASCII text: a new Java string. */
+    public static List<String> newString(String ascii) {
+        return List.of("NewStringUTF(\"" + ascii + "\")");
+    }
+
+    /** A {@code StringHelper} reading a Java string of that length (for UTF-8 or wide text). */
+    public static List<String> readString(int length) {
+        return length == 0 ? List.of("GetStringLength() -> 0")
+                : List.of("GetStringLength() -> " + length, "GetStringRegion(0, " + length + ")");
+    }
+
+    /** {@code ObjectHelper::getEnumValue} of a constant of the enumeration class (a signature). */
+    public static List<String> enumValue(String enumClass, int value) {
+        return List.of("GetObjectClass() -> " + enumClass, "GetMethodID(" + enumClass + ", \"getValue\", \"()I\")",
+                "DeleteLocalRef()", "CallIntMethodV(getValue()I) -> " + value);
+    }
+
+    /** {@code ExceptionHelper::throwIllegalArgException} with the message and a pending cause. */
+    public static List<String> throwIllegalArgument(String message) {
+        return List.of("ExceptionClear()",
+                "FindClass(\"java/lang/IllegalArgumentException\") -> Ljava/lang/IllegalArgumentException;",
+                "GetMethodID(Ljava/lang/IllegalArgumentException;, \"<init>\", "
+                        + "\"(Ljava/lang/String;Ljava/lang/Throwable;)V\")",
+                "NewStringUTF(\"" + message + "\")",
+                "NewObjectV(Ljava/lang/IllegalArgumentException;, <init>(Ljava/lang/String;Ljava/lang/Throwable;)V)",
+                "Throw() -> 0",
+                "DeleteLocalRef()",
+                "DeleteLocalRef()",
+                "DeleteLocalRef()");
+    }
+}
