@@ -17,6 +17,12 @@ inline jstring classTypeName(JNIEnv* env) {
   return StringHelper::fromNativeString(env, T::getClassTypeId().getName());
 }
 
+// Type-name getter of a class that offers a static classTypeId data member.
+template <class T>
+inline jstring classTypeNameOfMember(JNIEnv* env) {
+  return StringHelper::fromNativeString(env, T::classTypeId.getName());
+}
+
 // Catalog getter: the address of the class's nodekit catalog.
 template <class T>
 inline jlong classCatalog() {
