@@ -126,11 +126,13 @@ extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_pr
   for (int i = 0; i < 40; ++i) env->NewStringUTF("leak");
 }
 
-extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_provokeExceptionPendingWarning(JNIEnv* env,
-                                                                                                            jclass cls) {
-  // A JNI call other than the exception functions while an exception is pending.
-  env->ThrowNew(env->FindClass("java/lang/IllegalStateException"), "pending");
-  jclass type = env->GetObjectClass(cls);
+extern "C" JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniWarnings_provokeExceptionPendingWarning(
+    JNIEnv* env, jclass) {
+  // A call that JNI forbids while an exception is pending.
+  jclass cls = env->FindClass("java/lang/IllegalStateException");
+  env->ThrowNew(cls, "pending");
+  env->DeleteLocalRef(cls);
+  jclass again = env->FindClass("java/lang/String");
   env->ExceptionClear();
-  env->DeleteLocalRef(type);
+  env->DeleteLocalRef(again);
 }

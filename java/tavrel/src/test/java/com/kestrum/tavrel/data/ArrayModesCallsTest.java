@@ -43,9 +43,13 @@ class ArrayModesCallsTest {
         return Stream.of(
                 Arguments.of("PbMesh.addValuesSet: values ReadOnly", (JniCalls.Block) () ->
                         grid.addValuesSet(1, new float[6], "w"), sequence(readString(1), array("Float", 6))),
+                // The Java side first asks the mesh how many values each array must hold (through
+                // the coordinate buffers), then the native call reads x and y.
                 Arguments.of("PbMesh.setCoordinates: x, y, z ReadOnly", (JniCalls.Block) () ->
                         cartesian.setCoordinates(new float[] {0, 1, 0, 1}, new float[] {0, 0, 1, 1}, null),
-                        sequence(array("Float", 4), array("Float", 4))),
+                        sequence("NewDirectByteBuffer(16)", "SetObjectArrayElement(0)", "DeleteLocalRef()",
+                                "NewDirectByteBuffer(16)", "SetObjectArrayElement(0)", "DeleteLocalRef()",
+                                "SetObjectArrayElement(0, null)", array("Float", 4), array("Float", 4))),
                 Arguments.of("PbMesh.getMinValuesSet: output ReadWrite after the toolkit", (JniCalls.Block) () ->
                         grid.getMinValuesSet(0, new float[1]), output("Float", 1)),
                 Arguments.of("PbMesh.getBoundingBox: six floats ReadWrite", (JniCalls.Block) grid::getBoundingBox,

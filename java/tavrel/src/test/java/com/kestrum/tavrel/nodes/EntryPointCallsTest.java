@@ -180,8 +180,8 @@ class EntryPointCallsTest {
     /**
      * A new node: initCustomClass reads the type name and stores its peer as one weak global
      * reference; initCustomRenderEngineMode asks the peer for its render mode (a forwarded call
-     * whose enumeration result is converted). Disposing the node releases no reference: the
-     * weak one stays with the native node, which keeps nothing alive with it.
+     * whose enumeration result is converted). Disposing the node frees it, and the binding core
+     * releases that weak reference with it, exactly once.
      */
     @ParameterizedTest(name = "{0}")
     @MethodSource("javaClasses")
@@ -198,7 +198,8 @@ class EntryPointCallsTest {
         assertEquals(0, r.globalReferencesCreated());
 
         JniCalls.Recording disposal = JniCalls.record(made[0]::dispose);
-        assertEquals(0, disposal.weakGlobalReferencesDeleted() + disposal.globalReferencesDeleted());
+        assertEquals(1, disposal.weakGlobalReferencesDeleted());
+        assertEquals(0, disposal.globalReferencesDeleted());
         assertEquals(0, disposal.weakGlobalReferencesCreated() + disposal.globalReferencesCreated());
     }
 }
