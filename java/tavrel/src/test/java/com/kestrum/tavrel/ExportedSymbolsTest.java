@@ -63,9 +63,14 @@ class ExportedSymbolsTest {
                     + "|ExceptionHelper|JNIEnvHelper|ICustomClass|I\\w+ProtectedMethodAccess)(?:::|$)"
                     + "|^PRINTDBG\\(");
 
-    /** Symbols of the C and C++ runtimes and of sanitizer runtimes that carry no version. */
+    /**
+     * Symbols of the C and C++ runtimes and of sanitizer runtimes that carry no version: in a
+     * sanitizer build the allocation operators and the C functions that the sanitizer intercepts
+     * (strlen, memcpy, ...) are needed without one.
+     */
     private static final Pattern RUNTIME = Pattern.compile(
-            "^(?:__gmon_start__|_ITM_\\w+|__cxa_\\w+|__(?:asan|ubsan|lsan|tsan|sanitizer)_\\w+)$");
+            "^(?:__gmon_start__|_ITM_\\w+|__cxa_\\w+|__(?:asan|ubsan|lsan|tsan|sanitizer)_\\w+|__tls_get_addr"
+                    + "|operator (?:new|delete)(?:\\[\\])?\\(.*\\)|[a-z][a-z0-9_]*)$");
 
     @Test
     void needsNoSymbolThatOnlyTheStandInsHave() throws Exception {
