@@ -7,6 +7,8 @@ import static org.junit.jupiter.api.Assertions.assertInstanceOf;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.tavrel.data.PoMeshProbePoint;
+import com.kestrum.tavrel.graph.PoBase;
+import com.kestrum.tavrel.graph.PoRectangle;
 import com.kestrum.tavrel.testkit.Bridges;
 import com.kestrum.tavrel.testkit.Gc;
 import com.kestrum.tavrel.testkit.JniCalls;
@@ -161,8 +163,12 @@ class BridgeCallsTest {
     }
 
     private static List<String> storeUserData(boolean isNull) {
-        return List.of("GetObjectClass() -> " + PROBE_CB,
-                "GetFieldID(" + PROBE_CB + ", \"userData\", \"Ljava/lang/Object;\")",
+        return storeUserData(PROBE_CB, isNull);
+    }
+
+    private static List<String> storeUserData(String callbackClass, boolean isNull) {
+        return List.of("GetObjectClass() -> " + callbackClass,
+                "GetFieldID(" + callbackClass + ", \"userData\", \"Ljava/lang/Object;\")",
                 "SetObjectField(userData" + (isNull ? ", null)" : ")"),
                 "DeleteLocalRef()");
     }
@@ -180,6 +186,40 @@ class BridgeCallsTest {
                     "detaching touches no Java object");
         } finally {
             probe.dispose();
+        }
+    }
+
+    /** A graph node's two rebuild registrations. */
+    interface RebuildSetter {
+        void set(PoBase node, PoRebuildCB callback, Object userData);
+    }
+
+    static Stream<Arguments> rebuildSetters() {
+        return Stream.of(
+                Arguments.of("PreRebuild", (RebuildSetter) PoBase::addPreRebuildCallback),
+                Arguments.of("PostRebuild", (RebuildSetter) PoBase::addPostRebuildCallback));
+    }
+
+    /**
+     * The rebuild registration of graph nodes has the probe's shape: the user data stored, then
+     * the one toolkit call; a null callback object touches no Java object.
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("rebuildSetters")
+    void rebuildRegistrationStoresTheUserDataThenCallsTheToolkit(String event, RebuildSetter setter) {
+        String rebuildCb = "Lcom/kestrum/tavrel/misc/callbacks/PoRebuildCB;";
+        PoRectangle node = new PoRectangle();
+        PoRebuildCB callback = new PoRebuildCB((n, handle, data) -> { });
+        try {
+            setter.set(node, callback, "warm-up");
+            assertEquals(storeUserData(rebuildCb, false),
+                    JniCalls.record(() -> setter.set(node, callback, "data")).calls());
+            assertEquals(storeUserData(rebuildCb, true),
+                    JniCalls.record(() -> setter.set(node, callback, null)).calls());
+            assertEquals(List.of(), JniCalls.record(() -> setter.set(node, null, "ignored")).calls(),
+                    "a null callback object touches no Java object");
+        } finally {
+            node.dispose();
         }
     }
 
