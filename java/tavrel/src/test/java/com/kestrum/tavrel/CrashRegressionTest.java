@@ -6,6 +6,7 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.corvel.actions.SoGLRenderAction;
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.tavrel.data.PbCell;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
 import com.kestrum.tavrel.data.PbRegularMesh1D;
@@ -15,6 +16,7 @@ import com.kestrum.tavrel.data.PoMeshProbePoint;
 import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
 import com.kestrum.tavrel.nodes.PoCellFilter;
 import com.kestrum.tavrel.nodes.PoNode;
+import com.kestrum.tavrel.nodes.PoRegularCartesianGrid2D;
 import com.kestrum.tavrel.testkit.ChildJvm;
 import com.kestrum.tavrel.testkit.Representations;
 import java.lang.reflect.Field;
@@ -49,6 +51,11 @@ class CrashRegressionTest {
         /** A filter that disposes itself in acceptCell, asked by a representation. */
         FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL(List.of(), "asked after the apply: 0\\R"
                 + "asked during the traversal: " + Scenarios.FILTER_CELLS + ", disposed: true\\R"),
+        /**
+         * A mesh node's mesh given to a representation that only the scene keeps (its Java object
+         * disposed and dropped); the view and the node disposed and collected; the scene drawn.
+         */
+        NODE_MESH_KEPT_BY_REPRESENTATIONS(List.of(), "cells drawn: 358801\\R"),
         /** A node count that fits an int but no Java array, on a mesh with a strings set. */
         HUGE_NODE_COUNT(List.of(), "refused: java.lang.IllegalArgumentException: numNodes"),
         /** Meshes and cells made and disposed, in a small heap. */
@@ -72,6 +79,7 @@ class CrashRegressionTest {
             case PROBE_DISPOSED_BY_ITS_LISTENER -> Scenarios.probeDisposedByItsListener();
             case FILTER_DISPOSED_AFTER_APPLY -> Scenarios.filterDisposedAfterApply();
             case FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL -> Scenarios.filterDisposingItselfInAcceptCell();
+            case NODE_MESH_KEPT_BY_REPRESENTATIONS -> Scenarios.nodeMeshKeptByRepresentations();
             case HUGE_NODE_COUNT -> Scenarios.hugeNodeCount();
             case PEERS_DISPOSED -> Scenarios.peers(true);
             case PEERS_COLLECTED -> Scenarios.peers(false);
@@ -220,6 +228,37 @@ class CrashRegressionTest {
                 }
                 System.out.println("asked during the traversal: " + during.asked + ", disposed: " + during.isDisposed());
             }
+        }
+
+        static void nodeMeshKeptByRepresentations() throws InterruptedException {
+            PoRegularCartesianGrid2D node = new PoRegularCartesianGrid2D();
+            PbRegularCartesianGrid2D view = node.getMesh();
+            view.setGeometry(600, 600, 0, 0, 1, 1);
+            view.getArea();
+            SoGroup scene = new SoGroup();
+            long filledHandle = representationOnlyTheSceneKeeps(scene, view);
+            view.dispose();
+            node.dispose();
+            view = null;
+            for (int i = 0; i < 5; i++) {
+                System.gc();
+                Thread.sleep(20);  // the collected views' cleaning actions run on their own thread
+                new PoRegularCartesianGrid2D().dispose();  // lets go of what collected views held
+            }
+            try (SoGLRenderAction render = new SoGLRenderAction()) {
+                render.apply(scene);
+            }
+            System.out.println("cells drawn: " + Representations.selectedCells(filledHandle).length);
+        }
+
+        /** A representation of the mesh in the scene, whose Java object is disposed and dropped. */
+        private static long representationOnlyTheSceneKeeps(SoGroup scene, PbRegularCartesianGrid2D mesh) {
+            PoMeshFilled filled = new PoMeshFilled();
+            filled.setMesh(mesh);
+            scene.addChild(filled);
+            long handle = filled.getNativeResourceHandleInternal();
+            filled.dispose();
+            return handle;
         }
 
         static void hugeNodeCount() {

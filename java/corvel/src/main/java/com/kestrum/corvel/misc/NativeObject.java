@@ -155,6 +155,19 @@ public abstract class NativeObject implements AutoCloseable {
         return h;
     }
 
+    /**
+     * One more hold on an object that a hold already keeps (its native object is still there,
+     * even when the Java object has been disposed since); ended by {@link #leave(NativeObject)}.
+     */
+    protected static void holdAgain(NativeObject held) {
+        HOLDS.getAndAdd(held, 2);
+    }
+
+    /** Whether a native call or another holder holds this object now. */
+    protected final boolean isHeld() {
+        return (holds & ~1) != 0;
+    }
+
     /** Ends a hold of {@link #enter(NativeObject, String)}. */
     protected static void leave(NativeObject argument) {
         argument.leave();

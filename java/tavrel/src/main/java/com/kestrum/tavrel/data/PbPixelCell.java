@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.data;
 
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.MeshViews;
 
 /** A pixel (an axis-aligned quadrangle of a rectilinear or regular grid) cell. */
 public class PbPixelCell extends PbCell {
@@ -11,6 +12,7 @@ public class PbPixelCell extends PbCell {
     /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
     public PbPixelCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
+        MeshViews.holdWhileReachable(this, mesh);
     }
 
     /** A copy of another cell, nodes included. */

@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.data;
 
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.MeshViews;
 
 /** A triangle cell. */
 public class PbTriangleCell extends PbCell {
@@ -11,6 +12,7 @@ public class PbTriangleCell extends PbCell {
     /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
     public PbTriangleCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
+        MeshViews.holdWhileReachable(this, mesh);
     }
 
     /** A copy of another cell, nodes included. */

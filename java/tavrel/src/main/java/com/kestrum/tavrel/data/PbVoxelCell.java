@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.data;
 
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.MeshViews;
 
 /** A voxel (an axis-aligned hexahedron of a rectilinear or regular grid) cell. */
 public class PbVoxelCell extends PbCell {
@@ -11,6 +12,7 @@ public class PbVoxelCell extends PbCell {
     /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
     public PbVoxelCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
+        MeshViews.holdWhileReachable(this, mesh);
     }
 
     /** A copy of another cell, nodes included. */

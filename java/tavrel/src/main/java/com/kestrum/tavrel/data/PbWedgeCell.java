@@ -2,6 +2,7 @@ package com.kestrum.tavrel.data;
 
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.MeshViews;
 
 /** A wedge cell. */
 public class PbWedgeCell extends PbCell {
@@ -12,6 +13,7 @@ public class PbWedgeCell extends PbCell {
     /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
     public PbWedgeCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
+        MeshViews.holdWhileReachable(this, mesh);
     }
 
     /** A copy of another cell, nodes included. */

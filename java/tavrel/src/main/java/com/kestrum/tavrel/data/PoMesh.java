@@ -44,7 +44,9 @@ public abstract class PoMesh extends PoDessvane {
         private static native int getCOLORTEXTURECONTOURINGNative();
     }
 
-    private PbMesh mesh;
+    private final MeshUse<PbMesh> mesh = new MeshUse<>(PbMesh.class);
+    /** The meshes of the subclasses' own setters. */
+    private MeshUse<?>[] otherMeshes = {};
     private PbDataMapping dataMapping;
     private PbDataMapping moduleDataMapping;
     private PbIsovaluesList isovaluesList;
@@ -68,11 +70,13 @@ public abstract class PoMesh extends PoDessvane {
      * Sets the mesh drawn; null for none.
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
-     * is set.
+     * is set. A view of the mesh of a mesh node or field keeps that mesh alive while this
+     * representation may draw it (see {@link #dispose}).
      */
     public void setMesh(PbMesh mesh) {
-        setMeshImpl(handle(), handleOrZero(mesh, "mesh"));
-        this.mesh = mesh;
+        long h = handle();
+        long m = handleOrZero(mesh, "mesh");
+        this.mesh.set(mesh, () -> setMeshImpl(h, m));
     }
 
     /**
@@ -82,7 +86,7 @@ public abstract class PoMesh extends PoDessvane {
      * Java object of that address, else null.
      */
     public PbMesh getMesh() {
-        return JavaViews.find(PbMesh.class, getMeshImpl(handle()), mesh);
+        return mesh.get(getMeshImpl(handle()));
     }
 
     /**
@@ -150,7 +154,34 @@ public abstract class PoMesh extends PoDessvane {
 
     /** The Java object given to {@link #setMesh}, or null. */
     final PbMesh meshObject() {
-        return mesh;
+        return mesh.remembered();
+    }
+
+    /** The mesh of a subclass's own setter, kept like the one of {@link #setMesh}. */
+    final <M extends PbMesh> MeshUse<M> meshUse(Class<M> type) {
+        MeshUse<M> use = new MeshUse<>(type);
+        MeshUse<?>[] more = java.util.Arrays.copyOf(otherMeshes, otherMeshes.length + 1);
+        more[otherMeshes.length] = use;
+        otherMeshes = more;
+        return use;
+    }
+
+    /**
+     * Disposes of the Java object (see {@link com.kestrum.corvel.nodes.SoNode}). A mesh of a mesh node given to this
+     * representation stays alive as long as the representation's native object does: it is let
+     * go here when the native object goes with this Java object, and is kept otherwise.
+     */
+    @Override
+    public void dispose() {
+        if (isDisposed()) {
+            return;
+        }
+        boolean nativeGone = getRefCount() == 1 && !isHeld();
+        super.dispose();
+        mesh.nodeDisposed(nativeGone);
+        for (MeshUse<?> use : otherMeshes) {
+            use.nodeDisposed(nativeGone);
+        }
     }
 
     /** The mesh (or null) as a mesh of the class a representation needs. */

@@ -1,7 +1,6 @@
 package com.kestrum.tavrel.data;
 
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the representations of a 2D mesh. */
 public abstract class PoMesh2D extends PoMesh {
@@ -9,7 +8,7 @@ public abstract class PoMesh2D extends PoMesh {
         JarInitializer.init();
     }
 
-    private PbMesh2D mesh2D;
+    private final MeshUse<PbMesh2D> mesh2D = meshUse(PbMesh2D.class);
 
     /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
     protected PoMesh2D(long handle) {
@@ -41,8 +40,9 @@ public abstract class PoMesh2D extends PoMesh {
      * keeps the Java object as long as it is set.
      */
     public void setMesh(PbMesh2D mesh) {
-        setMeshImpl(handle(), handleOrZero(mesh, "mesh"));
-        this.mesh2D = mesh;
+        long h = handle();
+        long m = handleOrZero(mesh, "mesh");
+        mesh2D.set(mesh, () -> setMeshImpl(h, m));
     }
 
     /**
@@ -53,7 +53,7 @@ public abstract class PoMesh2D extends PoMesh {
      */
     @Override
     public PbMesh2D getMesh() {
-        return JavaViews.find(PbMesh2D.class, getMeshImpl(handle()), mesh2D);
+        return mesh2D.get(getMeshImpl(handle()));
     }
 
     private static native String getClassTypeId();

@@ -1,7 +1,6 @@
 package com.kestrum.tavrel.data;
 
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the representations of a 3D mesh. */
 public abstract class PoMesh3D extends PoMesh {
@@ -9,7 +8,7 @@ public abstract class PoMesh3D extends PoMesh {
         JarInitializer.init();
     }
 
-    private PbMesh3D mesh3D;
+    private final MeshUse<PbMesh3D> mesh3D = meshUse(PbMesh3D.class);
 
     /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
     protected PoMesh3D(long handle) {
@@ -41,8 +40,9 @@ public abstract class PoMesh3D extends PoMesh {
      * keeps the Java object as long as it is set.
      */
     public void setMesh(PbMesh3D mesh) {
-        setMeshImpl(handle(), handleOrZero(mesh, "mesh"));
-        this.mesh3D = mesh;
+        long h = handle();
+        long m = handleOrZero(mesh, "mesh");
+        mesh3D.set(mesh, () -> setMeshImpl(h, m));
     }
 
     /**
@@ -53,7 +53,7 @@ public abstract class PoMesh3D extends PoMesh {
      */
     @Override
     public PbMesh3D getMesh() {
-        return JavaViews.find(PbMesh3D.class, getMeshImpl(handle()), mesh3D);
+        return mesh3D.get(getMeshImpl(handle()));
     }
 
     private static native String getClassTypeId();

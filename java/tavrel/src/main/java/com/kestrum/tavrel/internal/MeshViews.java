@@ -18,8 +18,10 @@ import com.kestrum.tavrel.data.PbRegularMesh1D;
 import com.kestrum.tavrel.data.PbTetrahedronMesh3D;
 import com.kestrum.tavrel.data.PbTriangleMesh2D;
 import java.lang.ref.Cleaner;
+import java.util.Collections;
 import java.util.Map;
 import java.util.Queue;
+import java.util.WeakHashMap;
 import java.util.concurrent.ConcurrentLinkedQueue;
 import java.util.function.LongFunction;
 
@@ -39,6 +41,8 @@ public final class MeshViews {
     private static final Cleaner CLEANER = Cleaner.create();
     /** The owners whose views have been collected, to be let go by a Java thread. */
     private static final Queue<NativeObject> UNHELD = new ConcurrentLinkedQueue<>();
+    /** The owner of each view that is still reachable. */
+    private static final Map<PbMesh, NativeObject> OWNERS = Collections.synchronizedMap(new WeakHashMap<>());
 
     private static final Map<Class<?>, LongFunction<? extends PbMesh>> VIEWS = Map.ofEntries(
             Map.entry(PbCartesianGrid2D.class, CartesianGrid2D::new),
@@ -80,7 +84,92 @@ public final class MeshViews {
             throw e;
         }
         CLEANER.register(view, () -> UNHELD.add(owner));
+        OWNERS.put(view, owner);
         return view;
+    }
+
+    /**
+     * For an object that keeps the address of a mesh (a representation, a cell made from the
+     * mesh): when the mesh is a view of a mesh that lives inside a node or field, a new hold on
+     * that owner, so that the mesh stays alive as long as the hold does, whatever becomes of the
+     * view and of the owner's Java object; null for a mesh that lives on its own, and for null.
+     */
+    public static OwnerHold holdOwnerOf(PbMesh mesh) {
+        NativeObject owner = mesh == null ? null : OWNERS.get(mesh);
+        if (owner == null) {
+            return null;
+        }
+        // The view is reachable here and holds the owner, so its native object is still there.
+        Holds.holdOnceMore(owner);
+        return new OwnerHold(owner, mesh.getClass(), mesh.getNativeResourceHandleInternal());
+    }
+
+    /**
+     * For an object made from a mesh that keeps the mesh's address for as long as it exists
+     * (a cell made from a mesh): keeps the mesh alive while the holder is reachable when the mesh
+     * lives inside a node or field (see {@link #holdOwnerOf}).
+     */
+    public static void holdWhileReachable(Object holder, PbMesh mesh) {
+        OwnerHold hold = holdOwnerOf(mesh);
+        if (hold != null) {
+            CLEANER.register(holder, hold::releaseLater);
+        }
+    }
+
+    /** A hold on the node or field that a mesh lives in (see {@link #holdOwnerOf}). */
+    public static final class OwnerHold {
+        private final NativeObject owner;
+        private final Class<? extends PbMesh> meshClass;
+        private final long address;
+        private boolean released;
+
+        private OwnerHold(NativeObject owner, Class<?> viewClass, long address) {
+            this.owner = owner;
+            this.meshClass = viewClass.getSuperclass().asSubclass(PbMesh.class);
+            this.address = address;
+        }
+
+        /** The address of the held mesh. */
+        public long address() {
+            return address;
+        }
+
+        /** A new view of the held mesh, with a hold of its own on the owner. */
+        public PbMesh view() {
+            if (released) {
+                throw new IllegalStateException("the hold on the mesh has been released");
+            }
+            Holds.holdOnceMore(owner);
+            PbMesh made;
+            try {
+                made = VIEWS.get(meshClass).apply(address);
+            } catch (RuntimeException | Error e) {
+                Holds.release(owner);
+                throw e;
+            }
+            CLEANER.register(made, () -> UNHELD.add(owner));
+            OWNERS.put(made, owner);
+            return made;
+        }
+
+        /** Ends the hold (once; later calls do nothing), on the calling thread. */
+        public void release() {
+            if (!released) {
+                released = true;
+                Holds.release(owner);
+            }
+        }
+
+        /**
+         * Ends the hold on the next Java thread that makes a mesh node or field call (for a
+         * cleaning action, which must not call the toolkit).
+         */
+        public void releaseLater() {
+            if (!released) {
+                released = true;
+                UNHELD.add(owner);
+            }
+        }
     }
 
     /** Lets go of the owners of the views that have been collected (on the calling thread). */
@@ -107,6 +196,10 @@ public final class MeshViews {
 
         static void hold(NativeObject owner) {
             enter(owner, "owner");
+        }
+
+        static void holdOnceMore(NativeObject owner) {
+            holdAgain(owner);
         }
 
         static void release(NativeObject owner) {

@@ -21,7 +21,8 @@ import java.util.function.LongConsumer;
  * <p>The mesh lives inside the node. {@link #getMesh()} gives a view of it: a mesh object of
  * the node's mesh class that shows every later change of the node's geometry and data sets, and
  * that is never freed on its own. The view keeps the node's native object alive while the view
- * is reachable, so it stays valid even after the node has been disposed; cells obtained from it
+ * is reachable, so it stays valid even after the node has been disposed; a representation or a
+ * cell given the view keeps the node's native object alive as well; cells obtained from it
  * stop working ({@link IllegalStateException}) once the node's geometry changes. A disposed
  * node is let go once no view of its mesh is reachable, by the next mesh node or field call.
  */
