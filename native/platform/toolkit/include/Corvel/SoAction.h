@@ -81,15 +81,16 @@ class SoAction {
 // which it writes as an SVG document (toSvg):
 //  - the x and y of the points (z is dropped), y pointing up;
 //  - the text size, one line of text, is 9/800 of the sum of the width and
-//    height of the box around the points (so that a picture 800 wide shows
-//    texts about 12 to 16 pixels high); a text of n characters counts as
-//    0.6 n lines wide and one line high;
+//    height of the box around the points (about 15 pixels in a picture a
+//    third wider than high); a text of n characters counts as 0.6 n lines
+//    wide and one line high;
 //  - the viewBox is the box around the points and the texts, with a margin
 //    of a twentieth of its longer side; the document is 800 x 600 pixels;
 //  - polygons are filled with their colour and outlined in white, lines
 //    stroked in their colour, texts written in theirs (black is left to the
 //    viewer's default), each placed about its point as its anchor and
-//    baseline say. Lines are 1/800 of the sum of width and height wide.
+//    baseline say (dy of 0.35em for CENTRAL, 0.8em for HANGING). Lines are
+//    1/800 of the sum of the width and height of the points' box wide.
 class SoGLRenderAction : public SoAction {
   SO_ACTION_HEADER(SoGLRenderAction)
  public:

@@ -104,6 +104,18 @@ class PictureTest {
                             assertEquals(3, of(d, "polyline").size());
                             assertEquals(List.of("1.0,2.0", "1.0,3.5"), d.get(2).at());
                         }),
+                kind("a filled error curve: the band, then the polyline", () -> new PoErrorCurve(
+                        new float[] {0, 1, 1, 3}, new float[] {0.5f, 1}, new float[] {1, 0.5f},
+                        PoErrorCurve.VariationTypes.FIXEDVARIATION, PoErrorCurve.ErrorCurveReps.FILLED), d -> {
+                            assertEquals(List.of("0.0,0.5", "1.0,2.0", "1.0,3.5", "0.0,2.0"), d.get(0).at());
+                            assertEquals("polyline", d.get(1).kind());
+                        }),
+                kind("a high-low-close chart: a segment and a close mark a position", () -> new PoHighLowClose(2,
+                        new float[] {0, 2}, new float[] {5, 6}, new float[] {1, 2}, new float[] {3, 4}), d -> {
+                            assertEquals(4, of(d, "polyline").size());
+                            assertEquals(List.of("2.0,2.0", "2.0,6.0"), d.get(2).at());
+                            assertEquals(List.of("2.0,4.0", "2.5,4.0"), d.get(3).at(), "a quarter of the gap");
+                        }),
                 kind("a histogram: a bar, a name and a value a value", () -> new PoSingleHistogram(new SbVec2f(0, 0),
                         6, PoHistogram.Types.X, 3, new float[] {4, 5, 6}, new String[] {"north", "s\u00fcd", "\u6771"}),
                         d -> {
@@ -134,6 +146,14 @@ class PictureTest {
                             assertEquals(List.of("\u25cf", "\u25cf"), texts(d));
                             assertEquals(List.of("1.0,2.0"), d.get(1).at());
                         }),
+                kind("an error point field: a cross a point", () -> new PoErrorPointField(1,
+                        new SbVec2f[] {new SbVec2f(1, 2)}, new float[] {0.5f}, new float[] {1},
+                        PoErrorPointField.ShapeTypes.RECTANGLESHAPE, PoErrorPointField.SkeletonTypes.CROSS1SKELETON),
+                        d -> assertEquals(List.of(List.of("0.5,2.0", "1.5,2.0"), List.of("1.0,1.0", "1.0,3.0")),
+                                d.stream().map(Element::at).toList())),
+                kind("a field of bars: the base of a bar a point", () -> new PoPointsFieldBars(1,
+                        new SbVec3f[] {new SbVec3f(1, 2, 7)}, new float[] {3}, 2, 1),
+                        d -> assertEquals(List.of("0.0,1.5", "2.0,1.5", "2.0,2.5", "0.0,2.5"), d.get(0).at())),
                 kind("a label field: a text a label", () -> new PoLabelField(1, new SbVec2f[] {new SbVec2f(1, 2)},
                         new String[] {"peak"}, new float[] {9}, 0, PoLabelField.ConcatTypes.STRINGBEFOREVALUE,
                         PoLabelField.Justifications.LEFT, PoLabelField.VerticalJustifications.BASE), d -> {
