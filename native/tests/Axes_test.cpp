@@ -1,4 +1,4 @@
-// The axes of the graph stand-in: the graduations they compute.
+// The axes of the graph stand-in: the graduations they compute and what they draw.
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,11 @@
 #include <Tavrel/PoAngularAxis.h>
 #include <Tavrel/PoLinearAxis.h>
 #include <Tavrel/PoLogAxis.h>
+#include <Tavrel/PoPolarLinAxis.h>
 #include <Tavrel/PoTavrel.h>
 #include <Tavrel/PoTimeAxis.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -71,4 +73,93 @@ TEST(PoTimeAxis, UnderADayTheGraduationsAreTheWholeHours) {
   axis->setDateFormatMapping(nullptr);
   axis->unref();
   EXPECT_TRUE(labelsOf<PoTimeAxis>("2024-02-30", "2024-03-01", 0.0f, PoTimeAxis::X).empty()) << "no such date";
+}
+
+// --- what the axes draw -------------------------------------------------------------------
+
+namespace {
+using Primitive = SoGLRenderAction::Primitive;
+
+// The drawing of a new axis's first build; the axis is released.
+template <class Axis, class... Args>
+std::vector<Primitive> drawingOf(Args... args) {
+  PoTavrel::init();
+  Axis* axis = new Axis(args...);
+  axis->ref();
+  axis->rebuild();
+  std::vector<Primitive> drawing = axis->getDrawing();
+  axis->unref();
+  return drawing;
+}
+
+void expectPoint(const SbVec3f& actual, float x, float y) {
+  EXPECT_NEAR(actual[0], x, 1e-5f);
+  EXPECT_NEAR(actual[1], y, 1e-5f);
+}
+
+// A graduation's tick from (x, y) to (x, y) + side x tick, and its label half a tick further.
+void expectGraduation(const Primitive* tick, float x, float y, SbVec2f side, float tick_, const char* label,
+                      Primitive::Anchor anchor, Primitive::Baseline baseline) {
+  SCOPED_TRACE(label);
+  ASSERT_EQ(tick[0].kind, Primitive::LINE);
+  ASSERT_EQ(tick[0].points.size(), 2u);
+  expectPoint(tick[0].points[0], x, y);
+  expectPoint(tick[0].points[1], x + side[0] * tick_, y + side[1] * tick_);
+  ASSERT_EQ(tick[1].kind, Primitive::TEXT);
+  EXPECT_EQ(tick[1].text, label);
+  expectPoint(tick[1].points[0], x + 1.5f * side[0] * tick_, y + 1.5f * side[1] * tick_);
+  EXPECT_EQ(tick[1].anchor, anchor);
+  EXPECT_EQ(tick[1].baseline, baseline);
+}
+}  // namespace
+
+TEST(PoAxis, AYAxisDrawsItsLineThenItsGraduationsOnTheLeftWhereTheirValuesLie) {
+  // Along y from (1, 2) to y = 6, values 0 to 100: each value at its share of the way.
+  const auto d = drawingOf<PoLinearAxis>(SbVec3f(1, 2, 0), 6.0f, PoCartesianAxis::YX, 0.0f, 100.0f, 50.0f);
+  ASSERT_EQ(d.size(), 7u);
+  ASSERT_EQ(d[0].kind, Primitive::LINE);
+  ASSERT_EQ(d[0].points.size(), 2u);
+  expectPoint(d[0].points[0], 1, 2);
+  expectPoint(d[0].points[1], 1, 6);
+  const float tick = 0.04f * 4;
+  expectGraduation(&d[1], 1, 2, SbVec2f(-1, 0), tick, "0", Primitive::END, Primitive::CENTRAL);
+  expectGraduation(&d[3], 1, 4, SbVec2f(-1, 0), tick, "50", Primitive::END, Primitive::CENTRAL);
+  expectGraduation(&d[5], 1, 6, SbVec2f(-1, 0), tick, "100", Primitive::END, Primitive::CENTRAL);
+}
+
+TEST(PoAxis, ALogAxisPutsItsValuesAtTheShareOfTheirLogarithmWithLabelsHangingBelow) {
+  // Along x from 2 to 6 over 1 to 100 (exponents 0 to 2): 10 is halfway.
+  const auto d = drawingOf<PoLogAxis>(SbVec3f(2, 1, 0), 6.0f, PoCartesianAxis::XY, PoLogAxis::DECADELISTAUTO,
+                                      nullptr, short{0}, 0.0f, 2.0f);
+  ASSERT_EQ(d.size(), 7u);
+  const float tick = 0.04f * 4;
+  expectGraduation(&d[1], 2, 1, SbVec2f(0, -1), tick, "1", Primitive::MIDDLE, Primitive::HANGING);
+  expectGraduation(&d[3], 4, 1, SbVec2f(0, -1), tick, "10", Primitive::MIDDLE, Primitive::HANGING);
+  expectGraduation(&d[5], 6, 1, SbVec2f(0, -1), tick, "100", Primitive::MIDDLE, Primitive::HANGING);
+}
+
+TEST(PoAxis, APolarAxisGraduatesOnTheRightOfItsDirectionAndAnAngularOneOutwards) {
+  // Upwards from (1, 0) to (1, 3): the right is +x.
+  const auto polar = drawingOf<PoPolarLinAxis>(1.0f, 0.0f, 1.0f, 3.0f, 1.5f);
+  ASSERT_EQ(polar.size(), 7u);
+  expectGraduation(&polar[3], 1, 1.5f, SbVec2f(1, 0), 0.04f * 3, "1.5", Primitive::START, Primitive::CENTRAL);
+
+  const auto angular = drawingOf<PoAngularAxis>(1.0f, 1.0f, 2.0f, 0.0f, 90.0f);
+  ASSERT_EQ(angular.size(), 9u);
+  ASSERT_EQ(angular[0].points.size(), 65u) << "the circle, closed";
+  for (const SbVec3f& p : angular[0].points) EXPECT_NEAR(std::hypot(p[0] - 1, p[1] - 1), 2, 1e-5);
+  const float tick = 0.04f * 2;
+  expectGraduation(&angular[1], 3, 1, SbVec2f(1, 0), tick, "0", Primitive::START, Primitive::CENTRAL);
+  expectGraduation(&angular[3], 1, 3, SbVec2f(0, 1), tick, "90", Primitive::MIDDLE, Primitive::BASELINE);
+  expectGraduation(&angular[5], -1, 1, SbVec2f(-1, 0), tick, "180", Primitive::END, Primitive::CENTRAL);
+  expectGraduation(&angular[7], 1, -1, SbVec2f(0, -1), tick, "270", Primitive::MIDDLE, Primitive::HANGING);
+}
+
+TEST(PoAxis, ATimeAxisDrawsEachDateAtItsCoordinate) {
+  // Type Y at x = 5: days since 2000-01-01 along y, labels on the left.
+  const auto d = drawingOf<PoTimeAxis>("2000-01-02", "2000-01-04", 5.0f, PoTimeAxis::Y);
+  ASSERT_EQ(d.size(), 7u);
+  expectPoint(d[0].points[0], 5, 1);
+  expectPoint(d[0].points[1], 5, 3);
+  expectGraduation(&d[3], 5, 2, SbVec2f(-1, 0), 0.04f * 2, "2000-01-03", Primitive::END, Primitive::CENTRAL);
 }

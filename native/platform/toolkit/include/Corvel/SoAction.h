@@ -77,10 +77,20 @@ class SoAction {
 
 // Renders the scene. This toolkit draws nothing on screen; it keeps what the
 // graph nodes it reaches draw (lines, filled polygons and texts, in scene
-// coordinates, in the order drawn; each apply starts a new one) as a picture, which it
-// writes as an SVG document: the x and y of the points, y pointing up, fitted
-// with a margin into a viewBox; polygons filled with their colour, lines
-// stroked black, texts at their point.
+// coordinates, in the order drawn; each apply starts a new one) as a picture,
+// which it writes as an SVG document (toSvg):
+//  - the x and y of the points (z is dropped), y pointing up;
+//  - the text size, one line of text, is 9/800 of the sum of the width and
+//    height of the box around the points (about 15 pixels in a picture a
+//    third wider than high); a text of n characters counts as 0.6 n lines
+//    wide and one line high;
+//  - the viewBox is the box around the points and the texts, with a margin
+//    of a twentieth of its longer side; the document is 800 x 600 pixels;
+//  - polygons are filled with their colour and outlined in white, lines
+//    stroked in their colour, texts written in theirs (black is left to the
+//    viewer's default), each placed about its point as its anchor and
+//    baseline say (dy of 0.35em for CENTRAL, 0.8em for HANGING). Lines are
+//    1/800 of the sum of the width and height of the points' box wide.
 class SoGLRenderAction : public SoAction {
   SO_ACTION_HEADER(SoGLRenderAction)
  public:
@@ -89,6 +99,11 @@ class SoGLRenderAction : public SoAction {
     std::vector<SbVec3f> points;
     SbColor color;
     std::string text;
+    // Texts: where the text sits about its point: beginning there
+    // (START), centred on it (MIDDLE) or ending there (END); and its
+    // baseline there (BASELINE), its middle (CENTRAL) or its top (HANGING).
+    enum Anchor { MIDDLE, START, END } anchor = MIDDLE;
+    enum Baseline { BASELINE, CENTRAL, HANGING } baseline = BASELINE;
   };
   void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
   const std::vector<Primitive>& getPrimitives() const { return primitives; }

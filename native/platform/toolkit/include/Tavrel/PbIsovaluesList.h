@@ -57,6 +57,9 @@ class PbIsovaluesList : public PbBase {
 
   const float* getIsoList(int& num, float& min, float& max, float& step, SbBool& isRegular) const;
 
+  // --- Used inside this toolkit (not journaled) ---
+  const std::vector<float>& values() const { return isovalues; }
+
  private:
   void regular(float min, float max, int num);
 

@@ -10,6 +10,9 @@
 //    degrees every 30.
 //  - The values at the start and end of the axis are the first angle and
 //    the first angle plus 360. Two sub-ticks.
+//  - Drawing (PoAxis.h): the circle at z 0 (a closed line of 64 segments),
+//    each graduation at its angle (degrees, counter-clockwise from +x) with
+//    its tick and label outwards; the axis's length is the radius.
 #pragma once
 
 #include <Tavrel/PoAxis.h>
@@ -33,6 +36,10 @@ class PoAngularAxis : public PoAxis {
   void makeGraduations(std::vector<Graduation>& out) const override;
   void range(double& startValue, double& endValue) const override;
   unsigned short subTicks() const override { return 2; }
+  std::vector<SbVec3f> axisLine() const override;
+  SbVec3f pointOf(double value) const override;
+  SbVec3f gradSide(double value) const override;
+  double axisLength() const override;
 
  private:
   float centreX = 0.0f, centreY = 0.0f, radius = 1.0f, firstAngle = 0.0f, angleStep = 30.0f;

@@ -32,17 +32,31 @@
 //    built or not).
 //  - The text attributes are kept by address (null: none); setting them is
 //    a change of the node (PoBase.h).
+//  - Drawing (PoDrawing.h). The build draws the axis line, then at each
+//    graduation a tick mark and the label. Where the line lies, where a
+//    value sits on it and on which side the graduations go is each class's
+//    (their headers). The tick is a segment from the value's point towards
+//    the graduation side, 0.04 of the axis's length long (getTick's main
+//    length; the length of an angular axis is its radius); the label sits
+//    half a tick further, written away from the axis: centred and hanging
+//    below a tick that points down, centred above one that points up,
+//    ending left of one that points left, beginning right of one that
+//    points right (vertically centred for these two). Sub-ticks, titles and
+//    grids are not drawn. An axis with a domain maps all of it through the
+//    domain.
 #pragma once
 
 #include <Corvel/SbString.h>
+#include <Corvel/SbVec.h>
 #include <Tavrel/PoBase.h>
+#include <Tavrel/PoDrawing.h>
 
 #include <vector>
 
 class PbMiscTextAttr;
 class PbNumericDisplayFormat;
 
-class PoAxis : public PoBase {
+class PoAxis : public PoBase, public PoDrawing {
   PO_GRAPH_KIT_HEADER(PoAxis)
 
  public:
@@ -100,10 +114,24 @@ class PoAxis : public PoBase {
   // Logarithmic graduations between the exponents start and end.
   static void logGraduations(double start, double end, const std::vector<unsigned short>& digits,
                              std::vector<Graduation>& out);
+  // Where the axis lies: the points of its line, the point of a value, the
+  // unit vector from that point towards the graduation side, and the
+  // length that ticks are a share of.
+  virtual std::vector<SbVec3f> axisLine() const = 0;
+  virtual SbVec3f pointOf(double value) const = 0;
+  virtual SbVec3f gradSide(double value) const = 0;
+  virtual double axisLength() const = 0;
+  // How far along the axis a value lies: 0 at the start value, 1 at the end
+  // value, linear in the value (in its logarithm for logarithmic axes); 0
+  // when both end values are equal.
+  double fraction(double value) const;
+  virtual bool logarithmic() const { return false; }
 
   SbString title;
 
  private:
+  // The drawing of the graduations just made.
+  void drawAxis();
   PbMiscTextAttr* textAttr = nullptr;
   std::vector<Graduation> grads;
 };

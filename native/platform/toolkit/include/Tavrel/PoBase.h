@@ -124,7 +124,8 @@ class PoBase : public SoBaseKit {
   void changed();
   // What a render traversal keeps of the node once it is rebuilt (see
   // SoGLRenderAction): lines, filled polygons and texts of its last build.
-  // PoBase's own adds nothing.
+  // PoBase's own adds the drawing of a node that keeps one (PoDrawing.h),
+  // nothing for the others.
   virtual void draw(SoGLRenderAction* action);
 
  private:

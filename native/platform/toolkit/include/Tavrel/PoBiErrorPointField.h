@@ -9,6 +9,8 @@
 //  - Its build makes one part a point that has all four errors, the errors
 //    taken as fixed offsets whatever the variation type:
 //    "error <point> x <x - xLow>..<x + xHigh> y <y - yLow>..<y + yHigh>".
+//  - Drawing (PoDrawing.h): each error as a black cross of the two segments
+//    of its part.
 #pragma once
 
 #include <Corvel/SbVec.h>

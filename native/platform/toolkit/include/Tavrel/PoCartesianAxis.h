@@ -6,6 +6,14 @@
 //    first letter of its Type (XY: along x, graduations on the y side) up
 //    to the coordinate end on that direction. Its coordinates along the
 //    axis are start[direction] at the start and end at the end.
+//  - Drawing (PoAxis.h): the line from the start to the end coordinate on
+//    the axis's direction, the other coordinates the start's; a value at its
+//    fraction of the way (so where the values are the coordinates along the
+//    axis, each value is drawn at its coordinate); the graduations on the
+//    negative side of the type's second direction (XY: below the axis,
+//    towards -y; YX: left of it, towards -x; XZ and YZ: towards -z, which
+//    the picture does not show). The axis's length is |end - start
+//    coordinate|.
 #pragma once
 
 #include <Corvel/SbVec.h>
@@ -27,6 +35,10 @@ class PoCartesianAxis : public PoAxis {
  protected:
   PoCartesianAxis();
   ~PoCartesianAxis() override;
+  std::vector<SbVec3f> axisLine() const override;
+  SbVec3f pointOf(double value) const override;
+  SbVec3f gradSide(double value) const override;
+  double axisLength() const override;
 
   SbVec3f start;
   float end = 1.0f;

@@ -8,6 +8,8 @@
 //  - Its build makes one part: "polyline" followed by the points in order,
 //    or "none" for the representation CURVENONE. The other representations
 //    draw the same polyline in this toolkit.
+//  - Drawing (PoDrawing.h): the polyline as a black line (nothing for
+//    CURVENONE or a curve without points).
 #pragma once
 
 #include <Corvel/SbVec.h>

@@ -7,6 +7,8 @@
 //    null pointer); it does not build.
 //  - Its build makes one part: "polyline" followed by the points in order,
 //    or "none" for CURVENONE (CURVESMOOTH draws the polyline too).
+//  - Drawing (PoDrawing.h): the polyline as a black line (nothing for
+//    CURVENONE or a curve without points); the picture drops z.
 #pragma once
 
 #include <Corvel/SbVec.h>

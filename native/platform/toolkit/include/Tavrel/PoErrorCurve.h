@@ -11,6 +11,13 @@
 //    variations l and h of a point (x, y): FIXEDVARIATION gives y - l and
 //    y + h; RELVARIATION y - l|y| and y + h|y|; the PERCENT types the same
 //    with l/100 and h/100.
+//  - Drawing (PoDrawing.h), by representation: LINEBAR, the polyline and
+//    each bar as a black segment; FILLED, the band between the low and the
+//    high ends of the bars as a pale blue (0.75, 0.85, 0.95) polygon (the
+//    low ends in order, then the high ends back), then the polyline;
+//    HIGHLOWCLOSE, each bar and a mark of the point's y to the right of it,
+//    a quarter of the smallest gap between two x values long (a quarter of
+//    the bar's height when there is no gap), without the polyline.
 #pragma once
 
 #include <Corvel/SbVec.h>

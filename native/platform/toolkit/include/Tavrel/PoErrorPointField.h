@@ -7,6 +7,9 @@
 //    errors of each list (none for a null pointer); it does not build.
 //  - Its build makes one part a point that has both errors:
 //    "error <point> +-(<xError>, <yError>)".
+//  - Drawing (PoDrawing.h): each error as a black cross of two segments,
+//    x - xError to x + xError at y and y - yError to y + yError at x (the
+//    shape and skeleton types are not drawn).
 #pragma once
 
 #include <Corvel/SbVec.h>

@@ -7,6 +7,10 @@
 //    each list (none for a null pointer); it does not build.
 //  - Its build makes one part a position that has all four values:
 //    "hlc <x> <low>..<high> close <close>".
+//  - Drawing (PoDrawing.h): each part as a black segment from (x, low) to
+//    (x, high) and a mark of the close value to the right of it, a quarter
+//    of the smallest gap between two x values long (a quarter of the
+//    segment when there is no gap).
 #pragma once
 
 #include <Tavrel/PoBuiltParts.h>

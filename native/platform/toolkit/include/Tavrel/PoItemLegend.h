@@ -8,6 +8,11 @@
 //  - Its build makes one part an item, from the top down:
 //    "item (x1, yLow)..(x2, yHigh) <colour or none> \"<name>\"", the items
 //    sharing the height between the corners evenly.
+//  - Drawing (PoDrawing.h): in each item's row of height h, a square of
+//    side 0.6 h, 0.2 h in from the row's left and centred in height, filled
+//    with the item's colour (outlined in black for an item without one),
+//    then the name beginning 0.2 h right of the square, centred in height.
+//    The row's right end does not bound the text.
 #pragma once
 
 #include <Corvel/SbColor.h>

@@ -12,6 +12,14 @@
 //  - Its build makes one part a point that has a value:
 //    "label <point> \"<string>\" <value>" (STRINGBEFOREVALUE,
 //    STRINGABOVEVALUE) or "label <point> <value> \"<string>\"" (the others).
+//  - Drawing (PoDrawing.h): each label as text at its point moved up by the
+//    offset: the string and the value (with the format when there is one,
+//    "%g" otherwise) joined by a space in the order of the concatenation
+//    type, or, for the ABOVE types, as two texts, the upper one on the point
+//    and the lower one hanging from it. Horizontally the text begins at the
+//    point (LEFT), ends there (RIGHT) or is centred on it (CENTER);
+//    vertically it hangs from the point (TOP), is centred on it (CAP, HALF)
+//    or stands on it (BASE, BOTTOM).
 #pragma once
 
 #include <Corvel/SbVec.h>
@@ -53,6 +61,9 @@ class PoLabelField : public PoQuorvex, public PoBuiltParts {
   std::vector<SbVec2f> points;
   std::vector<std::string> strings;
   std::vector<float> values;
+  float offset = 0.0f;
   ConcatType concatType = STRINGBEFOREVALUE;
+  Justification justification = LEFT;
+  VerticalJustification verticalJustification = BASE;
   PbNumericDisplayFormat* format = nullptr;
 };

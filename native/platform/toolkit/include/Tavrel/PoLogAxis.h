@@ -21,6 +21,8 @@
 //    the list as above, TENPOWERAUTO, DECADEAUTO, the font name of the text
 //    attributes ("" without) and the number of decades covered.
 //  - getMultFactor: MULTFACTOREND and 1. Eight sub-ticks.
+//  - Drawn as a cartesian axis (PoCartesianAxis.h) whose values lie at the
+//    fraction of their logarithm.
 #pragma once
 
 #include <Tavrel/PoCartesianAxis.h>
@@ -53,6 +55,7 @@ class PoLogAxis : public PoCartesianAxis {
   void makeGraduations(std::vector<Graduation>& out) const override;
   void range(double& startValue, double& endValue) const override;
   unsigned short subTicks() const override { return 8; }
+  bool logarithmic() const override { return true; }
 
  private:
   DecadeListDef decadeListDef = DECADELISTAUTO;

@@ -10,16 +10,19 @@
 //  - Its build makes one part a value, histogram after histogram:
 //    "bar <start>..<end> height <value> \"<histogName>/<valueName>\"", the
 //    bars sharing histogSize evenly as for PoSingleHistogram.
+//  - Drawn as PoHistogram.h says; without a data mapping the bars of
+//    histogram h take colour h modulo 4 of steel blue (0.27, 0.51, 0.71),
+//    orange (0.93, 0.55, 0.2), green (0.35, 0.7, 0.35) and red
+//    (0.84, 0.3, 0.3).
 #pragma once
 
 #include <Corvel/SbVec.h>
-#include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoHistogram.h>
 
 #include <string>
 #include <vector>
 
-class PoMultipleHistogram : public PoHistogram, public PoBuiltParts {
+class PoMultipleHistogram : public PoHistogram {
   PO_GRAPH_KIT_HEADER(PoMultipleHistogram)
 
  public:

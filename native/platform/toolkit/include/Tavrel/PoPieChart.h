@@ -31,7 +31,8 @@
 //    z = centre z, mapped through the matrix of the domain when the node
 //    has one.
 //  - A render traversal keeps those polygons in the slices' colours, and
-//    each slice's name (if any) outside it, along the middle of its span.
+//    each slice's name (if any) outside it, along the middle of its span,
+//    written in the slice's colour.
 #pragma once
 
 #include <Corvel/SbColor.h>

@@ -6,6 +6,11 @@
 //    coordinates along the axis are 0 at the centre and the distance
 //    between the two points at the end.
 //  - getMultFactor: MULTFACTOREND and a factor of 1.
+//  - Drawing (PoAxis.h): the segment from the centre to the end point at
+//    z 0, a value at its fraction of the way, the graduations on the right
+//    of the direction of the axis (below an axis that runs towards +x). Its
+//    length is the distance between the two points; an axis of length 0
+//    puts its graduations towards -y.
 #pragma once
 
 #include <Tavrel/PoAxis.h>
@@ -24,6 +29,10 @@ class PoPolarAxis : public PoAxis {
  protected:
   PoPolarAxis();
   ~PoPolarAxis() override;
+  std::vector<SbVec3f> axisLine() const override;
+  SbVec3f pointOf(double value) const override;
+  SbVec3f gradSide(double value) const override;
+  double axisLength() const override;
 
   float x0 = 0.0f, y0 = 0.0f, x1 = 1.0f, y1 = 0.0f;
 };

@@ -7,6 +7,8 @@
 //    and labelled as a logarithmic axis with that decade list (PoLogAxis.h).
 //    getLogGrad as PoLogAxis's. The default constructor makes the axis
 //    from (0, 0) to (1, 0) with the automatic decade list. Eight sub-ticks.
+//  - Drawn as a polar axis (PoPolarAxis.h) whose values lie at the fraction
+//    of their logarithm (a value 10^d at the distance d).
 #pragma once
 
 #include <Tavrel/PoLogAxis.h>
@@ -34,6 +36,7 @@ class PoPolarLogAxis : public PoPolarAxis {
   void makeGraduations(std::vector<Graduation>& out) const override;
   void range(double& startValue, double& endValue) const override;
   unsigned short subTicks() const override { return 8; }
+  bool logarithmic() const override { return true; }
 
  private:
   DecadeListDef decadeListDef = DECADELISTAUTO;

@@ -13,6 +13,11 @@
 //    values are the coordinates through the mapping (without one: days
 //    since 2000-01-01). The mapping is kept by address; setting it is a
 //    change of the node. Three sub-ticks.
+//  - Drawing (PoAxis.h): type X runs along x at y = position from the
+//    coordinate of the first date to that of the second, graduations below
+//    (towards -y); type Y along y at x = position, graduations on the left
+//    (towards -x). Each graduation is drawn at its coordinate; the axis's
+//    length is the distance between the two dates' coordinates.
 #pragma once
 
 #include <Tavrel/PoAxis.h>
@@ -41,6 +46,10 @@ class PoTimeAxis : public PoAxis {
   void makeGraduations(std::vector<Graduation>& out) const override;
   void range(double& startValue, double& endValue) const override;
   unsigned short subTicks() const override { return 3; }
+  std::vector<SbVec3f> axisLine() const override;
+  SbVec3f pointOf(double value) const override;
+  SbVec3f gradSide(double value) const override;
+  double axisLength() const override;
 
  private:
   double coordinate(double seconds) const;

@@ -6,7 +6,17 @@
 //    (null: none) and given back as is; setting one does not rebuild the
 //    node.
 //  - A value legend is placed between two corners (default (0, 0) and
-//    (1, 1)); its build makes one part, "frame <corner1>..<corner2>".
+//    (1, 1)); its build makes the part "frame <corner1>..<corner2>", then,
+//    when it has an isovalue list, one part a value of the list in order,
+//    "value <text> <colour or none>": the value written with the format
+//    ("%g" without one) and its colour through the data mapping (none
+//    without one).
+//  - Drawing (PoDrawing.h): the frame as a black outline; inside it, one
+//    row a value from the bottom up, sharing the height evenly, drawn as the
+//    rows of an item legend (PoItemLegend.h): a square in the value's
+//    colour (grey (0.5, 0.5, 0.5) without a data mapping), then the text.
+//    Setting the list, the mapping or the format does not rebuild the node:
+//    a legend draws the values of its last build.
 #pragma once
 
 #include <Corvel/SbVec.h>

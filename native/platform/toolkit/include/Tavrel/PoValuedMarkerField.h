@@ -10,6 +10,9 @@
 //    setting it does not rebuild the node.
 //  - Its build makes one part a point that has both values:
 //    "marker <point> <value1> <value2>".
+//  - Drawing (PoDrawing.h): each marker as the text "\u25CF" (a black
+//    disc) centred on its point, in the data mapping's colour of value2
+//    when there is a mapping.
 #pragma once
 
 #include <Corvel/SbVec.h>

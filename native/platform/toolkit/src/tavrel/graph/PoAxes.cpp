@@ -210,6 +210,38 @@ void PoAxis::build() {
   makeGraduations(made);
   if (made.size() > kMaxGraduations) made.clear();
   grads.swap(made);
+  drawAxis();
+}
+
+void PoAxis::drawAxis() {
+  using P = PoDrawing::Primitive;
+  clearDrawing();
+  addLine(axisLine());
+  const double tick = 0.04 * axisLength();
+  for (const Graduation& g : grads) {
+    const SbVec3f at = pointOf(g.value);
+    const SbVec3f side = gradSide(g.value);
+    addLine({at, at + side * static_cast<float>(tick)});
+    // Written away from the axis, as the tick points.
+    P::Anchor anchor = P::MIDDLE;
+    P::Baseline baseline = side[1] < 0 ? P::HANGING : P::BASELINE;
+    if (std::fabs(side[0]) > std::fabs(side[1])) {
+      anchor = side[0] < 0 ? P::END : P::START;
+      baseline = P::CENTRAL;
+    }
+    addText(at + side * static_cast<float>(1.5 * tick), g.label.getString(), anchor, baseline);
+  }
+  mapThroughDomain(domainInUse());
+}
+
+double PoAxis::fraction(double value) const {
+  double start, end;
+  range(start, end);
+  if (logarithmic()) {
+    value = std::log10(value), start = std::log10(start), end = std::log10(end);
+  }
+  const double f = (value - start) / (end - start);
+  return std::isfinite(f) ? f : 0.0;
 }
 
 SbString PoAxis::label(double value, const PbNumericDisplayFormat* format) {
@@ -275,6 +307,49 @@ double PoCartesianAxis::startCoordinate() const {
     default: return start[0];
   }
 }
+
+namespace {
+// The index of the coordinate along a cartesian type, and of its second direction.
+int along(PoCartesianAxis::Type type) {
+  switch (type) {
+    case PoCartesianAxis::YX:
+    case PoCartesianAxis::YZ: return 1;
+    case PoCartesianAxis::ZX:
+    case PoCartesianAxis::ZY: return 2;
+    default: return 0;
+  }
+}
+int across(PoCartesianAxis::Type type) {
+  switch (type) {
+    case PoCartesianAxis::XY:
+    case PoCartesianAxis::ZY: return 1;
+    case PoCartesianAxis::YX:
+    case PoCartesianAxis::ZX: return 0;
+    default: return 2;
+  }
+}
+}  // namespace
+
+std::vector<SbVec3f> PoCartesianAxis::axisLine() const {
+  SbVec3f to = start;
+  to[along(type)] = end;
+  return {start, to};
+}
+
+SbVec3f PoCartesianAxis::pointOf(double value) const {
+  SbVec3f at = start;
+  const double from = startCoordinate();
+  at[along(type)] = static_cast<float>(from + fraction(value) * (end - from));
+  return at;
+}
+
+SbVec3f PoCartesianAxis::gradSide(double) const {
+  SbVec3f side(0, 0, 0);
+  side[across(type)] = -1.0f;
+  return side;
+}
+
+double PoCartesianAxis::axisLength() const { return std::fabs(end - startCoordinate()); }
 
 PoLinearAxis::PoLinearAxis() { CallJournal::record("PoLinearAxis::PoLinearAxis"); }
 PoLinearAxis::~PoLinearAxis() = default;
@@ -425,6 +500,21 @@ PoPolarAxis::~PoPolarAxis() = default;
 
 double PoPolarAxis::length() const { return std::hypot(static_cast<double>(x1) - x0, static_cast<double>(y1) - y0); }
 
+std::vector<SbVec3f> PoPolarAxis::axisLine() const { return {SbVec3f(x0, y0, 0), SbVec3f(x1, y1, 0)}; }
+
+SbVec3f PoPolarAxis::pointOf(double value) const {
+  const float f = static_cast<float>(fraction(value));
+  return SbVec3f(x0 + f * (x1 - x0), y0 + f * (y1 - y0), 0);
+}
+
+SbVec3f PoPolarAxis::gradSide(double) const {
+  const double l = length();
+  if (!(l > 0.0)) return SbVec3f(0, -1, 0);
+  return SbVec3f(static_cast<float>((y1 - y0) / l), static_cast<float>((x0 - x1) / l), 0);
+}
+
+double PoPolarAxis::axisLength() const { return length(); }
+
 void PoPolarAxis::getMultFactor(MultFactorPosition& position, float& factor) const {
   CallJournal::record("PoPolarAxis::getMultFactor");
   position = MULTFACTOREND;
@@ -527,6 +617,24 @@ void PoAngularAxis::range(double& startValue, double& endValue) const {
   endValue = static_cast<double>(firstAngle) + 360.0;
 }
 
+std::vector<SbVec3f> PoAngularAxis::axisLine() const {
+  std::vector<SbVec3f> circle;
+  for (int k = 0; k <= 64; ++k) circle.push_back(pointOf(360.0 * k / 64));
+  return circle;
+}
+
+SbVec3f PoAngularAxis::pointOf(double degrees) const {
+  const SbVec3f side = gradSide(degrees);
+  return SbVec3f(centreX, centreY, 0) + side * radius;
+}
+
+SbVec3f PoAngularAxis::gradSide(double degrees) const {
+  const double a = degrees * 3.14159265358979323846 / 180.0;
+  return SbVec3f(static_cast<float>(std::cos(a)), static_cast<float>(std::sin(a)), 0);
+}
+
+double PoAngularAxis::axisLength() const { return std::fabs(radius); }
+
 void PoAngularAxis::makeGraduations(std::vector<Graduation>& out) const {
   if (!std::isfinite(firstAngle)) return;
   const double st = angleStep > 0.0f && angleStep <= 360.0f ? angleStep : 30.0;
@@ -580,6 +688,24 @@ void PoTimeAxis::range(double& startValue, double& endValue) const {
   }
   startValue = coordinate(s1);
   endValue = coordinate(s2);
+}
+
+SbVec3f PoTimeAxis::pointOf(double value) const {
+  return type == Y ? SbVec3f(position, static_cast<float>(value), 0) : SbVec3f(static_cast<float>(value), position, 0);
+}
+
+std::vector<SbVec3f> PoTimeAxis::axisLine() const {
+  double s, e;
+  range(s, e);
+  return {pointOf(s), pointOf(e)};
+}
+
+SbVec3f PoTimeAxis::gradSide(double) const { return type == Y ? SbVec3f(-1, 0, 0) : SbVec3f(0, -1, 0); }
+
+double PoTimeAxis::axisLength() const {
+  double s, e;
+  range(s, e);
+  return std::fabs(e - s);
 }
 
 void PoTimeAxis::makeGraduations(std::vector<Graduation>& out) const {

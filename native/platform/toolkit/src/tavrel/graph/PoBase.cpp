@@ -6,6 +6,7 @@
 #include <Tavrel/PoBase.h>
 #include <Tavrel/PoBaseAxis.h>
 #include <Tavrel/PoChart.h>
+#include <Tavrel/PoDrawing.h>
 #include <Tavrel/PoQuorvex.h>
 #include <Tavrel/PoRectangle.h>
 
@@ -150,7 +151,9 @@ void PoBase::rebuildForTraversal() {
   if (modified) rebuild();
 }
 
-void PoBase::draw(SoGLRenderAction*) {}
+void PoBase::draw(SoGLRenderAction* action) {
+  if (const auto* drawing = dynamic_cast<const PoDrawing*>(this)) drawing->drawInto(action);
+}
 
 void PoBase::GLRender(SoGLRenderAction* action) {
   rebuildForTraversal();

@@ -2,6 +2,8 @@
 // kept by value, and the parts their builds make.
 
 #include <Corvel/CallJournal.h>
+#include <Tavrel/PbDataMapping.h>
+#include <Tavrel/PbIsovaluesList.h>
 #include <Tavrel/PoAutoValueLegend.h>
 #include <Tavrel/PoCurve.h>
 #include <Tavrel/PoCurve3.h>
@@ -54,16 +56,13 @@ std::string polyline(const std::vector<Point>& points) {
   return out;
 }
 
-// One bar a value, sharing size evenly from start.
-void addBars(std::vector<std::string>& parts, float start, float size, const std::vector<float>& values,
-             const std::vector<std::string>& names) {
-  const float width = values.empty() ? 0.0f : size / static_cast<float>(values.size());
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    const float from = start + width * static_cast<float>(i);
-    parts.push_back("bar " + text(from) + ".." + text(from + width) + " height " + text(values[i]) + " " +
-                    text(names[i]));
-  }
+std::vector<SbVec3f> flat(const std::vector<SbVec2f>& points) {
+  std::vector<SbVec3f> out;
+  for (const SbVec2f& p : points) out.emplace_back(p[0], p[1], 0.0f);
+  return out;
 }
+
+const SbColor kSteelBlue(0.27f, 0.51f, 0.71f);
 }  // namespace
 
 // --- curves --------------------------------------------------------------------------
@@ -85,6 +84,9 @@ void PoCurve::rebuild() {
 void PoCurve::build() {
   CallJournal::record("PoCurve::build");
   builtParts = {curveRep == CURVENONE ? std::string("none") : polyline(points)};
+  clearDrawing();
+  if (curveRep != CURVENONE && !points.empty()) addLine(flat(points));
+  mapThroughDomain(domainInUse());
 }
 
 PoCurve3::~PoCurve3() = default;
@@ -104,6 +106,9 @@ void PoCurve3::rebuild() {
 void PoCurve3::build() {
   CallJournal::record("PoCurve3::build");
   builtParts = {curveRep == CURVENONE ? std::string("none") : polyline(points)};
+  clearDrawing();
+  if (curveRep != CURVENONE && !points.empty()) addLine(points);
+  mapThroughDomain(domainInUse());
 }
 
 PoErrorCurve::~PoErrorCurve() = default;
@@ -130,19 +135,78 @@ void PoErrorCurve::build() {
   builtParts = {polyline(points)};
   const bool percent = variationType == PERCENTFIXEDVARIATION || variationType == PERCENTRELVARIATION;
   const bool relative = variationType == RELVARIATION || variationType == PERCENTRELVARIATION;
+  std::vector<SbVec3f> lows, highs;
+  std::vector<float> xs;
   for (std::size_t i = 0; i < points.size() && i < low.size() && i < high.size(); ++i) {
     const float x = points[i][0];
     const float y = points[i][1];
     const float scale = (percent ? 0.01f : 1.0f) * (relative ? std::fabs(y) : 1.0f);
+    lows.emplace_back(x, y - low[i] * scale, 0.0f);
+    highs.emplace_back(x, y + high[i] * scale, 0.0f);
+    xs.push_back(x);
     builtParts.push_back("bar " + text(SbVec2f(x, y - low[i] * scale)) + ".." +
                          text(SbVec2f(x, y + high[i] * scale)));
   }
+  clearDrawing();
+  if (errorCurveRep == FILLED && !lows.empty()) {
+    std::vector<SbVec3f> band = lows;
+    band.insert(band.end(), highs.rbegin(), highs.rend());
+    addPolygon(std::move(band), SbColor(0.75f, 0.85f, 0.95f));
+  }
+  if (errorCurveRep != HIGHLOWCLOSE && !points.empty()) addLine(flat(points));
+  if (errorCurveRep != FILLED) {
+    for (std::size_t i = 0; i < lows.size(); ++i) {
+      addLine({lows[i], highs[i]});
+      if (errorCurveRep == HIGHLOWCLOSE) {
+        const float mark = quarterGap(xs, highs[i][1] - lows[i][1]);
+        addLine({SbVec3f(xs[i], points[i][1], 0), SbVec3f(xs[i] + mark, points[i][1], 0)});
+      }
+    }
+  }
+  mapThroughDomain(domainInUse());
 }
 
 // --- histograms ----------------------------------------------------------------------
 
 PoHistogram::PoHistogram() = default;
 PoHistogram::~PoHistogram() = default;
+
+void PoHistogram::buildBars(const SbVec2f& origin, float size, Type type, const std::vector<float>& values,
+                            const std::vector<std::string>& names, const std::vector<SbColor>& colors) {
+  using P = PoDrawing::Primitive;
+  builtParts.clear();
+  clearDrawing();
+  const int along = type == Y ? 1 : 0, across = 1 - along;
+  const float start = origin[along], base = origin[across];
+  const float width = values.empty() ? 0.0f : size / static_cast<float>(values.size());
+  // A point given along and across the bars.
+  auto at = [&](float a, float b) {
+    SbVec3f p(0, 0, 0);
+    p[along] = a;
+    p[across] = b;
+    return p;
+  };
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const float from = start + width * static_cast<float>(i);
+    const float value = values[i];
+    builtParts.push_back("bar " + text(from) + ".." + text(from + width) + " height " + text(value) + " " +
+                         text(names[i]));
+    const float a = from + 0.1f * width, b = from + 0.9f * width, middle = from + 0.5f * width;
+    addPolygon({at(a, base), at(b, base), at(b, base + value), at(a, base + value)},
+               dataMapping != nullptr ? dataMapping->colorOf(value) : colors[i]);
+    // The name on the origin's side, the value beyond the bar's end, a tenth of the span away.
+    const float gap = value >= 0 ? 0.1f * std::fabs(width) : -0.1f * std::fabs(width);
+    const bool up = value >= 0;
+    if (type == Y) {
+      addText(at(middle, base - gap), names[i], up ? P::END : P::START, P::CENTRAL);
+      addText(at(middle, base + value + gap), valueText(value, format), up ? P::START : P::END, P::CENTRAL);
+    } else {
+      addText(at(middle, base - gap), names[i], P::MIDDLE, up ? P::HANGING : P::BASELINE);
+      addText(at(middle, base + value + gap), valueText(value, format), P::MIDDLE, up ? P::BASELINE : P::HANGING);
+    }
+  }
+  mapThroughDomain(domainInUse());
+}
 
 void PoHistogram::setMiscTextAttr(PbMiscTextAttr* attr) {
   CallJournal::record("PoHistogram::setMiscTextAttr", static_cast<const void*>(attr));
@@ -195,8 +259,7 @@ void PoSingleHistogram::rebuild() {
 
 void PoSingleHistogram::build() {
   CallJournal::record("PoSingleHistogram::build");
-  builtParts.clear();
-  addBars(builtParts, origin[type == Y ? 1 : 0], histogSize, values, names);
+  buildBars(origin, histogSize, type, values, names, std::vector<SbColor>(values.size(), kSteelBlue));
 }
 
 PoMultipleHistogram::~PoMultipleHistogram() = default;
@@ -229,8 +292,7 @@ void PoMultipleHistogram::build() {
   for (const std::string& h : histogNames) {
     for (const std::string& v : valueNames) names.push_back(h + "/" + v);
   }
-  builtParts.clear();
-  addBars(builtParts, origin[type == Y ? 1 : 0], histogSize, values, names);
+  buildBars(origin, histogSize, type, values, names, std::vector<SbColor>(values.size(), kSteelBlue));
 }
 
 // --- legends -------------------------------------------------------------------------
@@ -277,6 +339,13 @@ void PoItemLegend::build() {
     builtParts.push_back("item " + text(SbVec2f(corner1[0], high - step)) + ".." + text(SbVec2f(corner2[0], high)) +
                          " " + colour + " " + text(names[i]));
   }
+  clearDrawing();
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const float high = top - step * static_cast<float>(i);
+    addLegendRow(SbVec2f(corner1[0], high - step), SbVec2f(corner2[0], high), i < colors.size() ? &colors[i] : nullptr,
+                 names[i]);
+  }
+  mapThroughDomain(domainInUse());
 }
 
 // --- value legends -------------------------------------------------------------------
@@ -330,6 +399,20 @@ void PoValueLegend::rebuild() {
 void PoValueLegend::build() {
   CallJournal::record("PoValueLegend::build");
   builtParts = {"frame " + text(corner1) + ".." + text(corner2)};
+  clearDrawing();
+  addLine(box(corner1, corner2));
+  const std::vector<float> none;
+  const std::vector<float>& values = isovaluesList != nullptr ? isovaluesList->values() : none;
+  const float step = values.empty() ? 0.0f : (corner2[1] - corner1[1]) / static_cast<float>(values.size());
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const std::string written = valueText(values[i], format);
+    const SbColor color = dataMapping != nullptr ? dataMapping->colorOf(values[i]) : SbColor(0.5f, 0.5f, 0.5f);
+    builtParts.push_back("value " + written + " " +
+                         (dataMapping != nullptr ? text(static_cast<const SbVec3f&>(color)) : std::string("none")));
+    const float low = corner1[1] + step * static_cast<float>(i);
+    addLegendRow(SbVec2f(corner1[0], low), SbVec2f(corner2[0], low + step), &color, written);
+  }
+  mapThroughDomain(domainInUse());
 }
 
 PoLinearValueLegend::PoLinearValueLegend() { CallJournal::record("PoLinearValueLegend::PoLinearValueLegend"); }

@@ -2,6 +2,7 @@
 // points: what they are given, kept by value, and the parts their builds make.
 
 #include <Corvel/CallJournal.h>
+#include <Tavrel/PbDataMapping.h>
 #include <Tavrel/PoBiErrorPointField.h>
 #include <Tavrel/PoErrorPointField.h>
 #include <Tavrel/PoHighLowClose.h>
@@ -38,6 +39,9 @@ std::size_t common(const Lists&... lists) {
   ((n = lists.size() < n ? lists.size() : n), ...);
   return n;
 }
+SbVec3f flat(const SbVec2f& p) { return SbVec3f(p[0], p[1], 0.0f); }
+
+const SbColor kSteelBlue(0.27f, 0.51f, 0.71f);
 }  // namespace
 
 // --- high-low-close --------------------------------------------------------------------
@@ -65,6 +69,14 @@ void PoHighLowClose::build() {
   for (std::size_t i = 0; i < common(xs, highs, lows, closes); ++i)
     builtParts.push_back("hlc " + text(xs[i]) + " " + text(lows[i]) + ".." + text(highs[i]) + " close " +
                          text(closes[i]));
+  clearDrawing();
+  for (std::size_t i = 0; i < common(xs, highs, lows, closes); ++i) {
+    const float x = xs[i];
+    addLine({SbVec3f(x, lows[i], 0), SbVec3f(x, highs[i], 0)});
+    const float mark = quarterGap(xs, highs[i] - lows[i]);
+    addLine({SbVec3f(x, closes[i], 0), SbVec3f(x + mark, closes[i], 0)});
+  }
+  mapThroughDomain(domainInUse());
 }
 
 // --- valued markers ---------------------------------------------------------------------
@@ -100,6 +112,11 @@ void PoValuedMarkerField::build() {
   builtParts.clear();
   for (std::size_t i = 0; i < common(points, values1, values2); ++i)
     builtParts.push_back("marker " + text(points[i]) + " " + text(values1[i]) + " " + text(values2[i]));
+  clearDrawing();
+  for (std::size_t i = 0; i < common(points, values1, values2); ++i)
+    addText(flat(points[i]), "\u25CF", Primitive::MIDDLE, Primitive::CENTRAL,
+            dataMapping != nullptr ? dataMapping->colorOf(values2[i]) : SbColor(0, 0, 0));
+  mapThroughDomain(domainInUse());
 }
 
 // --- bars at points ---------------------------------------------------------------------
@@ -137,6 +154,15 @@ void PoPointsFieldBars::build() {
   for (std::size_t i = 0; i < common(points, heights); ++i)
     builtParts.push_back("bar " + text(points[i]) + " height " + text(heights[i]) + " size " + text(width1) + " x " +
                          text(width2));
+  clearDrawing();
+  for (std::size_t i = 0; i < common(points, heights); ++i) {
+    const SbVec3f& p = points[i];
+    const float dx = width1 / 2, dy = width2 / 2;
+    addPolygon({SbVec3f(p[0] - dx, p[1] - dy, 0), SbVec3f(p[0] + dx, p[1] - dy, 0), SbVec3f(p[0] + dx, p[1] + dy, 0),
+                SbVec3f(p[0] - dx, p[1] + dy, 0)},
+               dataMapping != nullptr ? dataMapping->colorOf(heights[i]) : kSteelBlue);
+  }
+  mapThroughDomain(domainInUse());
 }
 
 // --- error points -----------------------------------------------------------------------
@@ -163,6 +189,13 @@ void PoErrorPointField::build() {
   builtParts.clear();
   for (std::size_t i = 0; i < common(points, xErrors, yErrors); ++i)
     builtParts.push_back("error " + text(points[i]) + " +-" + text(SbVec2f(xErrors[i], yErrors[i])));
+  clearDrawing();
+  for (std::size_t i = 0; i < common(points, xErrors, yErrors); ++i) {
+    const float x = points[i][0], y = points[i][1];
+    addLine({SbVec3f(x - xErrors[i], y, 0), SbVec3f(x + xErrors[i], y, 0)});
+    addLine({SbVec3f(x, y - yErrors[i], 0), SbVec3f(x, y + yErrors[i], 0)});
+  }
+  mapThroughDomain(domainInUse());
 }
 
 PoBiErrorPointField::~PoBiErrorPointField() = default;
@@ -194,6 +227,13 @@ void PoBiErrorPointField::build() {
     builtParts.push_back("error " + text(points[i]) + " x " + text(x - xLow[i]) + ".." + text(x + xHigh[i]) +
                          " y " + text(y - yLow[i]) + ".." + text(y + yHigh[i]));
   }
+  clearDrawing();
+  for (std::size_t i = 0; i < common(points, xLow, xHigh, yLow, yHigh); ++i) {
+    const float x = points[i][0], y = points[i][1];
+    addLine({SbVec3f(x - xLow[i], y, 0), SbVec3f(x + xHigh[i], y, 0)});
+    addLine({SbVec3f(x, y - yLow[i], 0), SbVec3f(x, y + yHigh[i], 0)});
+  }
+  mapThroughDomain(domainInUse());
 }
 
 // --- labels -----------------------------------------------------------------------------
@@ -212,7 +252,10 @@ void PoLabelField::init(int isDefault, int num, const SbVec2f* newPoints, const 
   for (int i = 0; i < num; ++i)
     strings.emplace_back(newStrings != nullptr && newStrings[i] != nullptr ? newStrings[i] : "");
   values = copied(newValues, num);
+  this->offset = offset;
   concatType = concat;
+  this->justification = justification;
+  this->verticalJustification = verticalJustification;
 }
 
 void PoLabelField::setFormat(PbNumericDisplayFormat* newFormat) {
@@ -239,4 +282,23 @@ void PoLabelField::build() {
     const std::string v = text(values[i]);
     builtParts.push_back("label " + text(points[i]) + " " + (stringFirst ? s + " " + v : v + " " + s));
   }
+  clearDrawing();
+  const Primitive::Anchor anchor =
+      justification == RIGHT ? Primitive::END : justification == CENTER ? Primitive::MIDDLE : Primitive::START;
+  const Primitive::Baseline baseline = verticalJustification == TOP ? Primitive::HANGING
+                                       : verticalJustification == CAP || verticalJustification == HALF
+                                           ? Primitive::CENTRAL
+                                           : Primitive::BASELINE;
+  for (std::size_t i = 0; i < common(points, strings, values); ++i) {
+    const SbVec3f at(points[i][0], points[i][1] + offset, 0);
+    const std::string& s = strings[i];
+    const std::string v = valueText(values[i], format);
+    if (concatType == STRINGABOVEVALUE || concatType == VALUEABOVESTRING) {
+      addText(at, stringFirst ? s : v, anchor, Primitive::BASELINE);
+      addText(at, stringFirst ? v : s, anchor, Primitive::HANGING);
+    } else {
+      addText(at, stringFirst ? s + " " + v : v + " " + s, anchor, baseline);
+    }
+  }
+  mapThroughDomain(domainInUse());
 }

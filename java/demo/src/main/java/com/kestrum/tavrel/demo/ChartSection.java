@@ -2,6 +2,7 @@ package com.kestrum.tavrel.demo;
 
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.corvel.actions.SoGLRenderAction;
 import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.graph.PoBase;
 import com.kestrum.tavrel.graph.PoErrorCurve;
@@ -11,7 +12,10 @@ import com.kestrum.tavrel.graph.PoSingleHistogram;
 import java.util.Arrays;
 import java.util.List;
 
-/** A curve with error bars, a histogram and an item legend made from Java arrays, and rebuilt. */
+/**
+ * A curve with error bars, a histogram and an item legend made from Java arrays, rebuilt, and
+ * what they built from the arrays (points, bars, legend items) as a render draws it.
+ */
 final class ChartSection implements Demo.Section {
     @Override
     public String title() {
@@ -46,6 +50,13 @@ final class ChartSection implements Demo.Section {
                 node.addPostRebuildListener(n -> System.out.println("  " + n.getTypeName() + " rebuilt, built "
                         + n.isBuilt() + ", modified " + n.isModified()));
                 node.rebuild();
+            }
+            try (SoGLRenderAction render = new SoGLRenderAction()) {
+                for (PoBase node : List.<PoBase>of(curve, histogram, legend)) {
+                    render.apply(node);
+                    System.out.println("What the " + node.getTypeName() + " built from them, as a render draws it:");
+                    Picture.describe(render.toSvg()).forEach(element -> System.out.println("  " + element));
+                }
             }
             System.out.println("The arrays are left as they were: " + Arrays.toString(xy) + " "
                     + Arrays.toString(colours[0].getValue()));

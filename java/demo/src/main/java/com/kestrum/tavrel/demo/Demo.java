@@ -27,7 +27,8 @@ public final class Demo {
                 new GraphSection(),
                 new AxesSection(),
                 new ShapesSection(),
-                new ChartSection());
+                new ChartSection(),
+                new DashboardSection());
         for (Section s : sections) {
             System.out.println();
             System.out.println("== " + s.title() + " ==");

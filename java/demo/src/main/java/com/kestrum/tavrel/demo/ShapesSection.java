@@ -11,16 +11,9 @@ import com.kestrum.tavrel.graph.PoCircleArcThreePts;
 import com.kestrum.tavrel.graph.PoCircleThreePoints;
 import com.kestrum.tavrel.graph.PoPieChart2D;
 import com.kestrum.tavrel.graph.PoRectangle;
-import java.io.IOException;
-import java.io.UncheckedIOException;
-import java.nio.file.Path;
-import java.nio.file.Paths;
 import java.util.List;
 
-/**
- * A pie chart and the geometric shapes, built through the binding and rendered; the render
- * writes what they drew to chart.svg in the working directory.
- */
+/** A pie chart and the geometric shapes, built through the binding and rendered together. */
 final class ShapesSection implements Demo.Section {
     @Override
     public String title() {
@@ -59,12 +52,8 @@ final class ShapesSection implements Demo.Section {
                     System.out.println("  " + shape.getTypeName() + " rendered in a group: built "
                             + shape.isBuilt());
                 }
-                Path picture = Paths.get("chart.svg").toAbsolutePath();
-                render.writeSvg(picture);
-                System.out.println("  what the render kept, as a picture: " + picture + " (open it in a browser)");
+                System.out.println("  what the render kept: " + Picture.summary(render.toSvg()));
             }
-        } catch (IOException e) {
-            throw new UncheckedIOException(e);
         } finally {
             format.dispose();
         }

@@ -1,0 +1,60 @@
+// What a graph node's last build draws, kept for the render traversal: lines,
+// filled polygons and texts in scene coordinates (see SoGLRenderAction in
+// Corvel/SoAction.h). Used inside this toolkit and by its tests; each node
+// says in its header what it draws.
+//
+// Rules shared by the nodes that draw:
+//  - The drawing is made by the build and replaced by the next one; a render
+//    traversal adds it to the action's picture as it is (a node whose
+//    settings changed without a rebuild draws what it last built).
+//  - Points are drawn where the node keeps them; a node with a domain maps
+//    them through the domain's matrix (getMatrix, PbDomain.h) as the
+//    geometric shapes do.
+//  - Lines and texts are black unless the node says otherwise.
+#pragma once
+
+#include <Corvel/SbColor.h>
+#include <Corvel/SbVec.h>
+#include <Corvel/SoAction.h>
+
+#include <string>
+#include <vector>
+
+class PbDomain;
+class PbNumericDisplayFormat;
+
+class PoDrawing {
+ public:
+  using Primitive = SoGLRenderAction::Primitive;
+
+  virtual ~PoDrawing() = default;
+  // What the last build drew (empty before the first).
+  const std::vector<Primitive>& getDrawing() const { return drawing; }
+
+ protected:
+  void clearDrawing() { drawing.clear(); }
+  void addLine(std::vector<SbVec3f> points, const SbColor& color = SbColor(0, 0, 0));
+  void addPolygon(std::vector<SbVec3f> points, const SbColor& color);
+  void addText(const SbVec3f& at, std::string text, Primitive::Anchor anchor = Primitive::MIDDLE,
+               Primitive::Baseline baseline = Primitive::BASELINE, const SbColor& color = SbColor(0, 0, 0));
+  // A legend row from corner low to corner high: a square in the colour
+  // (outlined in black for null), then the text (PoItemLegend.h).
+  void addLegendRow(const SbVec2f& low, const SbVec2f& high, const SbColor* color, const std::string& text);
+  // A quarter of the smallest gap between two of the x values, or of the
+  // fallback when no two differ.
+  static float quarterGap(std::vector<float> xs, float fallback);
+  // The outline of the box from corner a to corner c, closed, at z 0.
+  static std::vector<SbVec3f> box(const SbVec2f& a, const SbVec2f& c);
+  // A value written with the format, without the padding on its left
+  // (null: "%g").
+  static std::string valueText(float value, const PbNumericDisplayFormat* format);
+  // Maps every point drawn so far through the domain's matrix (null: none).
+  void mapThroughDomain(const PbDomain* domain);
+
+ private:
+  friend class PoBase;
+  // Adds the drawing to the action's picture (PoBase::draw).
+  void drawInto(SoGLRenderAction* action) const;
+
+  std::vector<Primitive> drawing;
+};
