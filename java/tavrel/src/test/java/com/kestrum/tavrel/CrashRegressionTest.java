@@ -56,6 +56,8 @@ class CrashRegressionTest {
          * disposed and dropped); the view and the node disposed and collected; the scene drawn.
          */
         NODE_MESH_KEPT_BY_REPRESENTATIONS(List.of(), "cells drawn: 358801\\R"),
+        /** The same with the representation's Java object dropped without disposal and collected. */
+        NODE_MESH_KEPT_BY_COLLECTED_REPRESENTATIONS(List.of(), "cells drawn: 358801\\R"),
         /** A node count that fits an int but no Java array, on a mesh with a strings set. */
         HUGE_NODE_COUNT(List.of(), "refused: java.lang.IllegalArgumentException: numNodes"),
         /** Meshes and cells made and disposed, in a small heap. */
@@ -79,7 +81,8 @@ class CrashRegressionTest {
             case PROBE_DISPOSED_BY_ITS_LISTENER -> Scenarios.probeDisposedByItsListener();
             case FILTER_DISPOSED_AFTER_APPLY -> Scenarios.filterDisposedAfterApply();
             case FILTER_DISPOSING_ITSELF_IN_ACCEPT_CELL -> Scenarios.filterDisposingItselfInAcceptCell();
-            case NODE_MESH_KEPT_BY_REPRESENTATIONS -> Scenarios.nodeMeshKeptByRepresentations();
+            case NODE_MESH_KEPT_BY_REPRESENTATIONS -> Scenarios.nodeMeshKeptByRepresentations(true);
+            case NODE_MESH_KEPT_BY_COLLECTED_REPRESENTATIONS -> Scenarios.nodeMeshKeptByRepresentations(false);
             case HUGE_NODE_COUNT -> Scenarios.hugeNodeCount();
             case PEERS_DISPOSED -> Scenarios.peers(true);
             case PEERS_COLLECTED -> Scenarios.peers(false);
@@ -230,16 +233,17 @@ class CrashRegressionTest {
             }
         }
 
-        static void nodeMeshKeptByRepresentations() throws InterruptedException {
+        static void nodeMeshKeptByRepresentations(boolean disposed) throws InterruptedException {
             PoRegularCartesianGrid2D node = new PoRegularCartesianGrid2D();
             PbRegularCartesianGrid2D view = node.getMesh();
             view.setGeometry(600, 600, 0, 0, 1, 1);
             view.getArea();
             SoGroup scene = new SoGroup();
-            long filledHandle = representationOnlyTheSceneKeeps(scene, view);
+            long filledHandle = representationOnlyTheSceneKeeps(scene, view, disposed);
             view.dispose();
             node.dispose();
             view = null;
+            node = null;
             for (int i = 0; i < 5; i++) {
                 System.gc();
                 Thread.sleep(20);  // the collected views' cleaning actions run on their own thread
@@ -251,13 +255,16 @@ class CrashRegressionTest {
             System.out.println("cells drawn: " + Representations.selectedCells(filledHandle).length);
         }
 
-        /** A representation of the mesh in the scene, whose Java object is disposed and dropped. */
-        private static long representationOnlyTheSceneKeeps(SoGroup scene, PbRegularCartesianGrid2D mesh) {
+        /** A representation of the mesh in the scene, whose Java object is dropped (disposed or not). */
+        private static long representationOnlyTheSceneKeeps(SoGroup scene, PbRegularCartesianGrid2D mesh,
+                boolean disposed) {
             PoMeshFilled filled = new PoMeshFilled();
             filled.setMesh(mesh);
             scene.addChild(filled);
             long handle = filled.getNativeResourceHandleInternal();
-            filled.dispose();
+            if (disposed) {
+                filled.dispose();
+            }
             return handle;
         }
 

@@ -8,12 +8,14 @@ import com.kestrum.tavrel.internal.MeshViews;
  * given and, when that object is a view of the mesh of a mesh node or field, a hold on that
  * node or field. The hold keeps the mesh alive while the node may draw it, even after the view
  * and the node or field that holds the mesh have been disposed; it ends when another mesh is
- * set, or when the representation is disposed and its native object goes with it.
+ * set, or when the representation is disposed and its native object goes with it. When the
+ * representation's Java object is disposed while the scene still references its native object,
+ * or is collected, the hold is kept for good: nothing tells when the native object dies.
  */
 final class MeshUse<M extends PbMesh> {
     private final Class<M> type;
     private M mesh;
-    private MeshViews.OwnerHold hold;
+    private volatile MeshViews.OwnerHold hold;
 
     MeshUse(Class<M> type) {
         this.type = type;
@@ -61,9 +63,22 @@ final class MeshUse<M extends PbMesh> {
      * gone with it; otherwise (the scene still references the node) the mesh stays held.
      */
     void nodeDisposed(boolean nativeGone) {
-        if (nativeGone && hold != null) {
-            hold.release();
-            hold = null;
+        MeshViews.OwnerHold h = hold;
+        hold = null;
+        if (h != null) {
+            if (nativeGone) {
+                h.release();
+            } else {
+                h.keepForGood();
+            }
+        }
+    }
+
+    /** After the node's Java object was collected (on the cleaning thread): see the class. */
+    void nodeCollected() {
+        MeshViews.OwnerHold h = hold;
+        if (h != null) {
+            h.keepForGood();
         }
     }
 }

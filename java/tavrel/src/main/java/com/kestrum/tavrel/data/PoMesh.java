@@ -4,6 +4,9 @@ import com.kestrum.tavrel.graph.PbDataMapping;
 import com.kestrum.tavrel.graph.PbIsovaluesList;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
+import com.kestrum.tavrel.internal.MeshViews;
+import java.util.List;
+import java.util.concurrent.CopyOnWriteArrayList;
 
 /**
  * Base of the mesh representations: the mesh drawn, the data mappings that colour it and the
@@ -46,7 +49,7 @@ public abstract class PoMesh extends PoDessvane {
 
     private final MeshUse<PbMesh> mesh = new MeshUse<>(PbMesh.class);
     /** The meshes of the subclasses' own setters. */
-    private MeshUse<?>[] otherMeshes = {};
+    private final List<MeshUse<?>> otherMeshes = new CopyOnWriteArrayList<>();
     private PbDataMapping dataMapping;
     private PbDataMapping moduleDataMapping;
     private PbIsovaluesList isovaluesList;
@@ -54,6 +57,12 @@ public abstract class PoMesh extends PoDessvane {
     /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
     protected PoMesh(long handle) {
         super(handle);
+        MeshUse<PbMesh> first = mesh;
+        List<MeshUse<?>> others = otherMeshes;
+        MeshViews.onUnreachable(this, () -> {
+            first.nodeCollected();
+            others.forEach(MeshUse::nodeCollected);
+        });
     }
 
     /** The name of the class's toolkit type. */
@@ -160,9 +169,7 @@ public abstract class PoMesh extends PoDessvane {
     /** The mesh of a subclass's own setter, kept like the one of {@link #setMesh}. */
     final <M extends PbMesh> MeshUse<M> meshUse(Class<M> type) {
         MeshUse<M> use = new MeshUse<>(type);
-        MeshUse<?>[] more = java.util.Arrays.copyOf(otherMeshes, otherMeshes.length + 1);
-        more[otherMeshes.length] = use;
-        otherMeshes = more;
+        otherMeshes.add(use);
         return use;
     }
 

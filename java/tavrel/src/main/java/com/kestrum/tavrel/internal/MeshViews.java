@@ -21,7 +21,9 @@ import java.lang.ref.Cleaner;
 import java.util.Collections;
 import java.util.Map;
 import java.util.Queue;
+import java.util.Set;
 import java.util.WeakHashMap;
+import java.util.concurrent.ConcurrentHashMap;
 import java.util.concurrent.ConcurrentLinkedQueue;
 import java.util.function.LongFunction;
 
@@ -116,12 +118,27 @@ public final class MeshViews {
         }
     }
 
-    /** A hold on the node or field that a mesh lives in (see {@link #holdOwnerOf}). */
+    /**
+     * Runs the action once the holder has been collected, on the cleaning thread: the action must
+     * not call the toolkit, nor refer to the holder.
+     */
+    public static void onUnreachable(Object holder, Runnable action) {
+        CLEANER.register(holder, action);
+    }
+
+    /**
+     * A hold on the node or field that a mesh lives in (see {@link #holdOwnerOf}). It refers to
+     * the owner's Java object, so that the owner is not collected (which would free it) while
+     * the hold lasts.
+     */
     public static final class OwnerHold {
+        /** The holds kept for good: their owners stay allocated. */
+        private static final Set<OwnerHold> KEPT = ConcurrentHashMap.newKeySet();
+
         private final NativeObject owner;
         private final Class<? extends PbMesh> meshClass;
         private final long address;
-        private boolean released;
+        private volatile boolean released;
 
         private OwnerHold(NativeObject owner, Class<?> viewClass, long address) {
             this.owner = owner;
@@ -157,6 +174,18 @@ public final class MeshViews {
             if (!released) {
                 released = true;
                 Holds.release(owner);
+            }
+        }
+
+        /**
+         * Keeps the hold for good, for a holder whose native object may outlive anything Java can
+         * see (a representation that a scene still references when its Java object goes): the
+         * owner then stays allocated. Does nothing once the hold has ended.
+         */
+        public void keepForGood() {
+            if (!released) {
+                released = true;
+                KEPT.add(this);
             }
         }
 
