@@ -274,4 +274,41 @@ class ElementClassesTest {
             });
         }
     }
+
+    /** A native element bound by hand, as a Java class's first and later objects are. */
+    private static int[] bind(Class<?> cls, String typeName, boolean create, int stackIndex, short key, Object peer)
+            throws Exception {
+        Method ctor = cls.getDeclaredMethod("ctorImpl");
+        ctor.setAccessible(true);
+        Method init = cls.getDeclaredMethod("initCustomClass", long.class, Object.class, boolean.class, String.class,
+                int.class, short.class);
+        init.setAccessible(true);
+        long handle = (long) ctor.invoke(null);
+        int[] result = (int[]) init.invoke(null, handle, peer, create, typeName, stackIndex, key);
+        Method delete = SoElement.class.getDeclaredMethod("deleteNative", long.class);
+        delete.setAccessible(true);
+        delete.invoke(null, handle);  // the element deletes its peer reference
+        return result;
+    }
+
+    /**
+     * Stack index -1 takes the toolkit class's index and the bad key (0) a new key, different for
+     * each element so bound; any other index and key are kept as given (the key as 16 unsigned
+     * bits).
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("classes")
+    void stackIndexAndKeyAreChosenOrKeptAsGiven(Row row) throws Exception {
+        Class<?> cls = row.elementClass();
+        String name = "ElementsTestBound" + cls.getSimpleName();
+        int[] first = bind(cls, name, true, -1, (short) 0, new Object());
+        int[] second = bind(cls, name, false, -1, (short) 0, new Object());
+        assertEquals(row.stackIndex().getAsInt(), first[0]);
+        assertEquals(row.stackIndex().getAsInt(), second[0]);
+        assertNotEquals(0, first[1]);
+        assertNotEquals(first[1], second[1]);
+        assertEquals(List.of(3, 9), List.of(bind(cls, name, false, 3, (short) 9, new Object())[0],
+                bind(cls, name, false, 3, (short) 9, new Object())[1]));
+        assertEquals(0xFFFE, bind(cls, name, false, 7, (short) 0xFFFE, new Object())[1]);
+    }
 }
