@@ -27,12 +27,13 @@ jlong handleOf(const void* p) { return static_cast<jlong>(reinterpret_cast<std::
 
 ISoElementProtectedMethodAccess* access(SoElement* e) { return dynamic_cast<ISoElementProtectedMethodAccess*>(e); }
 
-// The protected members a plain element shows only to its state's code.
+// The protected members of a plain element, reached through pointers to
+// members named from a derived class (no object of that class is made).
 class ElementAccess : public SoElement {
  public:
-  static bool popped(const SoElement* e) { return static_cast<const ElementAccess*>(e)->SoElement::popped; }
-  static SoElement* below(const SoElement* e) { return static_cast<const ElementAccess*>(e)->SoElement::nextInStack; }
-  static void capture(const SoElement* e, SoState* s) { static_cast<const ElementAccess*>(e)->SoElement::capture(s); }
+  static bool isPopped(const SoElement* e) { return e->*(&ElementAccess::popped); }
+  static SoElement* below(const SoElement* e) { return e->*(&ElementAccess::nextInStack); }
+  static void captureIn(const SoElement* e, SoState* s) { (e->*(&ElementAccess::capture))(s); }
 };
 }  // namespace
 
@@ -80,13 +81,13 @@ JNIEXPORT void JNICALL Java_com_kestrum_corvel_elements_SoElement_captureNative(
   if (auto* a = access(e))
     a->captureDefaultImpl(from<SoState>(state));
   else
-    ElementAccess::capture(e, from<SoState>(state));
+    ElementAccess::captureIn(e, from<SoState>(state));
 }
 
 JNIEXPORT jboolean JNICALL Java_com_kestrum_corvel_elements_SoElement_isPoppedNative(JNIEnv*, jclass, jlong handle) {
   SoElement* e = from<SoElement>(handle);
   auto* a = access(e);
-  return (a != nullptr ? a->isPoppedDefaultImpl() != 0 : ElementAccess::popped(e)) ? JNI_TRUE : JNI_FALSE;
+  return (a != nullptr ? a->isPoppedDefaultImpl() != 0 : ElementAccess::isPopped(e)) ? JNI_TRUE : JNI_FALSE;
 }
 
 JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_elements_SoElement_getNextInStackNative(JNIEnv*, jclass,

@@ -11,7 +11,8 @@ import java.util.concurrent.atomic.AtomicBoolean;
 
 /**
  * The toolkit types of the Java subclasses of the element classes: one per Java class, named
- * after its simple name, created by the class's first object together with the class's stack
+ * after its binary name ({@code com.example.LoggedMesh}; a node's type is named after its simple
+ * name, so the two kinds never meet), created by the class's first object together with the class's stack
  * index and element key, which the later objects of the class reuse.
  *
  * <p>Elements that a traversal state makes (through the type's creation function, on the
@@ -88,17 +89,13 @@ final class ElementTypes {
         if (r != null) {
             return r;
         }
-        String name = cls.getSimpleName();
-        if (name.isEmpty()) {
-            throw new IllegalArgumentException("An anonymous class cannot be an element class: give it a name");
-        }
+        String name = cls.getName();
         Class<?> owner = OWNERS.putIfAbsent(name, cls);
         if ((owner != null && owner != cls) || (owner == null && ManagedObjects.isTypeRegistered(name))) {
             if (owner == null) {
                 OWNERS.remove(name, cls);
             }
-            throw new IllegalArgumentException("The toolkit type name \"" + name + "\" belongs to another class; "
-                    + cls.getName() + " needs another simple name");
+            throw new IllegalArgumentException("The toolkit type name \"" + name + "\" belongs to another class");
         }
         Registration fresh = new Registration(name);
         r = BY_CLASS.putIfAbsent(cls, fresh);

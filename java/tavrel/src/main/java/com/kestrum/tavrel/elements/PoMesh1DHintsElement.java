@@ -18,7 +18,7 @@ import java.util.concurrent.atomic.AtomicBoolean;
  * calls the overrides on the elements that its traversal states make of the class, once the
  * class's type is enabled ({@code SoAction.enableElement(element.getTypeName(),
  * element.getStackIndex())}). {@code super} reaches the toolkit's behaviour; {@code push} and
- * {@code pop} have none. Each Java class gets a toolkit type named after its simple name, a stack
+ * {@code pop} have none. Each Java class gets a toolkit type named after its binary name, a stack
  * index (that of this class) and an element key, made by its first object; the toolkit makes
  * further objects with the constructor without arguments. An exception thrown by an override
  * that the toolkit called reaches the Java caller of {@code apply} as an
@@ -38,8 +38,8 @@ public abstract class PoMesh1DHintsElement extends SoReplacedElement {
     /**
      * A new element of the Java subclass, bound to its class's toolkit type.
      *
-     * @throws IllegalArgumentException when the class is anonymous, or another class has a toolkit
-     *     type of the same simple name
+     * @throws IllegalArgumentException when a class of another class loader has a toolkit type of
+     *     the same name
      */
     protected PoMesh1DHintsElement() {
         this(ElementTypes.ownership());

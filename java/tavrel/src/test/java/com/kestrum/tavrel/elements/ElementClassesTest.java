@@ -217,7 +217,7 @@ class ElementClassesTest {
     void aJavaClassGetsItsOwnTypeOnItsToolkitClassStackAndOneKey(Row row) {
         try (SoElement first = row.make().get(); SoElement second = row.make().get()) {
             assertEquals(row.elementClass().getSimpleName(), row.typeName().get());
-            assertEquals(first.getClass().getSimpleName(), first.getTypeName());
+            assertEquals(first.getClass().getName(), first.getTypeName());
             assertTrue(row.stackIndex().getAsInt() >= 0);
             assertEquals(row.stackIndex().getAsInt(), first.getStackIndex());
             assertEquals(row.stackIndex().getAsInt(), second.getStackIndex());
