@@ -3,7 +3,12 @@ package com.kestrum.tavrel.elements;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertInstanceOf;
 
+import static com.kestrum.tavrel.testkit.CoreCalls.GET_ENV;
+import static com.kestrum.tavrel.testkit.CoreCalls.managedObject;
+import static com.kestrum.tavrel.testkit.CoreCalls.sequence;
+
 import com.kestrum.corvel.actions.SoAction;
+import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.corvel.nodes.SoSeparator;
@@ -21,6 +26,43 @@ import org.junit.jupiter.api.Test;
  */
 class ElementCallsTest {
     static final class ElementCallsElement extends PoIsovaluesListElement {}
+
+    /** Answers the cache operations itself: matches is true, copyMatchInfo gives the element itself. */
+    static final class ElementCallsAnswering extends PoIsovaluesListElement {
+        @Override
+        public boolean matches(SoElement element) {
+            return true;
+        }
+
+        @Override
+        public SoElement copyMatchInfo() {
+            return this;
+        }
+    }
+
+    /**
+     * A forwarded operation: the environment, the peer's local reference, the argument's Java
+     * object, the one Java call, the exception check (or the result's handle), the local
+     * references deleted.
+     */
+    @Test
+    void forwardedCacheOperationsMakeTheNodesSequence() {
+        try (ElementCallsAnswering element = new ElementCallsAnswering()) {
+            long h = element.getNativeResourceHandleInternal();
+            Elements.matches(h, h);
+            List<String> matches = JniCalls.record(() -> Elements.matches(h, h)).calls();
+            assertEquals(sequence(GET_ENV, "ExceptionCheck() -> false", "NewLocalRef()",
+                    managedObject("com.kestrum.corvel.elements.SoElement"),
+                    "CallBooleanMethodV(matches(Lcom/kestrum/corvel/elements/SoElement;)Z) -> true",
+                    "ExceptionOccurred() -> null", "DeleteLocalRef()", "DeleteLocalRef()"), matches);
+            Elements.copyMatchInfo(h);
+            List<String> copy = JniCalls.record(() -> Elements.copyMatchInfo(h)).calls();
+            assertEquals(sequence(GET_ENV, "ExceptionCheck() -> false", "NewLocalRef()",
+                    "CallObjectMethodV(copyMatchInfo()Lcom/kestrum/corvel/elements/SoElement;)",
+                    "ExceptionCheck() -> false", "CallLongMethodV(getNativeResourceHandleInternal()J) -> " + h,
+                    "DeleteLocalRef()", "DeleteLocalRef()"), copy);
+        }
+    }
 
     private static void initImpl(long element, long state) throws Throwable {
         Method m = PoIsovaluesListElement.class.getDeclaredMethod("initImpl", long.class, long.class);
