@@ -8,7 +8,7 @@
 //
 // Drawing (GLRender) and callback traversals select the cells to draw: the
 // representation asks the state's current cell filter (the last PoCellFilter
-// the traversal went through, see SoState.h) about every cell of its mesh,
+// the traversal went through, see PoCellFilterElement.h) about every cell of its mesh,
 // with the cell's value, and keeps the indices of the accepted cells
 // (selectedCells, replaced by each such traversal). Without a filter, or
 // outside apply (where an action has no state), every cell is accepted. The value of a cell comes from the mesh's values set 0:
@@ -17,7 +17,7 @@
 // (PbMesh::cellValues). The mesh is the one given to the most derived
 // setter: a 2D (3D) representation's PoMesh2D (PoMesh3D) mesh, else the
 // PoMesh one, else the state's current mesh (the mesh of the last mesh node
-// the traversal went through, see SoState.h; of whatever dimension). Without
+// the traversal went through, see PoMeshElement.h; of whatever dimension). Without
 // a mesh nothing is asked and no cell is selected. Each
 // selection is journaled as "PoMesh::selectCells(filter, numCells,
 // [accepted cells])". Other actions select nothing.

@@ -1,5 +1,7 @@
 // The mesh representation node kits: types, catalogs and the objects they keep.
 
+#include <Tavrel/PoCellFilterElement.h>
+#include <Tavrel/PoMeshElement.h>
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoAction.h>
 #include <Corvel/SoState.h>
@@ -118,14 +120,14 @@ const PbMesh* PoMesh2D::drawnMesh() const { return mesh2D ? mesh2D : PoMesh::dra
 const PbMesh* PoMesh3D::drawnMesh() const { return mesh3D ? mesh3D : PoMesh::drawnMesh(); }
 
 void PoMesh::selectCells(SoAction* action) {
-  const SoState* state = action->getState();
+  SoState* state = action->getState();
   const PbMesh* drawn = drawnMesh();
-  if (drawn == nullptr && state != nullptr) drawn = state->getMesh();
+  if (drawn == nullptr && state != nullptr) drawn = PoMeshElement::current(state);
   if (drawn == nullptr) {
     selected.clear();
     return;
   }
-  const PoCellFilter* filter = state != nullptr ? state->getCellFilter() : nullptr;
+  const PoCellFilter* filter = state != nullptr ? PoCellFilterElement::current(state) : nullptr;
   const std::vector<float> values = drawn->cellValues(0);
   const int numCells = static_cast<int>(values.size());
   selected = PoCellFilter::selectCells(filter, numCells, values.data());
