@@ -7,6 +7,11 @@ public class SoState extends NativeObject {
         ManagedObjects.registerWrapper("com.kestrum.corvel.misc.SoState", SoState::new);
     }
 
+    /**
+     * A view of a native traversal state owned by its action.
+     *
+     * @param handle the address of the native object
+     */
     protected SoState(long handle) {
         super(handle);
     }

@@ -16,10 +16,15 @@ public abstract class PoMesh extends PoDessvane {
 
     /** How a representation colours the mesh. */
     public enum ColoringTypes {
+        /** The toolkit's {@code COLORINHERITED}. */
         COLORINHERITED(JarInitializer.value(ColoringTypes::getCOLORINHERITEDNative)),
+        /** The toolkit's {@code COLORAVERAGE}. */
         COLORAVERAGE(JarInitializer.value(ColoringTypes::getCOLORAVERAGENative)),
+        /** The toolkit's {@code COLORMAPPING}. */
         COLORMAPPING(JarInitializer.value(ColoringTypes::getCOLORMAPPINGNative)),
+        /** The toolkit's {@code COLORCONTOURING}. */
         COLORCONTOURING(JarInitializer.value(ColoringTypes::getCOLORCONTOURINGNative)),
+        /** The toolkit's {@code COLORTEXTURECONTOURING}. */
         COLORTEXTURECONTOURING(JarInitializer.value(ColoringTypes::getCOLORTEXTURECONTOURINGNative));
 
         private final int value;
@@ -28,7 +33,11 @@ public abstract class PoMesh extends PoDessvane {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -49,17 +58,29 @@ public abstract class PoMesh extends PoDessvane {
     private PbDataMapping moduleDataMapping;
     private PbIsovaluesList isovaluesList;
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMesh(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -69,6 +90,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param mesh the mesh, or null for none
      */
     public void setMesh(PbMesh mesh) {
         setMeshImpl(handle(), handleOrZero(mesh, "mesh"));
@@ -80,6 +103,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the mesh drawn, or null for none
      */
     public PbMesh getMesh() {
         return JavaViews.find(PbMesh.class, getMeshImpl(handle()), mesh);
@@ -90,6 +115,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
         setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
@@ -101,6 +128,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the data mapping that colours the mesh by its values, or null for none
      */
     public PbDataMapping getDataMapping() {
         return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
@@ -111,6 +140,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param moduleDataMapping the data mapping of the vectors' lengths, or null for none
      */
     public void setModuleDataMapping(PbDataMapping moduleDataMapping) {
         setModuleDataMappingImpl(handle(), handleOrZero(moduleDataMapping, "moduleDataMapping"));
@@ -122,6 +153,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the data mapping that colours vectors by their module, or null for none
      */
     public PbDataMapping getModuleDataMapping() {
         return JavaViews.find(PbDataMapping.class, getModuleDataMappingImpl(handle()), moduleDataMapping);
@@ -132,6 +165,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param isovaluesList the isovalue list, or null for none
      */
     public void setIsovaluesList(PbIsovaluesList isovaluesList) {
         setIsovaluesListImpl(handle(), handleOrZero(isovaluesList, "isovaluesList"));
@@ -143,6 +178,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the list of isovalues used for contouring, or null for none
      */
     public PbIsovaluesList getIsovaluesList() {
         return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);
