@@ -55,7 +55,7 @@ public class SoAction extends NativeObject {
      * Applies the action to the scene graph under {@code node}. Disposing the action or the node
      * during the traversal (from a Java node or a listener) lets go of them once it is over.
      *
-     * @param node the node
+     * @param node the node to traverse
      */
     public void apply(SoNode node) {
         callWith(node, "node", SoAction::applyNative);

@@ -82,7 +82,7 @@ public class SoField extends NativeObject {
     /**
      * Sets the field's value from its text form; the node uses it when next traversed.
      *
-     * @param value the value
+     * @param value the field's new value as text
      */
     public void setValue(String value) {
         if (value == null) {

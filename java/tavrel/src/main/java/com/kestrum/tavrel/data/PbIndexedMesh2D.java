@@ -162,7 +162,7 @@ public class PbIndexedMesh2D extends PbMesh2D {
     /**
      * Sets the orientation of the mesh's elements.
      *
-     * @param orientation the orientation
+     * @param orientation the elements' orientation
      * @throws NullPointerException when orientation is null
      */
     public void setElemOrientation(ElemOrientations orientation) {

@@ -12,7 +12,7 @@ public class PbQuadrangleCell extends PbCell {
     /**
      * A cell of the mesh that is not attached to any of its cells (it has no nodes).
      *
-     * @param mesh the mesh
+     * @param mesh the mesh the cell is made for
      */
     public PbQuadrangleCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));

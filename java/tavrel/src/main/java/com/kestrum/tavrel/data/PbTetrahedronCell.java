@@ -11,7 +11,7 @@ public class PbTetrahedronCell extends PbCell {
     /**
      * A cell of the mesh that is not attached to any of its cells (it has no nodes).
      *
-     * @param mesh the mesh
+     * @param mesh the mesh the cell is made for
      */
     public PbTetrahedronCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));

@@ -218,7 +218,7 @@ public abstract class PoSFMesh extends SoField {
          * Copies the mesh of that address into the field.
          *
          * @param handle the address of the native object
-         * @param mesh the mesh
+         * @param mesh the address of the mesh to copy
          */
         void call(long handle, long mesh);
     }
@@ -244,9 +244,9 @@ public abstract class PoSFMesh extends SoField {
          *
          * @param handle the address of the native object
          * @param container the node that the field joins
-         * @param name the name
+         * @param name the field's name in the node
          * @param fieldType the kind of field, as the toolkit numbers it
-         * @param value the value
+         * @param value the address of the initial value, 0 for none
          */
         void call(long handle, long container, String name, int fieldType, long value);
     }

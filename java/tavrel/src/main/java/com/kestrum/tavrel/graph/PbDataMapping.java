@@ -35,7 +35,7 @@ public abstract class PbDataMapping extends PbBase {
     /**
      * The colour of the value, thresholds included.
      *
-     * @param value the value
+     * @param value the value to map
      * @return the colour of the value, thresholds included
      */
     public HlsColor getHLSColor(float value) {
@@ -107,8 +107,8 @@ public abstract class PbDataMapping extends PbBase {
     /**
      * Enables or disables the two thresholds.
      *
-     * @param min the minimum
-     * @param max the maximum
+     * @param min whether the minimum threshold is used
+     * @param max whether the maximum threshold is used
      */
     public void enableThresholds(boolean min, boolean max) {
         enableThresholdsImpl(handle(), min, max);
@@ -153,7 +153,7 @@ public abstract class PbDataMapping extends PbBase {
     /**
      * Sets the transparency of the parts of a drawing that the thresholds delete.
      *
-     * @param value the value
+     * @param value the transparency, from 0 to 1
      */
     public void setTransparencyValueDeletedParts(float value) {
         setTransparencyValueDeletedPartsImpl(handle(), value);

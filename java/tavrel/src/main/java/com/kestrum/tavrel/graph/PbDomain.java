@@ -123,7 +123,7 @@ public class PbDomain extends PbBase {
     /**
      * A 2D domain of the box.
      *
-     * @param box the box
+     * @param box the box the domain covers
      * @param type how the box is fitted
      */
     public PbDomain(SbBox2f box, BoundingBoxTypes type) {
@@ -133,7 +133,7 @@ public class PbDomain extends PbBase {
     /**
      * A 3D domain of the box.
      *
-     * @param box the box
+     * @param box the box the domain covers
      * @param type how the box is fitted
      */
     public PbDomain(SbBox3f box, BoundingBoxTypes type) {
@@ -209,7 +209,7 @@ public class PbDomain extends PbBase {
     /**
      * Makes this a 2D domain of the box; returns the box the domain keeps.
      *
-     * @param box the box
+     * @param box the box the domain covers; receives the box kept
      * @param type how the box is fitted
      * @return the box the domain keeps
      */
@@ -222,7 +222,7 @@ public class PbDomain extends PbBase {
     /**
      * Makes this a 3D domain of the box; returns the box the domain keeps.
      *
-     * @param box the box
+     * @param box the box the domain covers; receives the box kept
      * @param type how the box is fitted
      * @return the box the domain keeps
      */

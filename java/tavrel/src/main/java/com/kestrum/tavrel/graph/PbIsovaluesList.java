@@ -49,8 +49,8 @@ public class PbIsovaluesList extends PbBase {
     /**
      * A regular list of num values from min to max.
      *
-     * @param min the minimum
-     * @param max the maximum
+     * @param min the first isovalue
+     * @param max the last isovalue
      * @param num the number of elements to use
      */
     public PbIsovaluesList(float min, float max, int num) {
@@ -113,8 +113,8 @@ public class PbIsovaluesList extends PbBase {
     /**
      * A regular list of num values from min to max.
      *
-     * @param min the minimum
-     * @param max the maximum
+     * @param min the first isovalue
+     * @param max the last isovalue
      * @param num the number of elements to use
      */
     public void setRegularIsoList(float min, float max, int num) {
@@ -124,8 +124,8 @@ public class PbIsovaluesList extends PbBase {
     /**
      * A regular list from min to max with the current count.
      *
-     * @param min the minimum
-     * @param max the maximum
+     * @param min the first isovalue
+     * @param max the last isovalue
      */
     public void setRegularIsoList(float min, float max) {
         setRegularIsoListImpl4(handle(), min, max);

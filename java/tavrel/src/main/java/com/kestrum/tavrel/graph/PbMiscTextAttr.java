@@ -104,7 +104,7 @@ public class PbMiscTextAttr extends PbBase {
      * Sets the line length: what it limits and the number of characters.
      *
      * @param type how the length is read
-     * @param length the length
+     * @param length the length of a line
      */
     public void setLineLength(LineLengths type, int length) {
         setLineLengthImpl(handle(), (byte) notNull(type, "type").getValue(), length);

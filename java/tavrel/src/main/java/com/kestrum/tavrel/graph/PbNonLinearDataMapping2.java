@@ -117,7 +117,7 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
      * Types#colorCount}); null colours leave the mapping without colours (every value black).
      * The mapping copies what it reads; it is opaque afterwards.
      *
-     * @param type the type
+     * @param type how colours are given per level
      * @param num the number of elements to use
      * @param values the values
      * @param colors the colours

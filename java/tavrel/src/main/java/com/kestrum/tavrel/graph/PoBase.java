@@ -197,7 +197,7 @@ public abstract class PoBase extends SoBaseKit {
      * The graph node that a node object stands for: the node itself when it is a {@code PoBase},
      * else the registered Java object of its native node or a new view of it; null for null.
      *
-     * @param node the node
+     * @param node any node object
      * @return the graph node that a node object stands for: the node itself when it is a {@code PoBase}, else
      *     the registered Java object of its native node or a new view of it; null for null
      * @throws IllegalArgumentException when the node is not a graph node
@@ -259,7 +259,7 @@ public abstract class PoBase extends SoBaseKit {
     /**
      * Sets how every graph node is written to files.
      *
-     * @param format the format
+     * @param format how graph nodes are written
      */
     public static void setNodeWriteFormat(NodeWriteFormats format) {
         setNodeWriteFormatImpl(notNull(format, "format").getValue());

@@ -219,7 +219,7 @@ public class PoLabelField extends PoQuorvex {
      *
      * @param num the number of elements to use
      * @param points the points
-     * @param strings the strings
+     * @param strings the label text of each point
      * @param values the values
      * @param offset the distance between a point and its label
      * @param concatType how a point's string and value are joined

@@ -60,7 +60,7 @@ public abstract class PoCellFilter extends PoNode {
      * the toolkit has no answer of its own.
      *
      * @param cellIndex the index of the cell
-     * @param value the value
+     * @param value the cell's value (its mesh's values set 0, per cell or the mean of its nodes; 0 without one)
      * @return whether the cell of that index, whose value is {@code value}, is accepted
      */
     public boolean acceptCell(int cellIndex, float value) {
