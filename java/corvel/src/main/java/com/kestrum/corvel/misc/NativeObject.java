@@ -201,8 +201,8 @@ public abstract class NativeObject implements AutoCloseable {
         /**
          * Calls the native method with the receiver's handle and the argument's.
          *
-         * @param handle the address of the native object
-         * @param argument the object argument, or null
+         * @param handle the receiver's handle
+         * @param argument the argument's handle
          */
         void call(long handle, long argument);
     }

@@ -217,7 +217,7 @@ public abstract class PoSFMesh extends SoField {
         /**
          * Copies the mesh of that address into the field.
          *
-         * @param handle the address of the native object
+         * @param handle the address of the field
          * @param mesh the address of the mesh to copy
          */
         void call(long handle, long mesh);
@@ -229,9 +229,9 @@ public abstract class PoSFMesh extends SoField {
         /**
          * Compares the field with the other one.
          *
-         * @param handle the address of the native object
-         * @param other the object to copy
-         * @return compares the field with the other one
+         * @param handle the address of this field
+         * @param other the address of the other field
+         * @return whether both fields hold the same mesh
          */
         boolean call(long handle, long other);
     }
@@ -242,8 +242,8 @@ public abstract class PoSFMesh extends SoField {
         /**
          * Adds the field to the node under the name, with the initial value's address (0 for none).
          *
-         * @param handle the address of the native object
-         * @param container the node that the field joins
+         * @param handle the address of the field
+         * @param container the address of the node that the field joins
          * @param name the field's name in the node
          * @param fieldType the kind of field, as the toolkit numbers it
          * @param value the address of the initial value, 0 for none
