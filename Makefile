@@ -1,12 +1,16 @@
 # Build and test entry points. See README.md.
 #
 #   make demo    builds everything and runs the demo
-#   make test    builds everything and runs every test: the native tests and JUnit (JDK 17),
-#                both again against a build with AddressSanitizer and UBSan, and JUnit on the
+#   make test    builds everything and runs every test: the native tests and JUnit (JDK 17), the
+#                Javadoc check, the example project against the installed jars, both suites
+#                again against a build with AddressSanitizer and UBSan, and JUnit on the
 #                newest JDK of version 21 or newer on the machine, if there is one
 #   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
 #   make bench   runs the JMH benchmarks
 #   make fuzz    hostile calls to the public API in child JVMs (CALLS=200000 SEED=...)
+#   make install builds the jars (natives, sources, Javadoc) and installs them into the local
+#                Maven repository
+#   make example runs the example project (examples/) against the installed jars
 
 BUILD_DIR      ?= native/build
 ASAN_BUILD_DIR ?= native/build-asan
@@ -25,8 +29,8 @@ SANITIZER_ENV := ASAN_OPTIONS=handle_segv=0:allow_user_segv_handler=1:detect_lea
 # The Java runtime (home folder) that JUnit also runs on; empty skips that run.
 NEWEST_JDK ?= $(shell scripts/newest-jdk 21)
 
-.PHONY: all native native-asan java demo test native-test java-test native-test-asan java-test-asan \
-	java-test-newest-jdk soak bench fuzz clean
+.PHONY: all native native-asan java demo install example example-run test native-test java-test \
+	native-test-asan java-test-asan java-test-newest-jdk soak bench fuzz clean
 # The test runs share Maven's output folders: one at a time.
 .NOTPARALLEL:
 
@@ -48,11 +52,25 @@ java: native
 demo: java
 	java -cp "java/demo/target/tavrel-demo.jar:java/demo/target/lib/*" com.kestrum.tavrel.demo.Demo
 
+# The jars of com.kestrum.tavrel and of the binding core's Java side, each with its natives, a
+# sources jar and a Javadoc jar, into the local Maven repository (Maven runs the native build too).
+install:
+	$(MVN) install -DskipTests
+
+# The example project, built against the installed jars by their coordinates only and run on the
+# class path and on the module path.
+EXAMPLE_MVN ?= mvn -B -q -f examples/pom.xml
+example: install example-run
+example-run:
+	$(EXAMPLE_MVN) verify
+
 native-test: native
 	scripts/run-native-tests $(BUILD_DIR)/bin/native_tests
 
+# The JUnit suite, the Javadoc check (doclint, no warning allowed) and the installation of the
+# jars that the example project then uses.
 java-test: native
-	$(MVN) verify
+	$(MVN) install
 
 native-test-asan: native-asan
 	$(SANITIZER_ENV) scripts/run-native-tests $(ASAN_BUILD_DIR)/bin/native_tests
@@ -70,7 +88,7 @@ java-test-newest-jdk: native
 		$(MVN) -pl tavrel -am test -Djvm=$(NEWEST_JDK)/bin/java -Dtest.reports.suffix=-newest-jdk; \
 	fi
 
-test: native-test java-test native-test-asan java-test-asan java-test-newest-jdk
+test: native-test java-test example-run native-test-asan java-test-asan java-test-newest-jdk
 
 # Each data path 1,000,000 times in one JVM (SOAK_OPTS: -Dsoak.iterations=N, -Dsoak.paths=a,b).
 SOAK_OPTS ?=
@@ -107,3 +125,4 @@ fuzz: native
 clean:
 	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR)
 	$(MVN) -q clean
+	$(EXAMPLE_MVN) clean

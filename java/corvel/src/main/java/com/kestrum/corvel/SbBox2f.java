@@ -9,15 +9,34 @@ import java.util.Arrays;
 public final class SbBox2f {
     private final float[] values;
 
+    /**
+     * A box between two corners given by their coordinates.
+     *
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     */
     public SbBox2f(float xmin, float ymin, float xmax, float ymax) {
         values = new float[] {xmin, ymin, xmax, ymax};
     }
 
+    /**
+     * A box between two corners.
+     *
+     * @param min the corner of the smallest coordinates
+     * @param max the corner of the largest coordinates
+     */
     public SbBox2f(SbVec2f min, SbVec2f max) {
         this(min.getX(), min.getY(), max.getX(), max.getY());
     }
 
-    /** The box of the first four floats: xmin, ymin, xmax, ymax. */
+    /**
+     * The box of the first four floats: xmin, ymin, xmax, ymax.
+     *
+     * @param values the values
+     * @return the box of the first four floats: xmin, ymin, xmax, ymax
+     */
     public static SbBox2f fromValue(float[] values) {
         if (values.length < 4) {
             throw new IllegalArgumentException("a 2D box has 4 floats, not " + values.length);
@@ -25,15 +44,29 @@ public final class SbBox2f {
         return new SbBox2f(values[0], values[1], values[2], values[3]);
     }
 
+    /**
+     * The corner of the smallest coordinates.
+     *
+     * @return the corner of the smallest coordinates
+     */
     public SbVec2f getMin() {
         return new SbVec2f(values[0], values[1]);
     }
 
+    /**
+     * The corner of the largest coordinates.
+     *
+     * @return the corner of the largest coordinates
+     */
     public SbVec2f getMax() {
         return new SbVec2f(values[2], values[3]);
     }
 
-    /** A copy of the four floats: xmin, ymin, xmax, ymax. */
+    /**
+     * A copy of the four floats: xmin, ymin, xmax, ymax.
+     *
+     * @return a copy of the four floats: xmin, ymin, xmax, ymax
+     */
     public float[] getValue() {
         return values.clone();
     }

@@ -10,15 +10,36 @@ import java.util.Arrays;
 public final class SbBox3f {
     private final float[] values;
 
+    /**
+     * A box between two corners given by their coordinates.
+     *
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param zmin the smallest z
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param zmax the largest z
+     */
     public SbBox3f(float xmin, float ymin, float zmin, float xmax, float ymax, float zmax) {
         values = new float[] {xmin, ymin, zmin, xmax, ymax, zmax};
     }
 
+    /**
+     * A box between two corners.
+     *
+     * @param min the corner of the smallest coordinates
+     * @param max the corner of the largest coordinates
+     */
     public SbBox3f(SbVec3f min, SbVec3f max) {
         this(min.getX(), min.getY(), min.getZ(), max.getX(), max.getY(), max.getZ());
     }
 
-    /** The box of the first six floats: xmin, ymin, zmin, xmax, ymax, zmax. */
+    /**
+     * The box of the first six floats: xmin, ymin, zmin, xmax, ymax, zmax.
+     *
+     * @param values the values
+     * @return the box of the first six floats: xmin, ymin, zmin, xmax, ymax, zmax
+     */
     public static SbBox3f fromValue(float[] values) {
         if (values.length < 6) {
             throw new IllegalArgumentException("a 3D box has 6 floats, not " + values.length);
@@ -26,15 +47,29 @@ public final class SbBox3f {
         return new SbBox3f(values[0], values[1], values[2], values[3], values[4], values[5]);
     }
 
+    /**
+     * The corner of the smallest coordinates.
+     *
+     * @return the corner of the smallest coordinates
+     */
     public SbVec3f getMin() {
         return new SbVec3f(values[0], values[1], values[2]);
     }
 
+    /**
+     * The corner of the largest coordinates.
+     *
+     * @return the corner of the largest coordinates
+     */
     public SbVec3f getMax() {
         return new SbVec3f(values[3], values[4], values[5]);
     }
 
-    /** A copy of the six floats: xmin, ymin, zmin, xmax, ymax, zmax. */
+    /**
+     * A copy of the six floats: xmin, ymin, zmin, xmax, ymax, zmax.
+     *
+     * @return a copy of the six floats: xmin, ymin, zmin, xmax, ymax, zmax
+     */
     public float[] getValue() {
         return values.clone();
     }

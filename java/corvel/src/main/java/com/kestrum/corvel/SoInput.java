@@ -14,7 +14,11 @@ public class SoInput extends NativeObject {
         ManagedObjects.registerWrapper("com.kestrum.corvel.SoInput", SoInput::new);
     }
 
-    /** An input that reads the text. */
+    /**
+     * An input that reads the text.
+     *
+     * @param text the text to read
+     */
     public SoInput(String text) {
         this(newInput(text));
     }
@@ -23,7 +27,11 @@ public class SoInput extends NativeObject {
         super(owned[0], releaseWith(SoInput::deleteNative, owned[0]));
     }
 
-    /** A view of a native input owned elsewhere. */
+    /**
+     * A view of a native input owned elsewhere.
+     *
+     * @param handle the address of the native object
+     */
     protected SoInput(long handle) {
         super(handle);
     }

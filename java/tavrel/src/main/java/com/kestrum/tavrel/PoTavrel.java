@@ -10,10 +10,20 @@ public final class PoTavrel {
 
     private PoTavrel() {}
 
+    /**
+     * The product name of the Tavrel extension, as the toolkit reports it.
+     *
+     * @return the product name of the Tavrel extension, as the toolkit reports it
+     */
     public static String getProductName() {
         return getProductNameImpl();
     }
 
+    /**
+     * The version of the Tavrel extension, as the toolkit reports it.
+     *
+     * @return the version of the Tavrel extension, as the toolkit reports it
+     */
     public static String getVersion() {
         return getVersionImpl();
     }

@@ -22,12 +22,20 @@ public class SoAction extends NativeObject {
         ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoAction", SoAction::new);
     }
 
-    /** A view of a native action owned elsewhere. */
+    /**
+     * A view of a native action owned elsewhere.
+     *
+     * @param handle the address of the native object
+     */
     protected SoAction(long handle) {
         super(handle);
     }
 
-    /** A new native action of the toolkit class named like the Java class, owned by this object. */
+    /**
+     * A new native action of the toolkit class named like the Java class, owned by this object.
+     *
+     * @param javaClassName the name of the Java class that makes the object
+     */
     protected SoAction(String javaClassName) {
         this(newAction(javaClassName));
     }
@@ -48,6 +56,8 @@ public class SoAction extends NativeObject {
     /**
      * Applies the action to the scene graph under {@code node}. Disposing the action or the node
      * during the traversal (from a Java node or a listener) lets go of them once it is over.
+     *
+     * @param node the node to traverse
      */
     public void apply(SoNode node) {
         Traversals.begin();
@@ -91,7 +101,11 @@ public class SoAction extends NativeObject {
         return enableElementNative(typeName, stackIndex);
     }
 
-    /** The number of nodes this action has traversed since it was made. */
+    /**
+     * The number of nodes this action has traversed since it was made.
+     *
+     * @return the number of nodes this action has traversed since it was made
+     */
     public int getNodesTraversed() {
         return getNodesTraversedNative(handle());
     }

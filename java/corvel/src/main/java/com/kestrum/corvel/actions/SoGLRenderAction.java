@@ -21,22 +21,39 @@ public class SoGLRenderAction extends SoAction {
         super("SoGLRenderAction");
     }
 
-    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    /**
+     * An action made by this class's subclasses ({@link SoAction#SoAction(String)}).
+     *
+     * @param javaClassName the name of the Java class that makes the object
+     */
     protected SoGLRenderAction(String javaClassName) {
         super(javaClassName);
     }
 
-    /** A view of a native action owned elsewhere. */
+    /**
+     * A view of a native action owned elsewhere.
+     *
+     * @param handle the address of the native object
+     */
     protected SoGLRenderAction(long handle) {
         super(handle);
     }
 
-    /** What the graph nodes rendered so far drew, as an SVG document. */
+    /**
+     * What the graph nodes rendered so far drew, as an SVG document.
+     *
+     * @return what the graph nodes rendered so far drew, as an SVG document
+     */
     public String toSvg() {
         return toSvgNative(handle());
     }
 
-    /** Writes {@link #toSvg} into the file (replacing it) as UTF-8. */
+    /**
+     * Writes {@link #toSvg} into the file (replacing it) as UTF-8.
+     *
+     * @param file the file to write
+     * @throws java.io.IOException when the file cannot be written
+     */
     public void writeSvg(Path file) throws IOException {
         Files.writeString(file, toSvg(), StandardCharsets.UTF_8);
     }

@@ -13,12 +13,20 @@ public class SoGetMatrixAction extends SoAction {
         super("SoGetMatrixAction");
     }
 
-    /** An action made by this class's subclasses ({@link SoAction#SoAction(String)}). */
+    /**
+     * An action made by this class's subclasses ({@link SoAction#SoAction(String)}).
+     *
+     * @param javaClassName the name of the Java class that makes the object
+     */
     protected SoGetMatrixAction(String javaClassName) {
         super(javaClassName);
     }
 
-    /** A view of a native action owned elsewhere. */
+    /**
+     * A view of a native action owned elsewhere.
+     *
+     * @param handle the address of the native object
+     */
     protected SoGetMatrixAction(long handle) {
         super(handle);
     }

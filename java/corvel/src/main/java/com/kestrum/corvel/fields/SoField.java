@@ -17,6 +17,11 @@ public class SoField extends NativeObject {
         ManagedObjects.registerWrapper("com.kestrum.corvel.fields.SoField", SoField::new);
     }
 
+    /**
+     * A view of a native field owned elsewhere.
+     *
+     * @param handle the address of the native object
+     */
     protected SoField(long handle) {
         this(handle, refContainerNative(handle));
     }
@@ -27,22 +32,38 @@ public class SoField extends NativeObject {
 
     /**
      * A field that owns its native field: {@code release} frees it (see {@link #deleting}).
+     *
+     * @param handle the address of the native object
+     * @param release what frees the native object
      */
     protected SoField(long handle, Runnable release) {
         super(handle, release);
     }
 
-    /** The release action of a field made in Java: deletes the native field at the handle. */
+    /**
+     * The release action of a field made in Java: deletes the native field at the handle.
+     *
+     * @param handle the address of the native object
+     * @return the release action of a field made in Java: deletes the native field at the handle
+     */
     protected static Runnable deleting(long handle) {
         return releaseWith(SoField::deleteNative, handle);
     }
 
-    /** The field's name. */
+    /**
+     * The field's name.
+     *
+     * @return the field's name
+     */
     public String getName() {
         return getNameNative(handle());
     }
 
-    /** The field's value in its text form (for a vector field, "x y z"). */
+    /**
+     * The field's value in its text form (for a vector field, "x y z").
+     *
+     * @return the field's value in its text form (for a vector field, "x y z")
+     */
     public String get() {
         return getValueNative(handle());
     }
@@ -50,12 +71,19 @@ public class SoField extends NativeObject {
     /**
      * Whether the field takes its value from another field (the toolkit connects fields): such a
      * field may bring its value up to date whenever it is read.
+     *
+     * @return whether the field takes its value from another field (the toolkit connects fields): such a
+     *     field may bring its value up to date whenever it is read
      */
     public boolean isConnected() {
         return isConnectedNative(handle());
     }
 
-    /** Sets the field's value from its text form; the node uses it when next traversed. */
+    /**
+     * Sets the field's value from its text form; the node uses it when next traversed.
+     *
+     * @param value the field's new value as text
+     */
     public void setValue(String value) {
         if (value == null) {
             throw new NullPointerException("value is null");

@@ -6,6 +6,11 @@ public final class CorvelNative {
 
     private CorvelNative() {}
 
+    /**
+     * Loads the toolkit's core libraries and the binding core, unless they are loaded already.
+     *
+     * @throws UnsatisfiedLinkError when a library cannot be found or loaded
+     */
     public static synchronized void ensureLoaded() {
         if (!loaded) {
             NativeLibraries.load(CorvelNative.class, "/com/kestrum/corvel/native/linux-x86-64",

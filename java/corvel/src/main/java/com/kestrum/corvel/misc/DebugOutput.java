@@ -25,15 +25,29 @@ public final class DebugOutput {
 
     private DebugOutput() {}
 
+    /**
+     * Sends the debug lines where the mode says, from the next line on.
+     *
+     * @param mode where the lines go
+     */
     public static void setMode(Mode mode) {
         setModeNative(mode.ordinal());
     }
 
+    /**
+     * Where the debug lines go now.
+     *
+     * @return where the debug lines go now
+     */
     public static Mode getMode() {
         return Mode.values()[getModeNative()];
     }
 
-    /** The lines captured since the last call, oldest first, each with its trailing newline. */
+    /**
+     * The lines captured since the last call, oldest first, each with its trailing newline.
+     *
+     * @return the lines captured since the last call, oldest first, each with its trailing newline
+     */
     public static List<String> takeCaptured() {
         return Arrays.asList(takeCapturedNative());
     }

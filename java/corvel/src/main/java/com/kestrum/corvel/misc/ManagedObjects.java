@@ -51,7 +51,12 @@ public final class ManagedObjects {
         }
     }
 
-    /** Registers a peer, held weakly. */
+    /**
+     * Registers a peer, held weakly.
+     *
+     * @param address the address of the native object
+     * @param peer the Java object
+     */
     public static void registerPeer(long address, Object peer) {
         registerPeer(address, peer, false);
     }
@@ -59,17 +64,31 @@ public final class ManagedObjects {
     /**
      * Registers a peer for the address; with {@code keepAlive} the table keeps it reachable
      * until {@link #unregisterPeer(long, Object)}.
+     *
+     * @param address the address of the native object
+     * @param peer the Java object
+     * @param keepAlive whether the Java object is held strongly until it is disposed
      */
     public static void registerPeer(long address, Object peer, boolean keepAlive) {
         dropCollected();
         PEERS.put(address, new Peer(address, peer, keepAlive));
     }
 
+    /**
+     * Forgets the Java object registered for the address (nothing happens when there is none).
+     *
+     * @param address the native object's address
+     */
     public static void unregisterPeer(long address) {
         PEERS.remove(address);
     }
 
-    /** Unregisters the peer of the address if it is still {@code peer}. */
+    /**
+     * Unregisters the peer of the address if it is still {@code peer}.
+     *
+     * @param address the native object's address
+     * @param peer the Java object
+     */
     public static void unregisterPeer(long address, Object peer) {
         PEERS.computeIfPresent(address, (a, p) -> p.peer() == peer || p.peer() == null ? null : p);
     }
@@ -82,7 +101,12 @@ public final class ManagedObjects {
         }
     }
 
-    /** The registered peer of the address, or null. */
+    /**
+     * The registered peer of the address, or null.
+     *
+     * @param address the address of the native object
+     * @return the registered peer of the address, or null
+     */
     public static Object peerOf(long address) {
         Peer p = PEERS.get(address);
         return p == null ? null : p.peer();
@@ -95,6 +119,11 @@ public final class ManagedObjects {
     /**
      * The Java object for the native object at the address as an instance of the class: its
      * registered peer, else a new wrapper; null for address 0 or when the class has no wrapper.
+     *
+     * @param wanted the class the object must have
+     * @param address the address of the native object
+     * @return the Java object for the native object at the address as an instance of the class: its
+     *     registered peer, else a new wrapper; null for address 0 or when the class has no wrapper
      */
     public static Object find(Class<?> wanted, long address) {
         if (address == 0) {
@@ -110,6 +139,15 @@ public final class ManagedObjects {
         return factory == null ? null : factory.apply(address);
     }
 
+    /**
+     * The Java object for a native address: the registered peer, else a new view made by the class's
+     * registered wrapper, else null.
+     *
+     * @param dottedClassName the class's name, with dots
+     * @param address the native object's address
+     * @return the Java object for a native address: the registered peer, else a new view made by the class's
+     *     registered wrapper, else null
+     */
     public static Object get(String dottedClassName, long address) {
         try {
             return getManagedObject(dottedClassName, address);
@@ -118,14 +156,33 @@ public final class ManagedObjects {
         }
     }
 
+    /**
+     * Registers how a Java view of a native object of the class is made from its address.
+     *
+     * @param dottedClassName the class's name, with dots
+     * @param factory makes the view from the native address
+     */
     public static void registerWrapper(String dottedClassName, LongFunction<?> factory) {
         WRAPPERS.put(dottedClassName, factory);
     }
 
+    /**
+     * Lets the toolkit make objects of a type defined by a Java class (copying a node, reading a file); a
+     * later registration of the same name replaces the factory.
+     *
+     * @param typeName the name of the toolkit type
+     * @param factory makes a new object of the type
+     */
     public static void registerType(String typeName, Supplier<? extends NativeObject> factory) {
         TYPES.put(typeName, factory);
     }
 
+    /**
+     * Whether a Java class has registered a factory for the toolkit type of that name.
+     *
+     * @param typeName the name of the toolkit type
+     * @return whether a Java class has registered a factory for the toolkit type of that name
+     */
     public static boolean isTypeRegistered(String typeName) {
         return TYPES.containsKey(typeName);
     }

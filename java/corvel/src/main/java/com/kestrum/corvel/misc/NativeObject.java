@@ -48,7 +48,11 @@ public abstract class NativeObject implements AutoCloseable {
      */
     private volatile int holds;
 
-    /** A view of a native object that is owned elsewhere. */
+    /**
+     * A view of a native object that is owned elsewhere.
+     *
+     * @param handle the address of the native object
+     */
     protected NativeObject(long handle) {
         this(handle, null);
     }
@@ -58,6 +62,7 @@ public abstract class NativeObject implements AutoCloseable {
      *
      * @param release frees the native object; runs at most once and must not refer to this
      *     Java object (it runs after it has been collected)
+     * @param handle the address of the native object
      */
     protected NativeObject(long handle, Runnable release) {
         this.handle = handle;
@@ -67,6 +72,10 @@ public abstract class NativeObject implements AutoCloseable {
     /**
      * A release action that calls {@code release} with the handle (and refers to no Java
      * object), e.g. {@code releaseWith(MyClass::deleteNative, handle)}.
+     *
+     * @param release what frees the native object
+     * @param handle the address of the native object
+     * @return a release action that calls {@code release} with the handle (and refers to no Java object), e.g
      */
     protected static Runnable releaseWith(java.util.function.LongConsumer release, long handle) {
         return () -> release.accept(handle);
@@ -76,18 +85,28 @@ public abstract class NativeObject implements AutoCloseable {
      * Makes this object the Java peer of its native object ({@link ManagedObjects}): native code
      * that hands the address to Java gets this object. With {@code keepAlive} the object stays
      * reachable until it is disposed. Disposing unregisters it.
+     *
+     * @param keepAlive whether the Java object is held strongly until it is disposed
      */
     protected final void registerAsPeer(boolean keepAlive) {
         ManagedObjects.registerPeer(handle(), this, keepAlive);
         registeredPeer = true;
     }
 
-    /** The native handle, or 0 once disposed. */
+    /**
+     * The native handle, or 0 once disposed.
+     *
+     * @return the native handle, or 0 once disposed
+     */
     public final long getNativeResourceHandleInternal() {
         return handle;
     }
 
-    /** The native handle of a live object. */
+    /**
+     * The native handle of a live object.
+     *
+     * @return the native handle of a live object
+     */
     protected final long handle() {
         long h = handle;
         if (h == 0) {
@@ -96,6 +115,11 @@ public abstract class NativeObject implements AutoCloseable {
         return h;
     }
 
+    /**
+     * Whether the object has been disposed (its methods then throw {@link IllegalStateException}).
+     *
+     * @return whether the object has been disposed (its methods then throw {@link IllegalStateException})
+     */
     public final boolean isDisposed() {
         return handle == 0;
     }
@@ -122,6 +146,7 @@ public abstract class NativeObject implements AutoCloseable {
      * Holds this object for a native call that may call back into Java and returns its handle;
      * the caller must {@link #leave()} when the call returns (in a finally block).
      *
+     * @return the object's handle (the argument's, for the static form)
      * @throws IllegalStateException when the object has been disposed
      */
     protected final long enter() {
@@ -141,7 +166,13 @@ public abstract class NativeObject implements AutoCloseable {
         }
     }
 
-    /** As {@link #enter()}, for an argument that must be present and live. */
+    /**
+     * As {@link #enter()}, for an argument that must be present and live.
+     *
+     * @param argument the object argument, or null
+     * @param name the argument's name, for the exception's message
+     * @return the object's handle (the argument's, for the static form)
+     */
     protected static long enter(NativeObject argument, String name) {
         if (argument == null) {
             throw new NullPointerException(name + " is null");
@@ -158,17 +189,27 @@ public abstract class NativeObject implements AutoCloseable {
     /**
      * One more hold on an object that a hold already keeps (its native object is still there,
      * even when the Java object has been disposed since); ended by {@link #leave(NativeObject)}.
+     *
+     * @param held the object, held already
      */
     protected static void holdAgain(NativeObject held) {
         HOLDS.getAndAdd(held, 2);
     }
 
-    /** Whether a native call or another holder holds this object now. */
+    /**
+     * Whether a native call or another holder holds this object now.
+     *
+     * @return true while held
+     */
     protected final boolean isHeld() {
         return (holds & ~1) != 0;
     }
 
-    /** Ends a hold of {@link #enter(NativeObject, String)}. */
+    /**
+     * Ends a hold of {@link #enter(NativeObject, String)}.
+     *
+     * @param argument the object argument, or null
+     */
     protected static void leave(NativeObject argument) {
         argument.leave();
     }
@@ -176,12 +217,22 @@ public abstract class NativeObject implements AutoCloseable {
     /** A native call on the handles of its receiver and of one argument. */
     @FunctionalInterface
     protected interface HandleCall {
+        /**
+         * Calls the native method with the receiver's handle and the argument's.
+         *
+         * @param handle the receiver's handle
+         * @param argument the argument's handle
+         */
         void call(long handle, long argument);
     }
 
     /**
      * Makes a native call that may call back into Java, on this object and an argument that must
      * be present and live, holding both until it returns.
+     *
+     * @param argument the object argument, or null
+     * @param name the argument's name, for the exception's message
+     * @param call the native call, given the receiver's handle
      */
     protected final void callWith(NativeObject argument, String name, HandleCall call) {
         long h = enter();
@@ -209,7 +260,13 @@ public abstract class NativeObject implements AutoCloseable {
         dispose();
     }
 
-    /** The handle of an argument that must be present and live. */
+    /**
+     * The handle of an argument that must be present and live.
+     *
+     * @param argument the object argument, or null
+     * @param name the argument's name, for the exception's message
+     * @return the handle of an argument that must be present and live
+     */
     protected static long handleOf(NativeObject argument, String name) {
         if (argument == null) {
             throw new NullPointerException(name + " is null");
@@ -221,7 +278,13 @@ public abstract class NativeObject implements AutoCloseable {
         return h;
     }
 
-    /** The handle of an optional argument: 0 for null. */
+    /**
+     * The handle of an optional argument: 0 for null.
+     *
+     * @param argument the object argument, or null
+     * @param name the argument's name, for the exception's message
+     * @return the handle of an optional argument: 0 for null
+     */
     protected static long handleOrZero(NativeObject argument, String name) {
         return argument == null ? 0 : handleOf(argument, name);
     }

@@ -12,7 +12,12 @@ public final class NativePeers {
 
     private NativePeers() {}
 
-    /** Binds {@code peer} to the native object at {@code address} (non-zero). */
+    /**
+     * Binds {@code peer} to the native object at {@code address} (non-zero).
+     *
+     * @param address the address of the native object
+     * @param peer the Java object
+     */
     public static void bindPeer(long address, Object peer) {
         if (address == 0) {
             throw new IllegalArgumentException("address is 0");

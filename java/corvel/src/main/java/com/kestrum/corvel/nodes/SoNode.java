@@ -41,9 +41,13 @@ public class SoNode extends NativeObject {
 
     /** The rendering modes a node can ask for. */
     public enum RenderModes {
+        /** The toolkit's {@code UNKNOWN_RENDERING}. */
         UNKNOWN_RENDERING(0),
+        /** The toolkit's {@code COMPATIBILITY_RENDERING}. */
         COMPATIBILITY_RENDERING(1),
+        /** The toolkit's {@code CORE_RENDERING}. */
         CORE_RENDERING(2),
+        /** The toolkit's {@code ANY_RENDERING}. */
         ANY_RENDERING(3);
 
         private final int value;
@@ -52,12 +56,21 @@ public class SoNode extends NativeObject {
             this.value = value;
         }
 
-        /** The toolkit's value of the mode. */
+        /**
+         * The toolkit's value of the mode.
+         *
+         * @return the toolkit's value of the mode
+         */
         public int getValue() {
             return value;
         }
 
-        /** The mode of a toolkit value. */
+        /**
+         * The mode of a toolkit value.
+         *
+         * @param value the toolkit's value
+         * @return the mode of a toolkit value
+         */
         public static RenderModes fromValue(int value) {
             for (RenderModes m : values()) {
                 if (m.value == value) {
@@ -68,12 +81,21 @@ public class SoNode extends NativeObject {
         }
     }
 
-    /** Takes a reference on the native node at the handle (non-zero). */
+    /**
+     * Takes a reference on the native node at the handle (non-zero).
+     *
+     * @param handle the address of the native object
+     */
     protected SoNode(long handle) {
         super(handle, new Unref(refNative(handle)));
     }
 
-    /** The Java object for a native node: its Java peer, or a new view; null for 0. */
+    /**
+     * The Java object for a native node: its Java peer, or a new view; null for 0.
+     *
+     * @param handle the address of the native object
+     * @return the Java object for a native node: its Java peer, or a new view; null for 0
+     */
     public static SoNode of(long handle) {
         return handle == 0 ? null : (SoNode) ManagedObjects.get("com.kestrum.corvel.nodes.SoNode", handle);
     }
@@ -83,12 +105,20 @@ public class SoNode extends NativeObject {
      * from a file: the Java object registered for it (a node of a Java class) or a new view. Null
      * when no type has that name, or the type is not a node type, or it makes no instances (an
      * abstract class).
+     *
+     * @param typeName the name of the toolkit type
+     * @return a new node of the toolkit type of that name, made by the toolkit as it makes nodes it reads
+     *     from a file: the Java object registered for it (a node of a Java class) or a new view
      */
     public static SoNode createInstance(String typeName) {
         return of(createInstanceNative(nameOf(typeName)));
     }
 
-    /** The name of the node's toolkit type. */
+    /**
+     * The name of the node's toolkit type.
+     *
+     * @return the name of the node's toolkit type
+     */
     public String getTypeName() {
         return getTypeNameNative(handle());
     }
@@ -96,12 +126,20 @@ public class SoNode extends NativeObject {
     /**
      * True when the node's toolkit type is the type of that name or derives from it; false for a
      * name that no type has.
+     *
+     * @param typeName the name of the toolkit type
+     * @return true when the node's toolkit type is the type of that name or derives from it; false for a name
+     *     that no type has
      */
     public boolean isOfType(String typeName) {
         return isOfTypeNative(handle(), nameOf(typeName));
     }
 
-    /** The native node's reference count (for inspection). */
+    /**
+     * The native node's reference count (for inspection).
+     *
+     * @return the native node's reference count (for inspection)
+     */
     public int getRefCount() {
         return getRefCountNative(handle());
     }
@@ -113,11 +151,21 @@ public class SoNode extends NativeObject {
         touchNative(handle());
     }
 
-    /** The node's name ("" when it has none). */
+    /**
+     * The node's name ("" when it has none).
+     *
+     * @return the node's name ("" when it has none)
+     */
     public String getName() {
         return getNameNative(handle());
     }
 
+    /**
+     * Names the node.
+     *
+     * @param name the new name
+     * @throws NullPointerException when name is null
+     */
     public void setName(String name) {
         if (name == null) {
             throw new NullPointerException("name is null");
@@ -125,12 +173,22 @@ public class SoNode extends NativeObject {
         setNameNative(handle(), name);
     }
 
-    /** The name under which the node is written to files (its type name by default). */
+    /**
+     * The name under which the node is written to files (its type name by default).
+     *
+     * @return the name under which the node is written to files (its type name by default)
+     */
     public String getFileFormatName() {
         return getFileFormatNameNative(handle());
     }
 
-    /** Reads the node's fields from the input; true on success. */
+    /**
+     * Reads the node's fields from the input; true on success.
+     *
+     * @param in the input to read
+     * @param flags the toolkit's reading flags
+     * @return true on success
+     */
     public boolean readInstance(SoInput in, short flags) {
         long h = enter();  // reading may make nodes of Java classes
         try {
@@ -145,28 +203,62 @@ public class SoNode extends NativeObject {
         }
     }
 
-    /** The node's field of that name, or null. */
+    /**
+     * The node's field of that name, or null.
+     *
+     * @param name the field's name
+     * @return the node's field of that name, or null
+     */
     public SoField getField(String name) {
         return field(getFieldNative(handle(), nameOf(name)));
     }
 
+    /**
+     * The node's event-in field of that name, or null.
+     *
+     * @param name the field's name
+     * @return the node's event-in field of that name, or null
+     * @throws NullPointerException when name is null
+     */
     public SoField getEventIn(String name) {
         return field(getEventInNative(handle(), nameOf(name)));
     }
 
+    /**
+     * The node's event-out field of that name, or null.
+     *
+     * @param name the field's name
+     * @return the node's event-out field of that name, or null
+     * @throws NullPointerException when name is null
+     */
     public SoField getEventOut(String name) {
         return field(getEventOutNative(handle(), nameOf(name)));
     }
 
+    /**
+     * Sets whether the node's values override those of the nodes after it.
+     *
+     * @param state true to override
+     */
     public void setOverride(boolean state) {
         setOverrideNative(handle(), state);
     }
 
+    /**
+     * Whether the node's values override those of the nodes after it.
+     *
+     * @return whether the node's values override those of the nodes after it
+     */
     public boolean isOverride() {
         return isOverrideNative(handle());
     }
 
-    /** A new node of the same type. */
+    /**
+     * A new node of the same type.
+     *
+     * @param copyConnections whether connections of fields are copied too
+     * @return a new node of the same type
+     */
     public SoNode copy(boolean copyConnections) {
         long h = enter();  // the copy of a Java node's type is made by its Java class
         try {
@@ -176,96 +268,233 @@ public class SoNode extends NativeObject {
         }
     }
 
+    /**
+     * Whether traversing the node changes the traversal's state.
+     *
+     * @return whether traversing the node changes the traversal's state
+     */
     public boolean affectsState() {
         return affectsStateNative(handle());
     }
 
-    /** Adds a child to a node that keeps children (the toolkit calls it when reading files). */
+    /**
+     * Adds a child to a node that keeps children (the toolkit calls it when reading files).
+     *
+     * @param child the node to add
+     */
     protected void internalAddChild(SoNode child) {
         internalAddChildNative(handle(), handleOf(child, "child"));
     }
 
+    /**
+     * The node that stands for this one for the action, or null.
+     *
+     * @param action the action that traverses the node
+     * @return the node that stands for this one for the action, or null
+     * @throws NullPointerException when the action is null
+     */
     public SoNode getAlternateRep(SoAction action) {
         return of(getAlternateRepNative(handle(), handleOf(action, "action")));
     }
 
+    /**
+     * Whether bounding-box traversals ignore the node.
+     *
+     * @return whether bounding-box traversals ignore the node
+     */
     public boolean isBoundingBoxIgnoring() {
         return isBoundingBoxIgnoringNative(handle());
     }
 
+    /**
+     * The node's part of a traversal by any action.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void doAction(SoAction action) {
         callWith(action, "action", SoNode::doActionNative);
     }
 
+    /**
+     * Renders the node.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void GLRender(SoGLRenderAction action) {
         callWith(action, "action", SoNode::GLRenderNative);
     }
 
+    /**
+     * The node's part of a callback traversal.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void callback(SoCallbackAction action) {
         callWith(action, "action", SoNode::callbackNative);
     }
 
+    /**
+     * Adds the node's bounding box to the action's.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void getBoundingBox(SoGetBoundingBoxAction action) {
         callWith(action, "action", SoNode::getBoundingBoxNative);
     }
 
+    /**
+     * Adds the node's transformation to the action's matrix.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void getMatrix(SoGetMatrixAction action) {
         callWith(action, "action", SoNode::getMatrixNative);
     }
 
+    /**
+     * Lets the node handle the action's event.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void handleEvent(SoHandleEventAction action) {
         callWith(action, "action", SoNode::handleEventNative);
     }
 
+    /**
+     * The node's part of a pick traversal.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void pick(SoPickAction action) {
         callWith(action, "action", SoNode::pickNative);
     }
 
+    /**
+     * The node's part of a ray pick.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void rayPick(SoRayPickAction action) {
         callWith(action, "action", SoNode::rayPickNative);
     }
 
+    /**
+     * The node's part of a search traversal.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void search(SoSearchAction action) {
         callWith(action, "action", SoNode::searchNative);
     }
 
+    /**
+     * Writes the node into the action's output.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void write(SoWriteAction action) {
         callWith(action, "action", SoNode::writeNative);
     }
 
+    /**
+     * Counts the node's primitives into the action.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
         callWith(action, "action", SoNode::getPrimitiveCountNative);
     }
 
+    /**
+     * The node's part of a distribute traversal.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void distribute(SoDistributeAction action) {
         callWith(action, "action", SoNode::distributeNative);
     }
 
+    /**
+     * Renders the node when it lies below the action's path.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void GLRenderBelowPath(SoGLRenderAction action) {
         callWith(action, "action", SoNode::GLRenderBelowPathNative);
     }
 
+    /**
+     * Renders the node when it lies on the action's path.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void GLRenderInPath(SoGLRenderAction action) {
         callWith(action, "action", SoNode::GLRenderInPathNative);
     }
 
+    /**
+     * Renders the node when it is off the action's path.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     public void GLRenderOffPath(SoGLRenderAction action) {
         callWith(action, "action", SoNode::GLRenderOffPathNative);
     }
 
+    /** Called by the toolkit when the node starts grabbing events. */
     public void grabEventsSetup() {
         grabEventsSetupNative(handle());
     }
 
+    /** Called by the toolkit when the node stops grabbing events. */
     public void grabEventsCleanup() {
         grabEventsCleanupNative(handle());
     }
 
+    /**
+     * The identifier of the render unit the node belongs to.
+     *
+     * @return the identifier of the render unit the node belongs to
+     */
     public int getRenderUnitID() {
         return getRenderUnitIDNative(handle());
     }
 
-    /** The rendering mode the node asks for. */
+    /**
+     * The rendering mode the node asks for.
+     *
+     * @return the rendering mode the node asks for
+     */
     public RenderModes getRenderEngineMode() {
         return RenderModes.fromValue(getRenderEngineModeNative(handle()));
     }

@@ -43,7 +43,11 @@ public class PbCell extends NativeObject {
         this(handle, owner, true);
     }
 
-    /** A cell made by a subclass's constructor, registered as the peer of its native cell. */
+    /**
+     * A cell made by a subclass's constructor, registered as the peer of its native cell.
+     *
+     * @param handle the address of the native object
+     */
     protected PbCell(long handle) {
         this(handle, null, false);
         registerAsPeer(false);
@@ -87,28 +91,63 @@ public class PbCell extends NativeObject {
         return Checks.notNull(pcoord, "pcoord").getValue();
     }
 
+    /**
+     * The number of facets of the cell.
+     *
+     * @return the number of facets of the cell
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public int getNumFacets() {
         return getNumFacetsImpl(cellHandle());
     }
 
+    /**
+     * The number of edges of the cell.
+     *
+     * @return the number of edges of the cell
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public int getNumEdges() {
         return getNumEdgesImpl(cellHandle());
     }
 
+    /**
+     * The number of nodes of the cell.
+     *
+     * @return the number of nodes of the cell
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public int getNumNodes() {
         return getNumNodesImpl(cellHandle());
     }
 
-    /** The cell's index in its mesh (-1 for a cell that is not attached to one). */
+    /**
+     * The cell's index in its mesh (-1 for a cell that is not attached to one).
+     *
+     * @return the cell's index in its mesh (-1 for a cell that is not attached to one)
+     */
     public int getIndex() {
         return getIndexImpl(cellHandle());
     }
 
-    /** The mesh index of node i of the cell. */
+    /**
+     * The mesh index of node i of the cell.
+     *
+     * @param i the index
+     * @return the mesh index of node i of the cell
+     */
     public int getNodeIndex(int i) {
         return nodeIndices()[Checks.index(i, nodeIndices().length, "node")];
     }
 
+    /**
+     * The coordinates of the cell's i-th node.
+     *
+     * @param i the index of the node in the cell
+     * @return the coordinates of the cell's i-th node
+     * @throws IndexOutOfBoundsException when i is not the index of one of the cell's nodes
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public SbVec3f getNodeCoord(int i) {
         long h = cellHandle();
         Checks.index(i, nodeIndices().length, "node");
@@ -117,26 +156,52 @@ public class PbCell extends NativeObject {
         return new SbVec3f(out);
     }
 
+    /**
+     * The length of the cell's longest edge.
+     *
+     * @return the length of the cell's longest edge
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public float getLongestEdgeLength() {
         return getLongestEdgeLengthImpl(cellHandle());
     }
 
+    /**
+     * The volume of the cell (0 for a surface cell).
+     *
+     * @return the volume of the cell (0 for a surface cell)
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public float getVolume() {
         return getVolumeImpl(cellHandle());
     }
 
+    /**
+     * The area of the cell (0 for a volume cell).
+     *
+     * @return the area of the cell (0 for a volume cell)
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public float getArea() {
         return getAreaImpl(cellHandle());
     }
 
-    /** The bounding box: xmin, ymin, zmin, xmax, ymax, zmax. */
+    /**
+     * The bounding box: xmin, ymin, zmin, xmax, ymax, zmax.
+     *
+     * @return the bounding box: xmin, ymin, zmin, xmax, ymax, zmax
+     */
     public float[] getBoundingBox() {
         float[] box = new float[6];
         getBoundingBoxImpl(cellHandle(), box);
         return box;
     }
 
-    /** The bounds xmin, ymin, zmin, xmax, ymax, zmax (all 0 for a cell without nodes). */
+    /**
+     * The bounds xmin, ymin, zmin, xmax, ymax, zmax (all 0 for a cell without nodes).
+     *
+     * @return the bounds xmin, ymin, zmin, xmax, ymax, zmax (all 0 for a cell without nodes)
+     */
     public float[] getBounds() {
         float[][] out = new float[6][1];
         getBoundsImpl(cellHandle(), out[0], out[1], out[2], out[3], out[4], out[5]);
@@ -147,6 +212,12 @@ public class PbCell extends NativeObject {
         return bounds;
     }
 
+    /**
+     * The centre of the cell.
+     *
+     * @return the centre of the cell
+     * @throws IllegalStateException when the cell no longer works (its mesh changed its geometry)
+     */
     public SbVec3f getCenter() {
         float[] out = new float[3];
         getCenterImpl(cellHandle(), out);
@@ -156,6 +227,11 @@ public class PbCell extends NativeObject {
     /**
      * Finds the parametric coordinates of a point (into pcoord[0..2]); returns 1 when the point
      * lies in the cell within the tolerance, 0 otherwise.
+     *
+     * @param point the point
+     * @param tolerance the distance within which a point counts as inside
+     * @param pcoord the parametric coordinates
+     * @return 1 when the point lies in the cell within the tolerance, 0 otherwise
      */
     public int locatePoint(SbVec3f point, float tolerance, float[] pcoord) {
         long h = cellHandle();
@@ -163,14 +239,26 @@ public class PbCell extends NativeObject {
         return locatePointImpl(h, p, tolerance, Checks.length(pcoord, 3, "pcoord"));
     }
 
-    /** The per-node values of the mesh interpolated at the parametric coordinates. */
+    /**
+     * The per-node values of the mesh interpolated at the parametric coordinates.
+     *
+     * @param pcoord the parametric coordinates
+     * @param values a value per node of the cell's mesh
+     * @return the value interpolated at the parametric coordinates
+     */
     public float getValue(SbVec3f pcoord, float[] values) {
         long h = cellHandle();
         float[] p = Checks.notNull(pcoord, "pcoord").getValue();
         return getValueImpl(h, p, Checks.length(values, valueSpan(), "values"));
     }
 
-    /** The per-node vectors of the mesh interpolated at the parametric coordinates. */
+    /**
+     * The per-node vectors of the mesh interpolated at the parametric coordinates.
+     *
+     * @param pcoord the parametric coordinates
+     * @param vectors the vectors, one per node or per cell
+     * @return the value interpolated at the parametric coordinates
+     */
     public SbVec3f getValue(SbVec3f pcoord, SbVec3f[] vectors) {
         long h = cellHandle();
         float[] p = Checks.notNull(pcoord, "pcoord").getValue();
@@ -179,14 +267,26 @@ public class PbCell extends NativeObject {
         return new SbVec3f(out);
     }
 
-    /** As {@link #getValue(SbVec3f, float[])}, with the parametric coordinates in pcoord[0..2]. */
+    /**
+     * As {@link #getValue(SbVec3f, float[])}, with the parametric coordinates in pcoord[0..2].
+     *
+     * @param pcoord the parametric coordinates
+     * @param values a value per node of the cell's mesh
+     * @return the value interpolated at the parametric coordinates
+     */
     public float getValue(float[] pcoord, float[] values) {
         long h = cellHandle();
         Checks.length(pcoord, 3, "pcoord");
         return getValueImpl2(h, pcoord, Checks.length(values, valueSpan(), "values"));
     }
 
-    /** As {@link #getValue(SbVec3f, SbVec3f[])}, with the parametric coordinates in pcoord[0..2]. */
+    /**
+     * As {@link #getValue(SbVec3f, SbVec3f[])}, with the parametric coordinates in pcoord[0..2].
+     *
+     * @param pcoord the parametric coordinates
+     * @param vectors the vectors, one per node or per cell
+     * @return the value interpolated at the parametric coordinates
+     */
     public SbVec3f getValue(float[] pcoord, SbVec3f[] vectors) {
         long h = cellHandle();
         Checks.length(pcoord, 3, "pcoord");

@@ -13,6 +13,7 @@ public class PbDefinedValue extends NativeObject {
         JarInitializer.init();
     }
 
+    /** An empty list of defined values. */
     public PbDefinedValue() {
         this(ctorImpl());
     }
@@ -21,7 +22,12 @@ public class PbDefinedValue extends NativeObject {
         super(handle, new NativeResourceHandle(handle));
     }
 
-    /** The value that stands for an undefined value of set i. */
+    /**
+     * The value that stands for an undefined value of set i.
+     *
+     * @param i the index
+     * @return the value that stands for an undefined value of set i
+     */
     public float getUndef(int i) {
         return getUndefImpl(handle(), i);
     }

@@ -15,6 +15,11 @@ public abstract class PbGrid2D extends PbMesh2D {
     /** Whether x and y hold one value per column and per row rather than one per node. */
     private final boolean perAxis;
 
+    /**
+     * Wraps a native 2D grid (made by a subclass's constructor, or owned elsewhere).
+     *
+     * @param handle the address of the native object
+     */
     protected PbGrid2D(long handle) {
         this(handle, false);
     }
@@ -24,7 +29,11 @@ public abstract class PbGrid2D extends PbMesh2D {
         this.perAxis = perAxis;
     }
 
-    /** The node counts {numX, numY}. */
+    /**
+     * The node counts {numX, numY}.
+     *
+     * @return the node counts {numX, numY}
+     */
     public int[] getDim() {
         int[] x = new int[1];
         int[] y = new int[1];
@@ -32,6 +41,14 @@ public abstract class PbGrid2D extends PbMesh2D {
         return new int[] {x[0], y[0]};
     }
 
+    /**
+     * The coordinates of the node at column i and row j.
+     *
+     * @param i the column
+     * @param j the row
+     * @return the coordinates of the node at column i and row j
+     * @throws IndexOutOfBoundsException when i or j is outside the grid
+     */
     public SbVec3f getNodeCoord(int i, int j) {
         long h = handle();
         int[] dim = getDim();
@@ -45,6 +62,9 @@ public abstract class PbGrid2D extends PbMesh2D {
     /**
      * The (i, j) of node n. An n outside the grid gives indices outside it; a grid without
      * nodes in its second direction gives {-1, -1}.
+     *
+     * @param n the index of the node
+     * @return the (i, j) of node n
      */
     public int[] getNodeIndices(int n) {
         int[] i = new int[1];
@@ -53,7 +73,12 @@ public abstract class PbGrid2D extends PbMesh2D {
         return new int[] {i[0], j[0]};
     }
 
-    /** The (i, j) of cell n; {-1, -1} for a grid with fewer than two nodes in its second direction. */
+    /**
+     * The (i, j) of cell n; {-1, -1} for a grid with fewer than two nodes in its second direction.
+     *
+     * @param n the index of the cell
+     * @return the (i, j) of cell n; {-1, -1} for a grid with fewer than two nodes in its second direction
+     */
     public int[] getCellIndices(int n) {
         int[] i = new int[1];
         int[] j = new int[1];
@@ -61,7 +86,14 @@ public abstract class PbGrid2D extends PbMesh2D {
         return new int[] {i[0], j[0]};
     }
 
-    /** Replaces the geometry; x and y are read as each grid keeps them (see the class). */
+    /**
+     * Replaces the geometry; x and y are read as each grid keeps them (see the class).
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param x the x coordinates
+     * @param y the y coordinates
+     */
     public void setGeometry(int numX, int numY, float[] x, float[] y) {
         long h = handle();
         checkArrays(numX, numY, x, y, null, perAxis);
@@ -69,7 +101,15 @@ public abstract class PbGrid2D extends PbMesh2D {
         geometryChanged();
     }
 
-    /** Replaces the geometry, with one elevation per node in z. */
+    /**
+     * Replaces the geometry, with one elevation per node in z.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         long h = handle();
         checkArrays(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);

@@ -10,13 +10,21 @@ public class PbHexahedronCell extends PbCell {
         JarInitializer.init();
     }
 
-    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    /**
+     * A cell of the mesh that is not attached to any of its cells (it has no nodes).
+     *
+     * @param mesh the mesh the cell is made for
+     */
     public PbHexahedronCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
         MeshViews.holdWhileReachable(this, mesh);
     }
 
-    /** A copy of another cell, nodes included. */
+    /**
+     * A copy of another cell, nodes included.
+     *
+     * @param other the object to copy
+     */
     public PbHexahedronCell(PbHexahedronCell other) {
         super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
     }
@@ -27,6 +35,9 @@ public class PbHexahedronCell extends PbCell {
     /**
      * The derivatives of the 8 shape functions at the parametric coordinates: 8 by u, then
      * 8 by v, then 8 by w, into derivs[0..23].
+     *
+     * @param pcoord the parametric coordinates
+     * @param derivs receives the derivatives
      */
     public void getDerivs(SbVec3f pcoord, float[] derivs) {
         getDerivsImpl(cellHandle(), coordinates(pcoord), Checks.length(derivs, DERIVS_LENGTH, "derivs"));

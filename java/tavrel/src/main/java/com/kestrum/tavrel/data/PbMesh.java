@@ -41,12 +41,21 @@ public abstract class PbMesh extends NativeObject {
             this.value = value;
         }
 
-        /** The toolkit's value. */
+        /**
+         * The toolkit's value.
+         *
+         * @return the toolkit's value
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static DataBindings fromValue(int value) {
             for (DataBindings b : values()) {
                 if (b.value == value) {
@@ -64,7 +73,11 @@ public abstract class PbMesh extends NativeObject {
     /** The changes of the native mesh's geometry, shared with every Java object of that mesh. */
     final GeometryChanges geometry;
 
-    /** Wraps a native mesh (made by a subclass's constructor, or owned elsewhere). */
+    /**
+     * Wraps a native mesh (made by a subclass's constructor, or owned elsewhere).
+     *
+     * @param handle the address of the native object
+     */
     protected PbMesh(long handle) {
         super(handle);
         registerAsPeer(false);
@@ -83,6 +96,8 @@ public abstract class PbMesh extends NativeObject {
      * Records a change of geometry of the native mesh at the address, for the classes that change
      * meshes held inside other objects (mesh nodes, mesh fields): every cell of it handed out so
      * far stops working.
+     *
+     * @param meshAddress the address of the native mesh
      */
     protected static void geometryChangedAt(long meshAddress) {
         GeometryChanges.of(meshAddress).changed();
@@ -90,53 +105,111 @@ public abstract class PbMesh extends NativeObject {
 
     // --- counts -------------------------------------------------------------------------
 
+    /**
+     * The number of nodes.
+     *
+     * @return the number of nodes
+     */
     public int getNumNodes() {
         return getNumNodesImpl(handle());
     }
 
+    /**
+     * The number of cells.
+     *
+     * @return the number of cells
+     */
     public int getNumCells() {
         return getNumCellsImpl(handle());
     }
 
+    /**
+     * The flag given to the constructor: whether the mesh was asked to copy its arrays (the mesh copies them
+     * whatever it says).
+     *
+     * @return the flag given to the constructor: whether the mesh was asked to copy its arrays (the mesh
+     *     copies them whatever it says)
+     */
     public boolean isDataDuplicated() {
         return isDataDuplicatedImpl(handle());
     }
 
-    /** The binding of a values set (PER_NODE for a missing set). */
+    /**
+     * The binding of a values set (PER_NODE for a missing set).
+     *
+     * @param set the index of the data set
+     * @return the binding of a values set (PER_NODE for a missing set)
+     */
     public DataBindings getValuesBinding(int set) {
         return DataBindings.fromValue(getValuesBindingImpl(handle(), set));
     }
 
+    /**
+     * The volume of the mesh (0 for a surface mesh).
+     *
+     * @return the volume of the mesh (0 for a surface mesh)
+     */
     public float getVolume() {
         return getVolumeImpl(handle());
     }
 
+    /**
+     * The area of the mesh (0 for a mesh of volume cells).
+     *
+     * @return the area of the mesh (0 for a mesh of volume cells)
+     */
     public float getArea() {
         return getAreaImpl(handle());
     }
 
-    /** The cell of that index, owned by the mesh, or null when the mesh has no such cell. */
+    /**
+     * The cell of that index, owned by the mesh, or null when the mesh has no such cell.
+     *
+     * @param cellIndex the index of the cell
+     * @return the cell of that index, owned by the mesh, or null when the mesh has no such cell
+     */
     public PbCell getCell(int cellIndex) {
         long h = handle();
         Checks.index(cellIndex, getNumCellsImpl(h), "cellIndex");
         return cellView(getCellImpl(h, cellIndex));
     }
 
+    /**
+     * The number of values sets.
+     *
+     * @return the number of values sets
+     */
     public int getNumValuesSet() {
         return getNumValuesSetImpl(handle());
     }
 
+    /**
+     * The number of strings sets.
+     *
+     * @return the number of strings sets
+     */
     public int getNumStringsSet() {
         return getNumStringsSetImpl(handle());
     }
 
+    /**
+     * The number of vecs sets.
+     *
+     * @return the number of vecs sets
+     */
     public int getNumVecsSet() {
         return getNumVecsSetImpl(handle());
     }
 
     // --- data sets ------------------------------------------------------------------------
 
-    /** Adds a values set with one value per node. */
+    /**
+     * Adds a values set with one value per node.
+     *
+     * @param set the index of the data set
+     * @param values one value per node (or per cell)
+     * @param name the name of the set
+     */
     public void addValuesSet(int set, float[] values, String name) {
         long h = handle();
         Checks.length(values, getNumNodesImpl(h), "values");
@@ -144,7 +217,14 @@ public abstract class PbMesh extends NativeObject {
         addValuesSetImpl(h, set, values, name);
     }
 
-    /** Adds a values set with one value per cell or per node. */
+    /**
+     * Adds a values set with one value per cell or per node.
+     *
+     * @param set the index of the data set
+     * @param values one value per node (or per cell)
+     * @param binding whether the set holds a value per node or per cell
+     * @param name the name of the set
+     */
     public void addValuesSet(int set, float[] values, DataBindings binding, String name) {
         long h = handle();
         Checks.notNull(binding, "binding");
@@ -156,6 +236,10 @@ public abstract class PbMesh extends NativeObject {
     /**
      * Adds a vecs set with one vector per node. A null array adds a set without data (its
      * getters return null).
+     *
+     * @param set the index of the data set
+     * @param vectors the vectors, one per node or per cell
+     * @param name the name of the set
      */
     public void addVecsSet(int set, SbVec3f[] vectors, String name) {
         long h = handle();
@@ -166,7 +250,13 @@ public abstract class PbMesh extends NativeObject {
         addVecsSetImpl(h, set, vectors, name);
     }
 
-    /** Adds a strings set with one string per node (null elements become empty strings). */
+    /**
+     * Adds a strings set with one string per node (null elements become empty strings).
+     *
+     * @param set the index of the data set
+     * @param strings the strings of the set
+     * @param name the name of the set
+     */
     public void addStringsSet(int set, String[] strings, String name) {
         long h = handle();
         Checks.length(strings, getNumNodesImpl(h), "strings");
@@ -174,20 +264,42 @@ public abstract class PbMesh extends NativeObject {
         addStringsSetImpl(h, set, strings, name);
     }
 
-    /** The name of a values set, or null when there is no such set. */
+    /**
+     * The name of a values set, or null when there is no such set.
+     *
+     * @param set the index of the data set
+     * @return the name of a values set, or null when there is no such set
+     */
     public String getValuesSetName(int set) {
         return getValuesSetNameImpl(handle(), set);
     }
 
+    /**
+     * The name of a strings set, or null when there is no such set.
+     *
+     * @param set the index of the data set
+     * @return the name of a strings set, or null when there is no such set
+     */
     public String getStringsSetName(int set) {
         return getStringsSetNameImpl(handle(), set);
     }
 
+    /**
+     * The name of a vecs set, or null when there is no such set.
+     *
+     * @param set the index of the data set
+     * @return the name of a vecs set, or null when there is no such set
+     */
     public String getVecsSetName(int set) {
         return getVecsSetNameImpl(handle(), set);
     }
 
-    /** A copy of a values set (one value per cell or per node), or null when it has no data. */
+    /**
+     * A copy of a values set (one value per cell or per node), or null when it has no data.
+     *
+     * @param set the index of the data set
+     * @return a copy of a values set (one value per cell or per node), or null when it has no data
+     */
     public float[] getValuesSet(int set) {
         return getValuesSetImpl(handle(), set);
     }
@@ -195,12 +307,20 @@ public abstract class PbMesh extends NativeObject {
     /**
      * The mesh's own values set, without a copy, or null when it has no data. Writes through the
      * buffer change the mesh's data.
+     *
+     * @param set the index of the data set
+     * @return the mesh's own values set, without a copy, or null when it has no data
      */
     public FloatBuffer getDirectValuesSet(int set) {
         return Checks.floats((ByteBuffer) getDirectValuesSetImpl(handle(), set));
     }
 
-    /** A copy of a vecs set, or null when it has no data. */
+    /**
+     * A copy of a vecs set, or null when it has no data.
+     *
+     * @param set the index of the data set
+     * @return a copy of a vecs set, or null when it has no data
+     */
     public SbVec3f[] getVecsSet(int set) {
         long h = handle();
         if (getVecsSetImpl(h, set) == 0) {
@@ -214,50 +334,105 @@ public abstract class PbMesh extends NativeObject {
         return vectors;
     }
 
-    /** The mesh's own vecs set (x, y, z per node), without a copy, or null when it has no data. */
+    /**
+     * The mesh's own vecs set (x, y, z per node), without a copy, or null when it has no data.
+     *
+     * @param set the index of the data set
+     * @return the mesh's own vecs set (x, y, z per node), without a copy, or null when it has no data
+     */
     public FloatBuffer getDirectVecsSet(int set) {
         return Checks.floats((ByteBuffer) getDirectVecsSetImpl(handle(), set));
     }
 
-    /** Removes a values set; true when it existed. */
+    /**
+     * Removes a values set; true when it existed.
+     *
+     * @param set the index of the data set
+     * @return true when the set existed
+     */
     public boolean removeValuesSet(int set) {
         return removeValuesSetImpl(handle(), set);
     }
 
+    /**
+     * Removes a strings set; true when it existed.
+     *
+     * @param set the index of the data set
+     * @return true when the set existed
+     */
     public boolean removeStringsSet(int set) {
         return removeStringsSetImpl(handle(), set);
     }
 
+    /**
+     * Removes a vecs set; true when it existed.
+     *
+     * @param set the index of the data set
+     * @return true when the set existed
+     */
     public boolean removeVecsSet(int set) {
         return removeVecsSetImpl(handle(), set);
     }
 
+    /** Removes every values set. */
     public void removeAllValuesSet() {
         removeAllValuesSetImpl(handle());
     }
 
+    /** Removes every strings set. */
     public void removeAllStringsSet() {
         removeAllStringsSetImpl(handle());
     }
 
+    /** Removes every vecs set. */
     public void removeAllVecsSet() {
         removeAllVecsSetImpl(handle());
     }
 
-    /** The smallest value of a set into min[0]; false when the set has none (min[0] is then 0). */
+    /**
+     * The smallest value of a set into min[0]; false when the set has none (min[0] is then 0).
+     *
+     * @param set the index of the data set
+     * @param min receives the minimum in element 0
+     * @return the smallest value of a set into min[0]; false when the set has none (min[0] is then 0)
+     */
     public boolean getMinValuesSet(int set, float[] min) {
         return getMinValuesSetImpl(handle(), set, Checks.length(min, 1, "min"));
     }
 
+    /**
+     * The largest value of a set into max[0]; false when the set has none.
+     *
+     * @param set the index of the data set
+     * @param max receives the maximum in element 0
+     * @return false when the set has no values
+     * @throws NullPointerException when max is null
+     * @throws IllegalArgumentException when max is empty
+     */
     public boolean getMaxValuesSet(int set, float[] max) {
         return getMaxValuesSetImpl(handle(), set, Checks.length(max, 1, "max"));
     }
 
-    /** The smallest vector length of a set into min[0]; false when the set has none. */
+    /**
+     * The smallest vector length of a set into min[0]; false when the set has none.
+     *
+     * @param set the index of the data set
+     * @param min receives the smallest vector's length in element 0
+     * @return the smallest vector length of a set into min[0]; false when the set has none
+     */
     public boolean getMinVecsSet(int set, float[] min) {
         return getMinVecsSetImpl(handle(), set, Checks.length(min, 1, "min"));
     }
 
+    /**
+     * The largest vector length of a set into max[0]; false when the set has none.
+     *
+     * @param set the index of the data set
+     * @param max receives the largest vector's length in element 0
+     * @return false when the set has no vectors
+     * @throws NullPointerException when max is null
+     * @throws IllegalArgumentException when max is empty
+     */
     public boolean getMaxVecsSet(int set, float[] max) {
         return getMaxVecsSetImpl(handle(), set, Checks.length(max, 1, "max"));
     }
@@ -268,6 +443,10 @@ public abstract class PbMesh extends NativeObject {
      * Replaces the node coordinates of a mesh that keeps coordinate arrays (a null array keeps
      * that coordinate); other meshes ignore the call. Each array must have as many values as
      * {@link #getCoordinates} reports for it, or the node count when it reports none.
+     *
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
      */
     public void setCoordinates(float[] x, float[] y, float[] z) {
         long h = handle();
@@ -299,6 +478,9 @@ public abstract class PbMesh extends NativeObject {
     /**
      * The mesh's coordinate arrays x, y, z without a copy; an element is null when the mesh
      * keeps no such array.
+     *
+     * @return the mesh's coordinate arrays x, y, z without a copy; an element is null when the mesh keeps no
+     *     such array
      */
     public FloatBuffer[] getCoordinates() {
         Object[] x = new Object[1];
@@ -308,6 +490,13 @@ public abstract class PbMesh extends NativeObject {
         return new FloatBuffer[] {Checks.floats(x), Checks.floats(y), Checks.floats(z)};
     }
 
+    /**
+     * The coordinates of a node.
+     *
+     * @param nodeIndex the index of the node
+     * @return the coordinates of a node
+     * @throws IndexOutOfBoundsException when the node index is not that of a node of the mesh
+     */
     public SbVec3f getNodeCoord(int nodeIndex) {
         long h = handle();
         Checks.index(nodeIndex, getNumNodesImpl(h), "nodeIndex");
@@ -316,21 +505,35 @@ public abstract class PbMesh extends NativeObject {
         return new SbVec3f(out);
     }
 
-    /** The bounding box: xmin, ymin, zmin, xmax, ymax, zmax. */
+    /**
+     * The bounding box: xmin, ymin, zmin, xmax, ymax, zmax.
+     *
+     * @return the bounding box: xmin, ymin, zmin, xmax, ymax, zmax
+     */
     public float[] getBoundingBox() {
         float[] box = new float[6];
         getBoundingBoxImpl(handle(), box);
         return box;
     }
 
-    /** The box of the smallest cell into box[0..5]; returns that cell's index (0 without cells). */
+    /**
+     * The box of the smallest cell into box[0..5]; returns that cell's index (0 without cells).
+     *
+     * @param box receives the box's size
+     * @return the box of the smallest cell into box[0..5]; returns that cell's index (0 without cells)
+     */
     public int getSmallestCellBox(float[] box) {
         int[] cell = new int[1];
         getSmallestCellBoxImpl(handle(), cell, Checks.length(box, 6, "box"));
         return cell[0];
     }
 
-    /** The box of the biggest cell into box[0..5]; returns that cell's index (0 without cells). */
+    /**
+     * The box of the biggest cell into box[0..5]; returns that cell's index (0 without cells).
+     *
+     * @param box receives the box's size
+     * @return the box of the biggest cell into box[0..5]; returns that cell's index (0 without cells)
+     */
     public int getBiggestCellBox(float[] box) {
         int[] cell = new int[1];
         getBiggestCellBoxImpl(handle(), cell, Checks.length(box, 6, "box"));
@@ -340,6 +543,12 @@ public abstract class PbMesh extends NativeObject {
     /**
      * The cell that contains the point, trying the adjacent cell (which may be null) first; its
      * parametric coordinates go into pcoord[0..2]. Null when no cell contains the point.
+     *
+     * @param point the point
+     * @param tolerance the distance within which a point counts as inside
+     * @param pcoord the parametric coordinates
+     * @param adjacentCell a cell near the point where the search starts, or null
+     * @return the cell that contains the point, or null
      */
     public PbCell findContainingCell(SbVec3f point, float tolerance, float[] pcoord, PbCell adjacentCell) {
         long h = handle();
@@ -349,6 +558,16 @@ public abstract class PbMesh extends NativeObject {
         return cellView(findContainingCellImpl(h, p, tolerance, pcoord, adjacent));
     }
 
+    /**
+     * The cell that contains the point, or null; its parametric coordinates go into pcoord[0..2].
+     *
+     * @param point the point
+     * @param tolerance the distance within which a point counts as inside
+     * @param pcoord the parametric coordinates
+     * @return the cell that contains the point, or null
+     * @throws NullPointerException when point or pcoord is null
+     * @throws IllegalArgumentException when pcoord has fewer than 3 elements
+     */
     public PbCell findContainingCell(SbVec3f point, float tolerance, float[] pcoord) {
         long h = handle();
         float[] p = Checks.notNull(point, "point").getValue();

@@ -6,6 +6,11 @@ package com.kestrum.tavrel.data;
  * area are 0.
  */
 public abstract class PbMesh1D extends PbMesh {
+    /**
+     * Wraps a native one-dimensional mesh (made by a subclass's constructor, or owned elsewhere).
+     *
+     * @param handle the address of the native object
+     */
     protected PbMesh1D(long handle) {
         super(handle);
     }

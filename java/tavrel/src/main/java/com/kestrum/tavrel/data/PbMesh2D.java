@@ -15,7 +15,9 @@ public abstract class PbMesh2D extends PbMesh {
 
     /** How the fault-mesh computation extrapolates values. */
     public enum ExtrapolationMethods {
+        /** The toolkit's {@code USE_ADJACENT_DERIVS}. */
         USE_ADJACENT_DERIVS(JarInitializer.value(ExtrapolationMethods::getUSEADJACENTDERIVSNative)),
+        /** The toolkit's {@code USE_ADJACENT_VALUES}. */
         USE_ADJACENT_VALUES(JarInitializer.value(ExtrapolationMethods::getUSEADJACENTVALUESNative));
 
         private final int value;
@@ -24,6 +26,11 @@ public abstract class PbMesh2D extends PbMesh {
             this.value = value;
         }
 
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -33,6 +40,11 @@ public abstract class PbMesh2D extends PbMesh {
         private static native int getUSEADJACENTVALUESNative();
     }
 
+    /**
+     * Wraps a native 2D mesh (made by a subclass's constructor, or owned elsewhere).
+     *
+     * @param handle the address of the native object
+     */
     protected PbMesh2D(long handle) {
         super(handle);
     }
@@ -40,6 +52,10 @@ public abstract class PbMesh2D extends PbMesh {
     /**
      * Adds a vecs set of two-dimensional vectors, one per node (kept with z = 0). A null array
      * adds a set without data.
+     *
+     * @param set the index of the data set
+     * @param vectors the vectors, one per node or per cell
+     * @param name the name of the set
      */
     public void addVecsSet(int set, SbVec2f[] vectors, String name) {
         long h = handle();
@@ -50,7 +66,11 @@ public abstract class PbMesh2D extends PbMesh {
         addVecsSetImpl(h, set, vectors, name);
     }
 
-    /** The box of the nodes' x and y: xmin, ymin, xmax, ymax. */
+    /**
+     * The box of the nodes' x and y: xmin, ymin, xmax, ymax.
+     *
+     * @return the box of the nodes' x and y: xmin, ymin, xmax, ymax
+     */
     public float[] get2DBoundingBox() {
         float[] box = new float[4];
         get2DBoundingBoxImpl(handle(), box);
@@ -60,6 +80,12 @@ public abstract class PbMesh2D extends PbMesh {
     /**
      * The mesh cut along a fault line of count nodes (indices of this mesh's nodes), with an
      * optional vector per fault node (vectors may be null). The new mesh belongs to the caller.
+     *
+     * @param count the number of nodes
+     * @param nodes the nodes
+     * @param vectors the vectors, one per node or per cell
+     * @return the mesh cut along a fault line of count nodes (indices of this mesh's nodes), with an optional
+     *     vector per fault node (vectors may be null)
      */
     public PbMesh2D getFaultMesh(int count, int[] nodes, SbVec3f[] vectors) {
         long h = handle();

@@ -10,6 +10,11 @@ public abstract class PbMesh3D extends PbMesh {
         ManagedObjects.registerWrapper(PbMesh3D.class.getName(), View::new);
     }
 
+    /**
+     * Wraps a native 3D mesh (made by a subclass's constructor, or owned elsewhere).
+     *
+     * @param handle the address of the native object
+     */
     protected PbMesh3D(long handle) {
         super(handle);
     }

@@ -15,22 +15,42 @@ public class PbParalCartesianGrid3D extends PbGrid3D {
     /**
      * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
      * given whatever the flag says.
+     *
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
      */
     public PbParalCartesianGrid3D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated), true);
     }
 
-    /** A copy of another mesh: geometry and data sets. */
+    /**
+     * A copy of another mesh: geometry and data sets.
+     *
+     * @param other the object to copy
+     */
     public PbParalCartesianGrid3D(PbParalCartesianGrid3D other) {
         super(ctorImpl1(handleOf(other, "other")), true);
     }
 
-    /** A view of a native mesh, for subclasses. */
+    /**
+     * A view of a native mesh, for subclasses.
+     *
+     * @param handle the address of the native object
+     */
     protected PbParalCartesianGrid3D(long handle) {
         super(handle, true);
     }
 
-    /** A grid of numX x numY x numZ nodes, x of numX values, y of numY, z of numZ. */
+    /**
+     * A grid of numX x numY x numZ nodes, x of numX values, y of numY, z of numZ.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param numZ the number of nodes along z
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbParalCartesianGrid3D(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
         super(create(numX, numY, numZ, x, y, z, isDataDuplicated), true);
     }

@@ -9,13 +9,21 @@ public class PbPixelCell extends PbCell {
         JarInitializer.init();
     }
 
-    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    /**
+     * A cell of the mesh that is not attached to any of its cells (it has no nodes).
+     *
+     * @param mesh the mesh the cell is made for
+     */
     public PbPixelCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
         MeshViews.holdWhileReachable(this, mesh);
     }
 
-    /** A copy of another cell, nodes included. */
+    /**
+     * A copy of another cell, nodes included.
+     *
+     * @param other the object to copy
+     */
     public PbPixelCell(PbPixelCell other) {
         super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
     }

@@ -14,27 +14,54 @@ public class PbPolarGrid2D extends PbGrid2D {
     /**
      * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
      * given whatever the flag says.
+     *
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
      */
     public PbPolarGrid2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated), true);
     }
 
-    /** A copy of another mesh: geometry and data sets. */
+    /**
+     * A copy of another mesh: geometry and data sets.
+     *
+     * @param other the object to copy
+     */
     public PbPolarGrid2D(PbPolarGrid2D other) {
         super(ctorImpl1(handleOf(other, "other")), true);
     }
 
-    /** A view of a native mesh, for subclasses. */
+    /**
+     * A view of a native mesh, for subclasses.
+     *
+     * @param handle the address of the native object
+     */
     protected PbPolarGrid2D(long handle) {
         super(handle, true);
     }
 
-    /** A grid of numX x numY nodes, x of numX values, y of numY values. */
+    /**
+     * A grid of numX x numY nodes, x of numX values, y of numY values.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbPolarGrid2D(int numX, int numY, float[] x, float[] y, boolean isDataDuplicated) {
         super(create(numX, numY, x, y, null, isDataDuplicated), true);
     }
 
-    /** As above, with one elevation per node in z. */
+    /**
+     * As above, with one elevation per node in z.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbPolarGrid2D(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
         super(create(numX, numY, x, y, Checks.notNull(z, "z"), isDataDuplicated), true);
     }

@@ -13,36 +13,73 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
     /**
      * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
      * given whatever the flag says.
+     *
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
      */
     public PbQuadrangleMesh2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
 
-    /** A copy of another mesh: geometry and data sets. */
+    /**
+     * A copy of another mesh: geometry and data sets.
+     *
+     * @param other the object to copy
+     */
     public PbQuadrangleMesh2D(PbQuadrangleMesh2D other) {
         super(ctorImpl1(handleOf(other, "other")));
     }
 
-    /** A view of a native mesh, for subclasses. */
+    /**
+     * A view of a native mesh, for subclasses.
+     *
+     * @param handle the address of the native object
+     */
     protected PbQuadrangleMesh2D(long handle) {
         super(handle);
     }
 
-    /** A mesh of numNodes nodes and quadrangles given by 4 node indices each. */
+    /**
+     * A mesh of numNodes nodes and quadrangles given by 4 node indices each.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbQuadrangleMesh2D(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes,
             boolean isDataDuplicated) {
         super(ctorImpl2(checkFixed(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x, y,
                 numQuadrangles, quadrangleNodes, isDataDuplicated));
     }
 
-    /** As above, with one elevation per node in z. */
+    /**
+     * As above, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbQuadrangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes,
             boolean isDataDuplicated) {
         super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
                 "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes, isDataDuplicated));
     }
 
-    /** Replaces the geometry. */
+    /**
+     * Replaces the geometry.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
         long h = handle();
         setGeometryImpl(h, checkFixed(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x,
@@ -50,7 +87,16 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
         geometryChanged();
     }
 
-    /** Replaces the geometry, with one elevation per node in z. */
+    /**
+     * Replaces the geometry, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles,
             int[] quadrangleNodes) {
         long h = handle();

@@ -15,47 +15,103 @@ public class PbRegularCartesianGrid2D extends PbGrid2D {
     /**
      * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
      * given whatever the flag says.
+     *
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
      */
     public PbRegularCartesianGrid2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated), true);
     }
 
-    /** A copy of another mesh: geometry and data sets. */
+    /**
+     * A copy of another mesh: geometry and data sets.
+     *
+     * @param other the object to copy
+     */
     public PbRegularCartesianGrid2D(PbRegularCartesianGrid2D other) {
         super(ctorImpl1(handleOf(other, "other")), true);
     }
 
-    /** A view of a native mesh, for subclasses. */
+    /**
+     * A view of a native mesh, for subclasses.
+     *
+     * @param handle the address of the native object
+     */
     protected PbRegularCartesianGrid2D(long handle) {
         super(handle, true);
     }
 
-    /** numX x numY nodes evenly spread over [xmin, xmax] x [ymin, ymax]. */
+    /**
+     * numX x numY nodes evenly spread over [xmin, xmax] x [ymin, ymax].
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax,
             boolean isDataDuplicated) {
         super(ctorImpl2(counts(numX, numY, null), numY, xmin, ymin, xmax, ymax, isDataDuplicated), true);
     }
 
-    /** As above, with one elevation per node in z. */
+    /**
+     * As above, with one elevation per node in z.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param z the z coordinates, or null
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbRegularCartesianGrid2D(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z,
             boolean isDataDuplicated) {
         super(ctorImpl3(counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax, ymax, z,
                 isDataDuplicated), true);
     }
 
-    /** A grid over the extent of another one, with new node counts. */
+    /**
+     * A grid over the extent of another one, with new node counts.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param grid the grid whose geometry is copied
+     */
     public PbRegularCartesianGrid2D(int numX, int numY, PbRegularCartesianGrid2D grid) {
         super(ctorImpl4(counts(numX, numY, null), numY, handleOf(grid, "grid")), true);
     }
 
-    /** Replaces the geometry: numX x numY nodes over [xmin, xmax] x [ymin, ymax]. */
+    /**
+     * Replaces the geometry: numX x numY nodes over [xmin, xmax] x [ymin, ymax].
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax) {
         long h = handle();
         setGeometryImpl(h, counts(numX, numY, null), numY, xmin, ymin, xmax, ymax);
         geometryChanged();
     }
 
-    /** As above, with one elevation per node in z. */
+    /**
+     * As above, with one elevation per node in z.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param z the z coordinates, or null
+     */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
         long h = handle();
         setGeometryImpl1(h, counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax, ymax, z);

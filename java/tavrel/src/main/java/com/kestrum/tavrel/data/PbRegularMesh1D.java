@@ -15,21 +15,44 @@ public class PbRegularMesh1D extends PbMesh1D {
         super(ctorImpl());
     }
 
-    /** A copy of another mesh. */
+    /**
+     * A copy of another mesh.
+     *
+     * @param other the object to copy
+     */
     public PbRegularMesh1D(PbRegularMesh1D other) {
         super(ctorImpl1(handleOf(other, "other")));
     }
 
-    /** A view of a native mesh, for subclasses. */
+    /**
+     * A view of a native mesh, for subclasses.
+     *
+     * @param handle the address of the native object
+     */
     protected PbRegularMesh1D(long handle) {
         super(handle);
     }
 
-    /** numNodes nodes evenly spaced from xmin to xmax. */
+    /**
+     * numNodes nodes evenly spaced from xmin to xmax.
+     *
+     * @param numNodes the number of nodes
+     * @param xmin the smallest x
+     * @param xmax the largest x
+     */
     public PbRegularMesh1D(int numNodes, float xmin, float xmax) {
         super(ctorImpl2(Checks.count(numNodes, "numNodes"), xmin, xmax));
     }
 
+    /**
+     * Replaces the geometry: numNodes nodes evenly from xmin to xmax; every cell handed out so far stops
+     * working.
+     *
+     * @param numNodes the number of nodes
+     * @param xmin the smallest x
+     * @param xmax the largest x
+     * @throws IllegalArgumentException when numNodes is negative or too large
+     */
     public void setGeometry(int numNodes, float xmin, float xmax) {
         long h = handle();
         setGeometryImpl(h, Checks.count(numNodes, "numNodes"), xmin, xmax);

@@ -9,13 +9,21 @@ public class PbTetrahedronCell extends PbCell {
         JarInitializer.init();
     }
 
-    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    /**
+     * A cell of the mesh that is not attached to any of its cells (it has no nodes).
+     *
+     * @param mesh the mesh the cell is made for
+     */
     public PbTetrahedronCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
         MeshViews.holdWhileReachable(this, mesh);
     }
 
-    /** A copy of another cell, nodes included. */
+    /**
+     * A copy of another cell, nodes included.
+     *
+     * @param other the object to copy
+     */
     public PbTetrahedronCell(PbTetrahedronCell other) {
         super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
     }

@@ -13,36 +13,73 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
     /**
      * An empty mesh. The data-duplication flag is kept and reported; the mesh copies what it is
      * given whatever the flag says.
+     *
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
      */
     public PbTriangleMesh2D(boolean isDataDuplicated) {
         super(ctorImpl(isDataDuplicated));
     }
 
-    /** A copy of another mesh: geometry and data sets. */
+    /**
+     * A copy of another mesh: geometry and data sets.
+     *
+     * @param other the object to copy
+     */
     public PbTriangleMesh2D(PbTriangleMesh2D other) {
         super(ctorImpl1(handleOf(other, "other")));
     }
 
-    /** A view of a native mesh, for subclasses. */
+    /**
+     * A view of a native mesh, for subclasses.
+     *
+     * @param handle the address of the native object
+     */
     protected PbTriangleMesh2D(long handle) {
         super(handle);
     }
 
-    /** A mesh of numNodes nodes and triangles given by 3 node indices each. */
+    /**
+     * A mesh of numNodes nodes and triangles given by 3 node indices each.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numTriangles the number of triangles
+     * @param triangleNodes the three nodes of every triangle, one after the other
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbTriangleMesh2D(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes,
             boolean isDataDuplicated) {
         super(ctorImpl2(checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
                 numTriangles, triangleNodes, isDataDuplicated));
     }
 
-    /** As above, with one elevation per node in z. */
+    /**
+     * As above, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numTriangles the number of triangles
+     * @param triangleNodes the three nodes of every triangle, one after the other
+     * @param isDataDuplicated whether the mesh copies the arrays it is given (the flag is kept and reported)
+     */
     public PbTriangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes,
             boolean isDataDuplicated) {
         super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
                 "triangleNodes"), x, y, z, numTriangles, triangleNodes, isDataDuplicated));
     }
 
-    /** Replaces the geometry. */
+    /**
+     * Replaces the geometry.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numTriangles the number of triangles
+     * @param triangleNodes the three nodes of every triangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
         long h = handle();
         setGeometryImpl(h, checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
@@ -50,7 +87,16 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
         geometryChanged();
     }
 
-    /** Replaces the geometry, with one elevation per node in z. */
+    /**
+     * Replaces the geometry, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numTriangles the number of triangles
+     * @param triangleNodes the three nodes of every triangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles,
             int[] triangleNodes) {
         long h = handle();
@@ -62,6 +108,10 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
     /**
      * Replaces the nodes and triangulates them as a fan around node 0, in the order given (right
      * for a convex polygon given in order).
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
      */
     public void setGeometry(int numNodes, float[] x, float[] y) {
         long h = handle();

@@ -10,13 +10,21 @@ public class PbWedgeCell extends PbCell {
         JarInitializer.init();
     }
 
-    /** A cell of the mesh that is not attached to any of its cells (it has no nodes). */
+    /**
+     * A cell of the mesh that is not attached to any of its cells (it has no nodes).
+     *
+     * @param mesh the mesh the cell is made for
+     */
     public PbWedgeCell(PbMesh mesh) {
         super(ctorImpl(handleOf(mesh, "mesh")));
         MeshViews.holdWhileReachable(this, mesh);
     }
 
-    /** A copy of another cell, nodes included. */
+    /**
+     * A copy of another cell, nodes included.
+     *
+     * @param other the object to copy
+     */
     public PbWedgeCell(PbWedgeCell other) {
         super(ctorImpl1(Checks.notNull(other, "other").cellHandle()));
     }
@@ -27,6 +35,9 @@ public class PbWedgeCell extends PbCell {
     /**
      * The derivatives of the 6 shape functions at the parametric coordinates: 6 by u, then
      * 6 by v, then 6 by w, into derivs[0..17].
+     *
+     * @param pcoord the parametric coordinates
+     * @param derivs receives the derivatives
      */
     public void getDerivs(SbVec3f pcoord, float[] derivs) {
         getDerivsImpl(cellHandle(), coordinates(pcoord), Checks.length(derivs, DERIVS_LENGTH, "derivs"));

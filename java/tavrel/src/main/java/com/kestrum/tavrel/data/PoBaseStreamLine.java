@@ -13,7 +13,9 @@ public class PoBaseStreamLine extends PoMesh3D {
 
     /** The direction in which stream lines are followed from their start points. */
     public enum IntegrationDirections {
+        /** The toolkit's {@code FORWARD}. */
         FORWARD(JarInitializer.value(IntegrationDirections::getFORWARDNative)),
+        /** The toolkit's {@code BACKWARD}. */
         BACKWARD(JarInitializer.value(IntegrationDirections::getBACKWARDNative));
 
         private final int value;
@@ -22,7 +24,11 @@ public class PoBaseStreamLine extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -37,17 +43,29 @@ public class PoBaseStreamLine extends PoMesh3D {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoBaseStreamLine(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

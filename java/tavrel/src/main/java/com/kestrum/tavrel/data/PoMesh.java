@@ -19,10 +19,15 @@ public abstract class PoMesh extends PoDessvane {
 
     /** How a representation colours the mesh. */
     public enum ColoringTypes {
+        /** The toolkit's {@code COLORINHERITED}. */
         COLORINHERITED(JarInitializer.value(ColoringTypes::getCOLORINHERITEDNative)),
+        /** The toolkit's {@code COLORAVERAGE}. */
         COLORAVERAGE(JarInitializer.value(ColoringTypes::getCOLORAVERAGENative)),
+        /** The toolkit's {@code COLORMAPPING}. */
         COLORMAPPING(JarInitializer.value(ColoringTypes::getCOLORMAPPINGNative)),
+        /** The toolkit's {@code COLORCONTOURING}. */
         COLORCONTOURING(JarInitializer.value(ColoringTypes::getCOLORCONTOURINGNative)),
+        /** The toolkit's {@code COLORTEXTURECONTOURING}. */
         COLORTEXTURECONTOURING(JarInitializer.value(ColoringTypes::getCOLORTEXTURECONTOURINGNative));
 
         private final int value;
@@ -31,7 +36,11 @@ public abstract class PoMesh extends PoDessvane {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -54,7 +63,11 @@ public abstract class PoMesh extends PoDessvane {
     private PbDataMapping moduleDataMapping;
     private PbIsovaluesList isovaluesList;
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMesh(long handle) {
         super(handle);
         MeshUse<PbMesh> first = mesh;
@@ -65,12 +78,20 @@ public abstract class PoMesh extends PoDessvane {
         });
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -81,6 +102,8 @@ public abstract class PoMesh extends PoDessvane {
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set. A view of the mesh of a mesh node or field keeps that mesh alive while this
      * representation may draw it (see {@link #dispose}).
+     *
+     * @param mesh the mesh, or null for none
      */
     public void setMesh(PbMesh mesh) {
         long h = handle();
@@ -93,6 +116,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the mesh drawn, or null for none
      */
     public PbMesh getMesh() {
         return mesh.get(getMeshImpl(handle()));
@@ -103,6 +128,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
         setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
@@ -114,6 +141,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the data mapping that colours the mesh by its values, or null for none
      */
     public PbDataMapping getDataMapping() {
         return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
@@ -124,6 +153,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param moduleDataMapping the data mapping of the vectors' lengths, or null for none
      */
     public void setModuleDataMapping(PbDataMapping moduleDataMapping) {
         setModuleDataMappingImpl(handle(), handleOrZero(moduleDataMapping, "moduleDataMapping"));
@@ -135,6 +166,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the data mapping that colours vectors by their module, or null for none
      */
     public PbDataMapping getModuleDataMapping() {
         return JavaViews.find(PbDataMapping.class, getModuleDataMappingImpl(handle()), moduleDataMapping);
@@ -145,6 +178,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param isovaluesList the isovalue list, or null for none
      */
     public void setIsovaluesList(PbIsovaluesList isovaluesList) {
         setIsovaluesListImpl(handle(), handleOrZero(isovaluesList, "isovaluesList"));
@@ -156,6 +191,8 @@ public abstract class PoMesh extends PoDessvane {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the list of isovalues used for contouring, or null for none
      */
     public PbIsovaluesList getIsovaluesList() {
         return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);

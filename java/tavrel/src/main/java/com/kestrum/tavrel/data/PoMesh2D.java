@@ -10,17 +10,29 @@ public abstract class PoMesh2D extends PoMesh {
 
     private final MeshUse<PbMesh2D> mesh2D = meshUse(PbMesh2D.class);
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMesh2D(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -38,6 +50,8 @@ public abstract class PoMesh2D extends PoMesh {
     /**
      * Sets the 2D mesh drawn; null for none. The node keeps the mesh's address, so this object
      * keeps the Java object as long as it is set.
+     *
+     * @param mesh the mesh, or null for none
      */
     public void setMesh(PbMesh2D mesh) {
         long h = handle();

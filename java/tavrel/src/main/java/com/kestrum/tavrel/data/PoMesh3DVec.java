@@ -10,9 +10,13 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** Which vectors are left out. */
     public enum EliminationStatusType {
+        /** The toolkit's {@code NONE}. */
         NONE(JarInitializer.value(EliminationStatusType::getNONENative)),
+        /** The toolkit's {@code TOOSMALL}. */
         TOOSMALL(JarInitializer.value(EliminationStatusType::getTOOSMALLNative)),
+        /** The toolkit's {@code TOOLONG}. */
         TOOLONG(JarInitializer.value(EliminationStatusType::getTOOLONGNative)),
+        /** The toolkit's {@code TOOSMALLORLONG}. */
         TOOSMALLORLONG(JarInitializer.value(EliminationStatusType::getTOOSMALLORLONGNative));
 
         private final int value;
@@ -21,7 +25,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -37,8 +45,11 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** The shape of the vector bodies. */
     public enum BodyShapes {
+        /** The toolkit's {@code NOBODY}. */
         NOBODY(JarInitializer.value(BodyShapes::getNOBODYNative)),
+        /** The toolkit's {@code LINE}. */
         LINE(JarInitializer.value(BodyShapes::getLINENative)),
+        /** The toolkit's {@code CYLINDER}. */
         CYLINDER(JarInitializer.value(BodyShapes::getCYLINDERNative));
 
         private final int value;
@@ -47,7 +58,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -61,7 +76,9 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** Whether the body length is constant or follows the vector's length. */
     public enum BodyLengthTypes {
+        /** The toolkit's {@code CONSTANTLENGTH}. */
         CONSTANTLENGTH(JarInitializer.value(BodyLengthTypes::getCONSTANTLENGTHNative)),
+        /** The toolkit's {@code RELATIVELENGTH}. */
         RELATIVELENGTH(JarInitializer.value(BodyLengthTypes::getRELATIVELENGTHNative));
 
         private final int value;
@@ -70,7 +87,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -82,7 +103,9 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** Whether the body radius is constant or follows the vector's length. */
     public enum BodyRadiusTypes {
+        /** The toolkit's {@code CONSTANTRADIUS}. */
         CONSTANTRADIUS(JarInitializer.value(BodyRadiusTypes::getCONSTANTRADIUSNative)),
+        /** The toolkit's {@code RELATIVERADIUS}. */
         RELATIVERADIUS(JarInitializer.value(BodyRadiusTypes::getRELATIVERADIUSNative));
 
         private final int value;
@@ -91,7 +114,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -103,16 +130,27 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** The shape of the arrow heads. */
     public enum ArrowShapes {
+        /** The toolkit's {@code NOSHAPE}. */
         NOSHAPE(JarInitializer.value(ArrowShapes::getNOSHAPENative)),
+        /** The toolkit's {@code POINT}. */
         POINT(JarInitializer.value(ArrowShapes::getPOINTNative)),
+        /** The toolkit's {@code CHEVRON}. */
         CHEVRON(JarInitializer.value(ArrowShapes::getCHEVRONNative)),
+        /** The toolkit's {@code TRIANGLE}. */
         TRIANGLE(JarInitializer.value(ArrowShapes::getTRIANGLENative)),
+        /** The toolkit's {@code RECTANGLE}. */
         RECTANGLE(JarInitializer.value(ArrowShapes::getRECTANGLENative)),
+        /** The toolkit's {@code CONE}. */
         CONE(JarInitializer.value(ArrowShapes::getCONENative)),
+        /** The toolkit's {@code BOX}. */
         BOX(JarInitializer.value(ArrowShapes::getBOXNative)),
+        /** The toolkit's {@code SPHERE}. */
         SPHERE(JarInitializer.value(ArrowShapes::getSPHERENative)),
+        /** The toolkit's {@code INDIRECTCHEVRON}. */
         INDIRECTCHEVRON(JarInitializer.value(ArrowShapes::getINDIRECTCHEVRONNative)),
+        /** The toolkit's {@code INDIRECTTRIANGLE}. */
         INDIRECTTRIANGLE(JarInitializer.value(ArrowShapes::getINDIRECTTRIANGLENative)),
+        /** The toolkit's {@code INDIRECTCONE}. */
         INDIRECTCONE(JarInitializer.value(ArrowShapes::getINDIRECTCONENative));
 
         private final int value;
@@ -121,7 +159,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -151,7 +193,9 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** Whether the arrow height is constant or follows the vector's length. */
     public enum ArrowHeightTypes {
+        /** The toolkit's {@code CONSTANTHEIGHT}. */
         CONSTANTHEIGHT(JarInitializer.value(ArrowHeightTypes::getCONSTANTHEIGHTNative)),
+        /** The toolkit's {@code RELATIVEHEIGHT}. */
         RELATIVEHEIGHT(JarInitializer.value(ArrowHeightTypes::getRELATIVEHEIGHTNative));
 
         private final int value;
@@ -160,7 +204,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -172,8 +220,11 @@ public class PoMesh3DVec extends PoMesh3D {
 
     /** How arrows are coloured. */
     public enum ArrowColoringTypes {
+        /** The toolkit's {@code CONSTANTCOLOR}. */
         CONSTANTCOLOR(JarInitializer.value(ArrowColoringTypes::getCONSTANTCOLORNative)),
+        /** The toolkit's {@code MODULEMAPPINGCOLOR}. */
         MODULEMAPPINGCOLOR(JarInitializer.value(ArrowColoringTypes::getMODULEMAPPINGCOLORNative)),
+        /** The toolkit's {@code SCALARMAPPINGCOLOR}. */
         SCALARMAPPINGCOLOR(JarInitializer.value(ArrowColoringTypes::getSCALARMAPPINGCOLORNative));
 
         private final int value;
@@ -182,7 +233,11 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -199,17 +254,29 @@ public class PoMesh3DVec extends PoMesh3D {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMesh3DVec(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

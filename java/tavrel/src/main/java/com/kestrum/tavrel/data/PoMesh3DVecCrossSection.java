@@ -10,8 +10,11 @@ public class PoMesh3DVecCrossSection extends PoMesh3D {
 
     /** How the vectors are projected on the section. */
     public enum ProjectionTypes {
+        /** The toolkit's {@code NOPROJECTION}. */
         NOPROJECTION(JarInitializer.value(ProjectionTypes::getNOPROJECTIONNative)),
+        /** The toolkit's {@code PROJECTIONONPLANE}. */
         PROJECTIONONPLANE(JarInitializer.value(ProjectionTypes::getPROJECTIONONPLANENative)),
+        /** The toolkit's {@code PROJECTIONONNORMAL}. */
         PROJECTIONONNORMAL(JarInitializer.value(ProjectionTypes::getPROJECTIONONNORMALNative));
 
         private final int value;
@@ -20,7 +23,11 @@ public class PoMesh3DVecCrossSection extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -37,17 +44,29 @@ public class PoMesh3DVecCrossSection extends PoMesh3D {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMesh3DVecCrossSection(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -13,8 +13,11 @@ public class PoMeshContouring extends PoMesh2D {
 
     /** The direction in which annotation text runs. */
     public enum AnnotPaths {
+        /** The toolkit's {@code TANGENTIALPATH}. */
         TANGENTIALPATH(JarInitializer.value(AnnotPaths::getTANGENTIALPATHNative)),
+        /** The toolkit's {@code HORIZONTALPATH}. */
         HORIZONTALPATH(JarInitializer.value(AnnotPaths::getHORIZONTALPATHNative)),
+        /** The toolkit's {@code VERTICALPATH}. */
         VERTICALPATH(JarInitializer.value(AnnotPaths::getVERTICALPATHNative));
 
         private final int value;
@@ -23,7 +26,11 @@ public class PoMeshContouring extends PoMesh2D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -37,8 +44,11 @@ public class PoMeshContouring extends PoMesh2D {
 
     /** Whether annotations may cross contour lines. */
     public enum AnnotCrossStatusType {
+        /** The toolkit's {@code CROSSCONTOUR}. */
         CROSSCONTOUR(JarInitializer.value(AnnotCrossStatusType::getCROSSCONTOURNative)),
+        /** The toolkit's {@code CROSSMINORCONTOUR}. */
         CROSSMINORCONTOUR(JarInitializer.value(AnnotCrossStatusType::getCROSSMINORCONTOURNative)),
+        /** The toolkit's {@code DONTCROSSCONTOUR}. */
         DONTCROSSCONTOUR(JarInitializer.value(AnnotCrossStatusType::getDONTCROSSCONTOURNative));
 
         private final int value;
@@ -47,7 +57,11 @@ public class PoMeshContouring extends PoMesh2D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -67,17 +81,29 @@ public class PoMeshContouring extends PoMesh2D {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMeshContouring(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -87,6 +113,8 @@ public class PoMeshContouring extends PoMesh2D {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
         setFormatImpl(handle(), handleOrZero(format, "format"));
@@ -98,6 +126,8 @@ public class PoMeshContouring extends PoMesh2D {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the numeric format of the contour annotations, or null for none
      */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
@@ -108,6 +138,8 @@ public class PoMeshContouring extends PoMesh2D {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
         setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
@@ -119,6 +151,8 @@ public class PoMeshContouring extends PoMesh2D {
      *
      * <p>The Java object set earlier while the node still holds its address, else the registered
      * Java object of that address, else null.
+     *
+     * @return the text attributes of the contour annotations, or null for none
      */
     public PbMiscTextAttr getMiscTextAttr() {
         return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);

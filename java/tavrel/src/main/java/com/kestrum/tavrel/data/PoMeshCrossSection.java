@@ -10,8 +10,11 @@ public class PoMeshCrossSection extends PoMesh3D {
 
     /** How the section is computed. */
     public enum CrossSectionMethods {
+        /** The toolkit's {@code DEFAULT}. */
         DEFAULT(JarInitializer.value(CrossSectionMethods::getDEFAULTNative)),
+        /** The toolkit's {@code ISOSURFACE}. */
         ISOSURFACE(JarInitializer.value(CrossSectionMethods::getISOSURFACENative)),
+        /** The toolkit's {@code INTERSECTION}. */
         INTERSECTION(JarInitializer.value(CrossSectionMethods::getINTERSECTIONNative));
 
         private final int value;
@@ -20,7 +23,11 @@ public class PoMeshCrossSection extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -37,17 +44,29 @@ public class PoMeshCrossSection extends PoMesh3D {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMeshCrossSection(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -55,6 +74,8 @@ public class PoMeshCrossSection extends PoMesh3D {
     /**
      * Sets how the section is computed. The method is a plain member of the node: nothing in the
      * scene graph is notified of the change.
+     *
+     * @param method how the section is computed
      */
     public void setCrossSectionMethod(CrossSectionMethods method) {
         if (method == null) {

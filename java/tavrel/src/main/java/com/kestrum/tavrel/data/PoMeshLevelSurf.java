@@ -10,7 +10,9 @@ public class PoMeshLevelSurf extends PoMesh3D {
 
     /** Which side of the level surface its normals face. */
     public enum SurfOrientations {
+        /** The toolkit's {@code ORIENTEDTOMIN}. */
         ORIENTEDTOMIN(JarInitializer.value(SurfOrientations::getORIENTEDTOMINNative)),
+        /** The toolkit's {@code ORIENTEDTOMAX}. */
         ORIENTEDTOMAX(JarInitializer.value(SurfOrientations::getORIENTEDTOMAXNative));
 
         private final int value;
@@ -19,7 +21,11 @@ public class PoMeshLevelSurf extends PoMesh3D {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -34,17 +40,29 @@ public class PoMeshLevelSurf extends PoMesh3D {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMeshLevelSurf(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

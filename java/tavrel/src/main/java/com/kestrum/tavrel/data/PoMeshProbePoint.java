@@ -43,7 +43,11 @@ public class PoMeshProbePoint extends PoMesh {
         this(ctorImpl());
     }
 
-    /** A Java object for the native probe at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native probe at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoMeshProbePoint(long handle) {
         super(handle);
         // Events of this probe reach Java as this object (it holds a reference on the node, so
@@ -51,12 +55,20 @@ public class PoMeshProbePoint extends PoMesh {
         registerAsPeer(false);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -65,6 +77,10 @@ public class PoMeshProbePoint extends PoMesh {
     /**
      * Moves the probe: sets its field "position". The probe probes its mesh there when an action
      * next traverses it, raising its events then.
+     *
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
      */
     public void setPosition(float x, float y, float z) {
         SoField position = getField("position");
@@ -75,41 +91,78 @@ public class PoMeshProbePoint extends PoMesh {
         }
     }
 
+    /**
+     * Calls the callback object whenever the probe moves within the mesh; null removes it.
+     *
+     * @param callback the callback object, or null for none
+     * @param userData the user data handed to the callback object with each event
+     */
     public void setMotionCallback(PoProbeCB callback, Object userData) {
         register(MOTION, this::setMotionCallbackImpl, callback, userData);
     }
 
-    /** Sets the callback object of the change-cell event and its user data; null detaches it. */
+    /**
+     * Sets the callback object of the change-cell event and its user data; null detaches it.
+     *
+     * @param callback the callback object, or null for none
+     * @param userData the user data handed to the callback object with each event
+     */
     public void setChangeCellCallback(PoProbeCB callback, Object userData) {
         register(CHANGE_CELL, this::setChangeCellCallbackImpl, callback, userData);
     }
 
-    /** Sets the callback object of the enter-mesh event and its user data; null detaches it. */
+    /**
+     * Sets the callback object of the enter-mesh event and its user data; null detaches it.
+     *
+     * @param callback the callback object, or null for none
+     * @param userData the user data handed to the callback object with each event
+     */
     public void setEnterMeshCallback(PoProbeCB callback, Object userData) {
         register(ENTER_MESH, this::setEnterMeshCallbackImpl, callback, userData);
     }
 
-    /** Sets the callback object of the leave-mesh event and its user data; null detaches it. */
+    /**
+     * Sets the callback object of the leave-mesh event and its user data; null detaches it.
+     *
+     * @param callback the callback object, or null for none
+     * @param userData the user data handed to the callback object with each event
+     */
     public void setLeaveMeshCallback(PoProbeCB callback, Object userData) {
         register(LEAVE_MESH, this::setLeaveMeshCallbackImpl, callback, userData);
     }
 
-    /** The callback object of the motion event, or null. */
+    /**
+     * The callback object of the motion event, or null.
+     *
+     * @return the callback object of the motion event, or null
+     */
     public PoProbeCB getMotionCallback() {
         return callbacks[MOTION];
     }
 
-    /** The callback object of the change-cell event, or null. */
+    /**
+     * The callback object of the change-cell event, or null.
+     *
+     * @return the callback object of the change-cell event, or null
+     */
     public PoProbeCB getChangeCellCallback() {
         return callbacks[CHANGE_CELL];
     }
 
-    /** The callback object of the enter-mesh event, or null. */
+    /**
+     * The callback object of the enter-mesh event, or null.
+     *
+     * @return the callback object of the enter-mesh event, or null
+     */
     public PoProbeCB getEnterMeshCallback() {
         return callbacks[ENTER_MESH];
     }
 
-    /** The callback object of the leave-mesh event, or null. */
+    /**
+     * The callback object of the leave-mesh event, or null.
+     *
+     * @return the callback object of the leave-mesh event, or null
+     */
     public PoProbeCB getLeaveMeshCallback() {
         return callbacks[LEAVE_MESH];
     }

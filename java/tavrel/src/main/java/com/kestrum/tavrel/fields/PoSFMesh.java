@@ -103,7 +103,11 @@ public abstract class PoSFMesh extends SoField {
         }
     }
 
-    /** The name of the toolkit type of PoSFMesh. */
+    /**
+     * The name of the toolkit type of PoSFMesh.
+     *
+     * @return the name of the toolkit type of PoSFMesh
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -112,6 +116,9 @@ public abstract class PoSFMesh extends SoField {
      * The mesh inside the field, as a view (see the class): the same object as long as it is
      * reachable and not disposed. Reading the value first brings it up to date when the field
      * says it must.
+     *
+     * @return the mesh inside the field, as a view (see the class): the same object as long as it is
+     *     reachable and not disposed
      */
     public abstract PbMesh getValue();
 
@@ -141,7 +148,13 @@ public abstract class PoSFMesh extends SoField {
         return address;
     }
 
-    /** Adds a values set with one value per node of the field's mesh. */
+    /**
+     * Adds a values set with one value per node of the field's mesh.
+     *
+     * @param set the index of the data set
+     * @param values one value per node (or per cell)
+     * @param name the name of the set
+     */
     public void addValuesSet(int set, float[] values, String name) {
         long h = handle();
         Checks.length(values, value().getNumNodes(), "values");
@@ -149,7 +162,14 @@ public abstract class PoSFMesh extends SoField {
         addValuesSetImpl(h, set, values, name);
     }
 
-    /** Adds a values set with one value per cell or per node of the field's mesh. */
+    /**
+     * Adds a values set with one value per cell or per node of the field's mesh.
+     *
+     * @param set the index of the data set
+     * @param values one value per node (or per cell)
+     * @param binding whether the set holds a value per node or per cell
+     * @param name the name of the set
+     */
     public void addValuesSet(int set, float[] values, PoMeshProperty.DataBindings binding, String name) {
         long h = handle();
         Checks.notNull(binding, "binding");
@@ -160,7 +180,13 @@ public abstract class PoSFMesh extends SoField {
         addValuesSetImpl1(h, set, values, binding.getValue(), name);
     }
 
-    /** Adds a strings set with one string per node (null elements become empty strings). */
+    /**
+     * Adds a strings set with one string per node (null elements become empty strings).
+     *
+     * @param set the index of the data set
+     * @param strings the strings of the set
+     * @param name the name of the set
+     */
     public void addStringsSet(int set, String[] strings, String name) {
         long h = handle();
         Checks.length(strings, value().getNumNodes(), "strings");
@@ -171,6 +197,10 @@ public abstract class PoSFMesh extends SoField {
     /**
      * Adds a vecs set with one vector per node. A null or empty array adds a set without data
      * (its getters return null).
+     *
+     * @param set the index of the data set
+     * @param vectors the vectors, one per node or per cell
+     * @param name the name of the set
      */
     public void addVecsSet(int set, SbVec3f[] vectors, String name) {
         long h = handle();
@@ -184,29 +214,62 @@ public abstract class PoSFMesh extends SoField {
     /** A field class's own native call taking the field's handle and a mesh's handle. */
     @FunctionalInterface
     protected interface ValueCall {
+        /**
+         * Copies the mesh of that address into the field.
+         *
+         * @param handle the address of the field
+         * @param mesh the address of the mesh to copy
+         */
         void call(long handle, long mesh);
     }
 
     /** A field class's own native comparison of two fields by handle. */
     @FunctionalInterface
     protected interface EqualsCall {
+        /**
+         * Compares the field with the other one.
+         *
+         * @param handle the address of this field
+         * @param other the address of the other field
+         * @return whether both fields hold the same mesh
+         */
         boolean call(long handle, long other);
     }
 
     /** A field class's own native call adding the field to a node. */
     @FunctionalInterface
     protected interface ContainerCall {
+        /**
+         * Adds the field to the node under the name, with the initial value's address (0 for none).
+         *
+         * @param handle the address of the field
+         * @param container the address of the node that the field joins
+         * @param name the field's name in the node
+         * @param fieldType the kind of field, as the toolkit numbers it
+         * @param value the address of the initial value, 0 for none
+         */
         void call(long handle, long container, String name, int fieldType, long value);
     }
 
-    /** {@code setValue} of the field classes (see the class), through their native call. */
+    /**
+     * {@code setValue} of the field classes (see the class), through their native call.
+     *
+     * @param mesh the mesh to copy into the field
+     * @param setValueImpl the native call that sets the value
+     */
     protected final void setValueWith(PbMesh mesh, ValueCall setValueImpl) {
         long h = handle();
         setValueImpl.call(h, handleOf(mesh, "mesh"));
         geometryChanged();
     }
 
-    /** {@code isEqualTo} of the field classes (see the class), through their native call. */
+    /**
+     * {@code isEqualTo} of the field classes (see the class), through their native call.
+     *
+     * @param other the object to copy
+     * @param equalsImpl the native call that compares the fields
+     * @return {@code isEqualTo} of the field classes (see the class), through their native call
+     */
     protected final boolean isEqualToWith(PoSFMesh other, EqualsCall equalsImpl) {
         long h = handle();
         long o = handleOf(other, "other");
@@ -216,7 +279,15 @@ public abstract class PoSFMesh extends SoField {
         return result;
     }
 
-    /** {@code addToContainer} of the field classes (see the class), through their native call. */
+    /**
+     * {@code addToContainer} of the field classes (see the class), through their native call.
+     *
+     * @param container the node that the field joins
+     * @param name the field's name in the node
+     * @param fieldType the kind of field, as the toolkit numbers it
+     * @param initialValue the mesh the field starts with, or null
+     * @param addFieldToContainerNative the native call that adds the field to the node
+     */
     protected final void addToContainerWith(SoNode container, String name, int fieldType, PbMesh initialValue,
             ContainerCall addFieldToContainerNative) {
         long h = handle();
@@ -232,6 +303,8 @@ public abstract class PoSFMesh extends SoField {
      * {@code setGeometry} of the field classes: checks that the field is not disposed, gives its
      * handle to the call (which checks the arguments, then makes the class's native call) and
      * records the change.
+     *
+     * @param checkedSetGeometryImpl the native call that sets the geometry, given the mesh's handle
      */
     protected final void setGeometryWith(LongConsumer checkedSetGeometryImpl) {
         long h = handle();

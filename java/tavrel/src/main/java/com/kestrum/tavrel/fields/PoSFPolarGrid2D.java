@@ -21,7 +21,11 @@ public class PoSFPolarGrid2D extends PoSFMesh {
         super(ctorImpl(), PbPolarGrid2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -32,22 +36,46 @@ public class PoSFPolarGrid2D extends PoSFMesh {
         return (PbPolarGrid2D) value();
     }
 
-    /** Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}). */
+    /**
+     * Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}).
+     *
+     * @param mesh the mesh to copy into the field
+     */
     public void setValue(PbPolarGrid2D mesh) {
         setValueWith(mesh, this::setValueImpl);
     }
 
-    /** Whether both fields hold the same mesh (see {@link PoSFMesh}). */
+    /**
+     * Whether both fields hold the same mesh (see {@link PoSFMesh}).
+     *
+     * @param other the field to compare with
+     * @return whether both fields hold the same mesh (see {@link PoSFMesh})
+     */
     public boolean isEqualTo(PoSFPolarGrid2D other) {
         return isEqualToWith(other, this::equalsImpl);
     }
 
-    /** Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}). */
+    /**
+     * Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}).
+     *
+     * @param container the node that the field joins
+     * @param name the field's name in the node
+     * @param fieldType the kind of field, as the toolkit numbers it
+     * @param initialValue the mesh the field starts with, or null
+     */
     public void addToContainer(SoNode container, String name, int fieldType, PbPolarGrid2D initialValue) {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoPolarGrid2D}. */
+    /**
+     * Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoPolarGrid2D}.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {
             Checks.grid2D(numX, numY, x, y, z, true);

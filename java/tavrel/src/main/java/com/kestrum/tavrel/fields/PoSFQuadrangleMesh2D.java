@@ -20,7 +20,11 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
         super(ctorImpl(), PbQuadrangleMesh2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -31,22 +35,46 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
         return (PbQuadrangleMesh2D) value();
     }
 
-    /** Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}). */
+    /**
+     * Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}).
+     *
+     * @param mesh the mesh to copy into the field
+     */
     public void setValue(PbQuadrangleMesh2D mesh) {
         setValueWith(mesh, this::setValueImpl);
     }
 
-    /** Whether both fields hold the same mesh (see {@link PoSFMesh}). */
+    /**
+     * Whether both fields hold the same mesh (see {@link PoSFMesh}).
+     *
+     * @param other the field to compare with
+     * @return whether both fields hold the same mesh (see {@link PoSFMesh})
+     */
     public boolean isEqualTo(PoSFQuadrangleMesh2D other) {
         return isEqualToWith(other, this::equalsImpl);
     }
 
-    /** Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}). */
+    /**
+     * Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}).
+     *
+     * @param container the node that the field joins
+     * @param name the field's name in the node
+     * @param fieldType the kind of field, as the toolkit numbers it
+     * @param initialValue the mesh the field starts with, or null
+     */
     public void addToContainer(SoNode container, String name, int fieldType, PbQuadrangleMesh2D initialValue) {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoQuadrangleMesh2D}. */
+    /**
+     * Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoQuadrangleMesh2D}.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes");
@@ -54,7 +82,16 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
         });
     }
 
-    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoQuadrangleMesh2D}. */
+    /**
+     * Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoQuadrangleMesh2D}.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,

@@ -20,7 +20,11 @@ public class PoSFRegularMesh1D extends PoSFMesh {
         super(ctorImpl(), PbRegularMesh1D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -31,22 +35,44 @@ public class PoSFRegularMesh1D extends PoSFMesh {
         return (PbRegularMesh1D) value();
     }
 
-    /** Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}). */
+    /**
+     * Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}).
+     *
+     * @param mesh the mesh to copy into the field
+     */
     public void setValue(PbRegularMesh1D mesh) {
         setValueWith(mesh, this::setValueImpl);
     }
 
-    /** Whether both fields hold the same mesh (see {@link PoSFMesh}). */
+    /**
+     * Whether both fields hold the same mesh (see {@link PoSFMesh}).
+     *
+     * @param other the field to compare with
+     * @return whether both fields hold the same mesh (see {@link PoSFMesh})
+     */
     public boolean isEqualTo(PoSFRegularMesh1D other) {
         return isEqualToWith(other, this::equalsImpl);
     }
 
-    /** Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}). */
+    /**
+     * Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}).
+     *
+     * @param container the node that the field joins
+     * @param name the field's name in the node
+     * @param fieldType the kind of field, as the toolkit numbers it
+     * @param initialValue the mesh the field starts with, or null
+     */
     public void addToContainer(SoNode container, String name, int fieldType, PbRegularMesh1D initialValue) {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoRegularMesh1D}. */
+    /**
+     * Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoRegularMesh1D}.
+     *
+     * @param numNodes the number of nodes
+     * @param xmin the smallest x
+     * @param xmax the largest x
+     */
     public void setGeometry(int numNodes, float xmin, float xmax) {
         setGeometryWith(h -> {
             Checks.count(numNodes, "numNodes");

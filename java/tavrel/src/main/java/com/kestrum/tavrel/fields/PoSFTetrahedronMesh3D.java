@@ -20,7 +20,11 @@ public class PoSFTetrahedronMesh3D extends PoSFMesh {
         super(ctorImpl(), PbTetrahedronMesh3D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -31,22 +35,47 @@ public class PoSFTetrahedronMesh3D extends PoSFMesh {
         return (PbTetrahedronMesh3D) value();
     }
 
-    /** Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}). */
+    /**
+     * Sets the field's value to a copy of the mesh, in place (see {@link PoSFMesh}).
+     *
+     * @param mesh the mesh to copy into the field
+     */
     public void setValue(PbTetrahedronMesh3D mesh) {
         setValueWith(mesh, this::setValueImpl);
     }
 
-    /** Whether both fields hold the same mesh (see {@link PoSFMesh}). */
+    /**
+     * Whether both fields hold the same mesh (see {@link PoSFMesh}).
+     *
+     * @param other the field to compare with
+     * @return whether both fields hold the same mesh (see {@link PoSFMesh})
+     */
     public boolean isEqualTo(PoSFTetrahedronMesh3D other) {
         return isEqualToWith(other, this::equalsImpl);
     }
 
-    /** Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}). */
+    /**
+     * Adds the field to a node under a name, with a copy of the initial value (see {@link PoSFMesh}).
+     *
+     * @param container the node that the field joins
+     * @param name the field's name in the node
+     * @param fieldType the kind of field, as the toolkit numbers it
+     * @param initialValue the mesh the field starts with, or null
+     */
     public void addToContainer(SoNode container, String name, int fieldType, PbTetrahedronMesh3D initialValue) {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);
     }
 
-    /** Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTetrahedronMesh3D}. */
+    /**
+     * Replaces the geometry of the field's mesh, as the same setGeometry of {@link PoTetrahedronMesh3D}.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numTetrahedra the number of tetrahedra
+     * @param tetrahedronNodes the four nodes of every tetrahedron, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedronNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedronNodes, "tetrahedronNodes");

@@ -11,7 +11,11 @@ public record HlsColor(float hue, float lightness, float saturation) {
         return new HlsColor(hls[0], hls[1], hls[2]);
     }
 
-    /** The three floats: hue, lightness, saturation. */
+    /**
+     * The three floats: hue, lightness, saturation.
+     *
+     * @return the three floats: hue, lightness, saturation
+     */
     public float[] toArray() {
         return new float[] {hue, lightness, saturation};
     }

@@ -24,7 +24,11 @@ public abstract class PbBase extends NativeObject {
         JarInitializer.init();
     }
 
-    /** A view of a native attribute object made elsewhere (non-zero handle). */
+    /**
+     * A view of a native attribute object made elsewhere (non-zero handle).
+     *
+     * @param handle the address of the native object
+     */
     protected PbBase(long handle) {
         super(handle);
     }
@@ -47,11 +51,18 @@ public abstract class PbBase extends NativeObject {
     /**
      * Sets the connection flag: with it (the default) the nodes that use this object follow its
      * changes when a traversal next reaches them.
+     *
+     * @param flag true to switch it on, false to switch it off
      */
     public void enableConnection(boolean flag) {
         enableConnectionImpl(handle(), flag);
     }
 
+    /**
+     * Whether nodes that use this object are rebuilt when it changes.
+     *
+     * @return whether nodes that use this object are rebuilt when it changes
+     */
     public boolean isConnectionEnabled() {
         return isConnectionEnabledImpl(handle());
     }

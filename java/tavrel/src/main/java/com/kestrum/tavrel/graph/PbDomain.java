@@ -40,12 +40,21 @@ public class PbDomain extends PbBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TransformTypes fromValue(int value) {
             for (TransformTypes t : values()) {
                 if (t.value == value) {
@@ -81,7 +90,11 @@ public class PbDomain extends PbBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
@@ -98,69 +111,143 @@ public class PbDomain extends PbBase {
         super(made(ctorImpl()));
     }
 
-    /** A copy of another domain, independent of it. */
+    /**
+     * A copy of another domain, independent of it.
+     *
+     * @param other the object to copy
+     */
     public PbDomain(PbDomain other) {
         super(made(ctorImpl1(handleOf(other, "other"))));
     }
 
-    /** A 2D domain of the box. */
+    /**
+     * A 2D domain of the box.
+     *
+     * @param box the box the domain covers
+     * @param type how the box is fitted
+     */
     public PbDomain(SbBox2f box, BoundingBoxTypes type) {
         super(made(ctorImpl2(box2(box), valueOf(type))));
     }
 
-    /** A 3D domain of the box. */
+    /**
+     * A 3D domain of the box.
+     *
+     * @param box the box the domain covers
+     * @param type how the box is fitted
+     */
     public PbDomain(SbBox3f box, BoundingBoxTypes type) {
         super(made(ctorImpl3(box3(box), valueOf(type))));
     }
 
-    /** A 2D domain from (xmin, ymin) to (xmax, ymax). */
+    /**
+     * A 2D domain from (xmin, ymin) to (xmax, ymax).
+     *
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param type how the box is fitted
+     */
     public PbDomain(float xmin, float ymin, float xmax, float ymax, BoundingBoxTypes type) {
         super(made(ctorImpl4(xmin, ymin, xmax, ymax, valueOf(type))));
     }
 
-    /** A 3D domain from (xmin, ymin, zmin) to (xmax, ymax, zmax). */
+    /**
+     * A 3D domain from (xmin, ymin, zmin) to (xmax, ymax, zmax).
+     *
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param zmin the smallest z
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param zmax the largest z
+     * @param type how the box is fitted
+     */
     public PbDomain(float xmin, float ymin, float zmin, float xmax, float ymax, float zmax, BoundingBoxTypes type) {
         super(made(ctorImpl5(xmin, ymin, zmin, xmax, ymax, zmax, valueOf(type))));
     }
 
-    /** A view of a native domain made elsewhere (non-zero handle). */
+    /**
+     * A view of a native domain made elsewhere (non-zero handle).
+     *
+     * @param handle the address of the native object
+     */
     protected PbDomain(long handle) {
         super(handle);
     }
 
-    /** Makes this a 2D domain from (xmin, ymin) to (xmax, ymax). */
+    /**
+     * Makes this a 2D domain from (xmin, ymin) to (xmax, ymax).
+     *
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param type how the box is fitted
+     */
     public void setDomain(float xmin, float ymin, float xmax, float ymax, BoundingBoxTypes type) {
         setDomainImpl(handle(), xmin, ymin, xmax, ymax, valueOf(type));
     }
 
-    /** Makes this a 3D domain from (xmin, ymin, zmin) to (xmax, ymax, zmax). */
+    /**
+     * Makes this a 3D domain from (xmin, ymin, zmin) to (xmax, ymax, zmax).
+     *
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param zmin the smallest z
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param zmax the largest z
+     * @param type how the box is fitted
+     */
     public void setDomain(float xmin, float ymin, float zmin, float xmax, float ymax, float zmax,
             BoundingBoxTypes type) {
         setDomainImpl1(handle(), xmin, ymin, zmin, xmax, ymax, zmax, valueOf(type));
     }
 
-    /** Makes this a 2D domain of the box; returns the box the domain keeps. */
+    /**
+     * Makes this a 2D domain of the box; returns the box the domain keeps.
+     *
+     * @param box the box the domain covers; receives the box kept
+     * @param type how the box is fitted
+     * @return the box the domain keeps
+     */
     public SbBox2f setDomain(SbBox2f box, BoundingBoxTypes type) {
         float[] values = box2(box);
         setDomainImpl2(handle(), values, valueOf(type));
         return SbBox2f.fromValue(values);
     }
 
-    /** Makes this a 3D domain of the box; returns the box the domain keeps. */
+    /**
+     * Makes this a 3D domain of the box; returns the box the domain keeps.
+     *
+     * @param box the box the domain covers; receives the box kept
+     * @param type how the box is fitted
+     * @return the box the domain keeps
+     */
     public SbBox3f setDomain(SbBox3f box, BoundingBoxTypes type) {
         float[] values = box3(box);
         setDomainImpl3(handle(), values, valueOf(type));
         return SbBox3f.fromValue(values);
     }
 
-    /** The x and y parts of the domain's box. */
+    /**
+     * The x and y parts of the domain's box.
+     *
+     * @return the x and y parts of the domain's box
+     */
     public SbBox2f get2DDomain() {
         float[] box = new float[4];
         get2DDomainImpl(handle(), box);
         return SbBox2f.fromValue(box);
     }
 
-    /** The domain's box. */
+    /**
+     * The domain's box.
+     *
+     * @return the domain's box
+     */
     public SbBox3f get3DDomain() {
         float[] box = new float[6];
         get3DDomainImpl(handle(), box);
@@ -170,6 +257,8 @@ public class PbDomain extends PbBase {
     /**
      * The matrix that maps the domain's box into the node's space, as 4 rows of 4 floats. Points
      * are row vectors multiplied on the left (p * M), so the translation is in the last row.
+     *
+     * @return the matrix that maps the domain's box into the node's space, as 4 rows of 4 floats
      */
     public float[][] getMatrix() {
         float[] values = new float[16];
@@ -181,11 +270,21 @@ public class PbDomain extends PbBase {
         return rows;
     }
 
+    /**
+     * Sets how the domain's box is mapped into the unit space.
+     *
+     * @param type how the box is mapped
+     * @throws NullPointerException when type is null
+     */
     public void setTransformType(TransformTypes type) {
         setTransformTypeImpl(handle(), notNull(type, "type").getValue());
     }
 
-    /** The transform type, or null for a value outside the enumeration. */
+    /**
+     * The transform type, or null for a value outside the enumeration.
+     *
+     * @return the transform type, or null for a value outside the enumeration
+     */
     public TransformTypes getTransformType() {
         return TransformTypes.fromValue(getTransformTypeImpl(handle()));
     }
@@ -193,17 +292,29 @@ public class PbDomain extends PbBase {
     /**
      * The address of the toolkit's transform matrix of this domain (for native code); it stays
      * valid as long as the domain, which is never freed.
+     *
+     * @return the address of the toolkit's transform matrix of this domain (for native code); it stays valid
+     *     as long as the domain, which is never freed
      */
     public long getMatrixTransformAddress() {
         return getMatrixTransformImpl(handle());
     }
 
-    /** The address of the toolkit's transform of this domain (for native code), or 0 for none. */
+    /**
+     * The address of the toolkit's transform of this domain (for native code), or 0 for none.
+     *
+     * @return the address of the toolkit's transform of this domain (for native code), or 0 for none
+     */
     public long getTransformAddress() {
         return getTransformImpl(handle());
     }
 
-    /** True when the toolkit finds both domains equal (boxes, dimension and transform type). */
+    /**
+     * True when the toolkit finds both domains equal (boxes, dimension and transform type).
+     *
+     * @param other the field to compare with
+     * @return true when the toolkit finds both domains equal (boxes, dimension and transform type)
+     */
     public boolean isEqualTo(PbDomain other) {
         return equalsImpl(handle(), handleOf(other, "other"));
     }

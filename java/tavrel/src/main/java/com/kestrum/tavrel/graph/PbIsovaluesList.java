@@ -37,65 +37,125 @@ public class PbIsovaluesList extends PbBase {
         super(made(ctorImpl()));
     }
 
-    /** A copy of another list, independent of it. */
+    /**
+     * A copy of another list, independent of it.
+     *
+     * @param other the object to copy
+     */
     public PbIsovaluesList(PbIsovaluesList other) {
         super(made(ctorImpl1(handleOf(other, "other"))));
     }
 
-    /** A regular list of num values from min to max. */
+    /**
+     * A regular list of num values from min to max.
+     *
+     * @param min the first isovalue
+     * @param max the last isovalue
+     * @param num the number of elements to use
+     */
     public PbIsovaluesList(float min, float max, int num) {
         super(made(ctorImpl2(min, max, regularCount(num))));
     }
 
-    /** A view of a native list made elsewhere (non-zero handle). */
+    /**
+     * A view of a native list made elsewhere (non-zero handle).
+     *
+     * @param handle the address of the native object
+     */
     protected PbIsovaluesList(long handle) {
         super(handle);
     }
 
-    /** True when the toolkit finds both lists equal (values, bounds, step and regularity). */
+    /**
+     * True when the toolkit finds both lists equal (values, bounds, step and regularity).
+     *
+     * @param other the field to compare with
+     * @return true when the toolkit finds both lists equal (values, bounds, step and regularity)
+     */
     public boolean isEqualTo(PbIsovaluesList other) {
         return equalsImpl(handle(), handleOf(other, "other"));
     }
 
-    /** A regular list of num values over the range of the first numValues values. */
+    /**
+     * A regular list of num values over the range of the first numValues values.
+     *
+     * @param numValues the number of values
+     * @param values the isovalues
+     * @param num the number of elements to use
+     */
     public void setRegularIsoList(int numValues, float[] values, int num) {
         int n = count(numValues, Integer.MAX_VALUE, "numValues");
         setRegularIsoListImpl(handle(), n, length(values, n, "values"), regularCount(num));
     }
 
-    /** A regular list over the range of the first numValues values, with the current count. */
+    /**
+     * A regular list over the range of the first numValues values, with the current count.
+     *
+     * @param numValues the number of values
+     * @param values the isovalues
+     */
     public void setRegularIsoList(int numValues, float[] values) {
         int n = count(numValues, Integer.MAX_VALUE, "numValues");
         setRegularIsoListImpl1(handle(), n, length(values, n, "values"));
     }
 
-    /** A regular list of num values from origin, step apart. */
+    /**
+     * A regular list of num values from origin, step apart.
+     *
+     * @param num the number of elements to use
+     * @param origin the origin
+     * @param step the step between two values
+     */
     public void setRegularIsoList(int num, float origin, float step) {
         setRegularIsoListImpl2(handle(), regularCount(num), origin, step);
     }
 
-    /** A regular list of num values from min to max. */
+    /**
+     * A regular list of num values from min to max.
+     *
+     * @param min the first isovalue
+     * @param max the last isovalue
+     * @param num the number of elements to use
+     */
     public void setRegularIsoList(float min, float max, int num) {
         setRegularIsoListImpl3(handle(), min, max, regularCount(num));
     }
 
-    /** A regular list from min to max with the current count. */
+    /**
+     * A regular list from min to max with the current count.
+     *
+     * @param min the first isovalue
+     * @param max the last isovalue
+     */
     public void setRegularIsoList(float min, float max) {
         setRegularIsoListImpl4(handle(), min, max);
     }
 
-    /** A regular list of num values between the current bounds. */
+    /**
+     * A regular list of num values between the current bounds.
+     *
+     * @param num the number of elements to use
+     */
     public void setRegularIsoList(int num) {
         setRegularIsoListImpl5(handle(), regularCount(num));
     }
 
-    /** An irregular list of the first num values. */
+    /**
+     * An irregular list of the first num values.
+     *
+     * @param num the number of elements to use
+     * @param values the isovalues
+     */
     public void setIrregularIsoList(int num, float[] values) {
         int n = count(num, Integer.MAX_VALUE, "num");
         setIrregularIsoListImpl(handle(), n, length(values, n, "values"));
     }
 
-    /** The list with its description; the values are a copy. */
+    /**
+     * The list with its description; the values are a copy.
+     *
+     * @return the list with its description; the values are a copy
+     */
     public IsoList getIsoList() {
         int[] num = new int[1];
         float[] min = new float[1], max = new float[1], step = new float[1];
@@ -104,7 +164,11 @@ public class PbIsovaluesList extends PbBase {
         return new IsoList(values, min[0], max[0], step[0], regular[0]);
     }
 
-    /** The list's values, without a copy. */
+    /**
+     * The list's values, without a copy.
+     *
+     * @return the list's values, without a copy
+     */
     public FloatBuffer getDirectIsoList() {
         Object buffer = getDirectIsoListImpl(handle(), new int[1], new float[1], new float[1], new float[1],
                 new boolean[1]);

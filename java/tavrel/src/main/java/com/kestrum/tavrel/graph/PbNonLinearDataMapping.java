@@ -14,11 +14,16 @@ public class PbNonLinearDataMapping extends PbDataMapping {
         ManagedObjects.registerWrapper(PbNonLinearDataMapping.class.getName(), PbNonLinearDataMapping::new);
     }
 
+    /** A non-linear mapping made from Java (it gives every value black). */
     public PbNonLinearDataMapping() {
         super(made(ctorImpl()));
     }
 
-    /** A view of a native mapping made elsewhere (non-zero handle). */
+    /**
+     * A view of a native mapping made elsewhere (non-zero handle).
+     *
+     * @param handle the address of the native object
+     */
     protected PbNonLinearDataMapping(long handle) {
         super(handle);
     }

@@ -41,12 +41,21 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Types fromValue(int value) {
             for (Types t : values()) {
                 if (t.value == value) {
@@ -56,7 +65,12 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
             return null;
         }
 
-        /** The number of colours (and transparencies) the type needs for num values. */
+        /**
+         * The number of colours (and transparencies) the type needs for num values.
+         *
+         * @param num the number of elements to use
+         * @return the number of colours (and transparencies) the type needs for num values
+         */
         public long colorCount(int num) {
             return this == NONLINEARPERLEVEL ? num + 1L : num;
         }
@@ -66,21 +80,34 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
         private static native int getLINEARPERLEVELNative();
     }
 
+    /** A list mapping with the toolkit's defaults (no lists). */
     public PbNonLinearDataMapping2() {
         super(made(ctorImpl()));
     }
 
-    /** A copy of another mapping, independent of it. */
+    /**
+     * A copy of another mapping, independent of it.
+     *
+     * @param other the object to copy
+     */
     public PbNonLinearDataMapping2(PbNonLinearDataMapping2 other) {
         super(made(ctorImpl1(handleOf(other, "other"))));
     }
 
-    /** A view of a native mapping made elsewhere (non-zero handle). */
+    /**
+     * A view of a native mapping made elsewhere (non-zero handle).
+     *
+     * @param handle the address of the native object
+     */
     protected PbNonLinearDataMapping2(long handle) {
         super(handle);
     }
 
-    /** The type, or null for a value outside the enumeration. */
+    /**
+     * The type, or null for a value outside the enumeration.
+     *
+     * @return the type, or null for a value outside the enumeration
+     */
     public Types getType() {
         return Types.fromValue(getTypeImpl(handle()));
     }
@@ -89,30 +116,55 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
      * Sets the type, the first num values and the colours the type needs ({@link
      * Types#colorCount}); null colours leave the mapping without colours (every value black).
      * The mapping copies what it reads; it is opaque afterwards.
+     *
+     * @param type how colours are given per level
+     * @param num the number of elements to use
+     * @param values the values
+     * @param colors the colours
      */
     public void setValues(Types type, int num, float[] values, SbColor[] colors) {
         long needed = checkValues(type, num, values);
         setValuesImpl(handle(), type.getValue(), num, values, colors(colors, needed, "colors"));
     }
 
-    /** As {@link #setValues(Types, int, float[], SbColor[])}, with a transparency per colour. */
+    /**
+     * As {@link #setValues(Types, int, float[], SbColor[])}, with a transparency per colour.
+     *
+     * @param type the type
+     * @param num the number of elements to use
+     * @param values the values
+     * @param colors the colours
+     * @param transparency the transparency, from 0 (opaque) to 1
+     */
     public void setValues(Types type, int num, float[] values, SbColor[] colors, float[] transparency) {
         long needed = checkValues(type, num, values);
         setValuesImpl1(handle(), type.getValue(), num, values, colors(colors, needed, "colors"),
                 length(transparency, needed, "transparency"));
     }
 
-    /** A copy of the values list, or null when there is none. */
+    /**
+     * A copy of the values list, or null when there is none.
+     *
+     * @return a copy of the values list, or null when there is none
+     */
     public float[] getValuesList() {
         return getValuesListImpl(handle(), new int[1]);
     }
 
-    /** A copy of the transparency list (colour count elements), or null when there is none. */
+    /**
+     * A copy of the transparency list (colour count elements), or null when there is none.
+     *
+     * @return a copy of the transparency list (colour count elements), or null when there is none
+     */
     public float[] getTransparencyList() {
         return getTransparencyListImpl(handle(), new int[1]);
     }
 
-    /** A copy of the colour list, or null when there is none. */
+    /**
+     * A copy of the colour list, or null when there is none.
+     *
+     * @return a copy of the colour list, or null when there is none
+     */
     public SbColor[] getRGBColorsList() {
         FloatBuffer floats = getDirectRGBColorsList();
         if (floats == null) {
@@ -125,7 +177,11 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
         return colors;
     }
 
-    /** The number of colours (and transparencies) of the mapping. */
+    /**
+     * The number of colours (and transparencies) of the mapping.
+     *
+     * @return the number of colours (and transparencies) of the mapping
+     */
     public int getColorCount() {
         int[] num = new int[1];
         getRGBColorsListImpl(handle(), num);
@@ -135,22 +191,37 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
     /**
      * The address of the mapping's own colour list (colour count times three floats), for native
      * code; 0 when there is none. Valid until the next {@code setValues}.
+     *
+     * @return the address of the mapping's own colour list (colour count times three floats), for native
+     *     code; 0 when there is none
      */
     public long getRGBColorsListAddress() {
         return getRGBColorsListImpl(handle(), new int[1]);
     }
 
-    /** The mapping's values list, without a copy, or null when there is none. */
+    /**
+     * The mapping's values list, without a copy, or null when there is none.
+     *
+     * @return the mapping's values list, without a copy, or null when there is none
+     */
     public FloatBuffer getDirectValuesList() {
         return floats(getDirectValuesListImpl(handle(), new int[1]));
     }
 
-    /** The mapping's colour list, three floats a colour, without a copy, or null. */
+    /**
+     * The mapping's colour list, three floats a colour, without a copy, or null.
+     *
+     * @return the mapping's colour list, three floats a colour, without a copy, or null
+     */
     public FloatBuffer getDirectRGBColorsList() {
         return floats(getDirectRGBColorsListImpl(handle(), new int[1]));
     }
 
-    /** The mapping's transparency list, without a copy, or null when there is none. */
+    /**
+     * The mapping's transparency list, without a copy, or null when there is none.
+     *
+     * @return the mapping's transparency list, without a copy, or null when there is none
+     */
     public FloatBuffer getDirectTransparencyList() {
         return floats(getDirectTransparencyListImpl(handle(), new int[1]));
     }

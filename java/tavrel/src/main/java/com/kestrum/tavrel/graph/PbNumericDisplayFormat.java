@@ -18,8 +18,11 @@ public class PbNumericDisplayFormat extends PbBase {
 
     /** How a number is written. */
     public enum FormatTypes {
+        /** The toolkit's {@code AUTOFORMAT}. */
         AUTOFORMAT(JarInitializer.value(FormatTypes::getAUTOFORMATNative)),
+        /** The toolkit's {@code FLOATFORMAT}. */
         FLOATFORMAT(JarInitializer.value(FormatTypes::getFLOATFORMATNative)),
+        /** The toolkit's {@code INTEGERFORMAT}. */
         INTEGERFORMAT(JarInitializer.value(FormatTypes::getINTEGERFORMATNative));
 
         private final int value;
@@ -28,12 +31,21 @@ public class PbNumericDisplayFormat extends PbBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static FormatTypes fromValue(int value) {
             for (FormatTypes f : values()) {
                 if (f.value == value) {
@@ -53,24 +65,51 @@ public class PbNumericDisplayFormat extends PbBase {
     /** A format as {@link #getFormat} reports it; the type is null for a value outside the enumeration. */
     public record Format(FormatTypes type, int width, int precision) {}
 
+    /**
+     * A numeric format of that type, width and precision.
+     *
+     * @param type how numbers are written
+     * @param width the width the numbers are padded to, at most 64
+     * @param precision the number of digits, at most 16
+     */
     public PbNumericDisplayFormat(FormatTypes type, int width, int precision) {
         super(made(ctorImpl(valueOf(type), width, precision)));
     }
 
-    /** A copy of another format, independent of it. */
+    /**
+     * A copy of another format, independent of it.
+     *
+     * @param other the object to copy
+     */
     public PbNumericDisplayFormat(PbNumericDisplayFormat other) {
         super(made(ctorImpl1(handleOf(other, "other"))));
     }
 
-    /** A view of a native format made elsewhere (non-zero handle). */
+    /**
+     * A view of a native format made elsewhere (non-zero handle).
+     *
+     * @param handle the address of the native object
+     */
     protected PbNumericDisplayFormat(long handle) {
         super(handle);
     }
 
+    /**
+     * Sets the format's type, width and precision.
+     *
+     * @param type how numbers are written
+     * @param width the width the numbers are padded to, at most 64
+     * @param precision the number of digits, at most 16
+     */
     public void setFormat(FormatTypes type, int width, int precision) {
         setFormatImpl(handle(), valueOf(type), width, precision);
     }
 
+    /**
+     * The format's type, width and precision.
+     *
+     * @return the format's type, width and precision
+     */
     public Format getFormat() {
         int[] type = new int[1], width = new int[1], precision = new int[1];
         getFormatImpl(handle(), type, width, precision);

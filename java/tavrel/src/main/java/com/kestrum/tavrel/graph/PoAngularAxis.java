@@ -10,7 +10,9 @@ public class PoAngularAxis extends PoAxis {
 
     /** Whether graduations must fit. */
     public enum GradFits {
+        /** The toolkit's {@code GRADFIT}. */
         GRADFIT(JarInitializer.value(GradFits::getGRADFITNative)),
+        /** The toolkit's {@code GRADUNFIT}. */
         GRADUNFIT(JarInitializer.value(GradFits::getGRADUNFITNative));
 
         private final int value;
@@ -19,12 +21,21 @@ public class PoAngularAxis extends PoAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static GradFits fromValue(int value) {
             for (GradFits c : values()) {
                 if (c.value == value) {
@@ -44,27 +55,51 @@ public class PoAngularAxis extends PoAxis {
         this(ctorImpl());
     }
 
-    /** The circle of that radius around (centreX, centreY), graduated from firstAngle every angleStep degrees. */
+    /**
+     * The circle of that radius around (centreX, centreY), graduated from firstAngle every angleStep degrees.
+     *
+     * @param centreX the x of the centre
+     * @param centreY the y of the centre
+     * @param radius the radius
+     * @param firstAngle the angle of the first graduation, in degrees
+     * @param angleStep the angle between two graduations, in degrees
+     */
     public PoAngularAxis(float centreX, float centreY, float radius, float firstAngle, float angleStep) {
         this(ctorImpl1(centreX, centreY, radius, firstAngle, angleStep));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoAngularAxis(long handle) {
         super(handle);
     }
 
-    /** The angle between two graduations, in degrees. */
+    /**
+     * The angle between two graduations, in degrees.
+     *
+     * @return the angle between two graduations, in degrees
+     */
     public float getAngleStep() {
         return getAngleStepImpl(handle());
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -30,12 +30,21 @@ public class PoArrow3 extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static PatternTypes fromValue(int value) {
             for (PatternTypes c : values()) {
                 if (c.value == value) {
@@ -76,23 +85,44 @@ public class PoArrow3 extends PoQuorvex {
                 length));
     }
 
-    /** As {@link #PoArrow3(int, SbVec3f[], PatternTypes, PatternTypes, float, float)} along all the points. */
+    /**
+     * As {@link #PoArrow3(int, SbVec3f[], PatternTypes, PatternTypes, float, float)} along all the points.
+     *
+     * @param points the points
+     * @param startPattern the pattern at the first point
+     * @param endPattern the pattern at the last point
+     * @param width the width of the arrow's patterns
+     * @param length the length
+     * @return the arrow
+     */
     public static PoArrow3 along(SbVec3f[] points, PatternTypes startPattern, PatternTypes endPattern, float width,
             float length) {
         return new PoArrow3(notNull(points, "points").length, points, startPattern, endPattern, width, length);
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoArrow3(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -16,8 +16,11 @@ public abstract class PoAxis extends PoBase {
 
     /** Whether a part of the axis is drawn. */
     public enum Visibilities {
+        /** The toolkit's {@code VISIBILITYOFF}. */
         VISIBILITYOFF(JarInitializer.value(Visibilities::getVISIBILITYOFFNative)),
+        /** The toolkit's {@code VISIBILITYON}. */
         VISIBILITYON(JarInitializer.value(Visibilities::getVISIBILITYONNative)),
+        /** The toolkit's {@code VISIBILITYDEPEND}. */
         VISIBILITYDEPEND(JarInitializer.value(Visibilities::getVISIBILITYDEPENDNative));
 
         private final int value;
@@ -26,12 +29,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Visibilities fromValue(int value) {
             for (Visibilities c : values()) {
                 if (c.value == value) {
@@ -50,10 +62,15 @@ public abstract class PoAxis extends PoBase {
 
     /** The direction in which text is written. */
     public enum TextPaths {
+        /** The toolkit's {@code PATHRIGHT}. */
         PATHRIGHT(JarInitializer.value(TextPaths::getPATHRIGHTNative)),
+        /** The toolkit's {@code PATHLEFT}. */
         PATHLEFT(JarInitializer.value(TextPaths::getPATHLEFTNative)),
+        /** The toolkit's {@code PATHUP}. */
         PATHUP(JarInitializer.value(TextPaths::getPATHUPNative)),
+        /** The toolkit's {@code PATHDOWN}. */
         PATHDOWN(JarInitializer.value(TextPaths::getPATHDOWNNative)),
+        /** The toolkit's {@code PATHDEPEND}. */
         PATHDEPEND(JarInitializer.value(TextPaths::getPATHDEPENDNative));
 
         private final int value;
@@ -62,12 +79,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TextPaths fromValue(int value) {
             for (TextPaths c : values()) {
                 if (c.value == value) {
@@ -90,8 +116,11 @@ public abstract class PoAxis extends PoBase {
 
     /** Which side of the axis the graduations are on. */
     public enum GradPositions {
+        /** The toolkit's {@code GRADABOVE}. */
         GRADABOVE(JarInitializer.value(GradPositions::getGRADABOVENative)),
+        /** The toolkit's {@code GRADBELOW}. */
         GRADBELOW(JarInitializer.value(GradPositions::getGRADBELOWNative)),
+        /** The toolkit's {@code GRADDEPEND}. */
         GRADDEPEND(JarInitializer.value(GradPositions::getGRADDEPENDNative));
 
         private final int value;
@@ -100,12 +129,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static GradPositions fromValue(int value) {
             for (GradPositions c : values()) {
                 if (c.value == value) {
@@ -124,7 +162,9 @@ public abstract class PoAxis extends PoBase {
 
     /** How the margins are measured. */
     public enum MarginTypes {
+        /** The toolkit's {@code RELMARGIN}. */
         RELMARGIN(JarInitializer.value(MarginTypes::getRELMARGINNative)),
+        /** The toolkit's {@code FIXEDMARGIN}. */
         FIXEDMARGIN(JarInitializer.value(MarginTypes::getFIXEDMARGINNative));
 
         private final int value;
@@ -133,12 +173,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static MarginTypes fromValue(int value) {
             for (MarginTypes c : values()) {
                 if (c.value == value) {
@@ -155,8 +204,11 @@ public abstract class PoAxis extends PoBase {
 
     /** Where the ticks are drawn. */
     public enum TickPositions {
+        /** The toolkit's {@code TICKGRADSIDE}. */
         TICKGRADSIDE(JarInitializer.value(TickPositions::getTICKGRADSIDENative)),
+        /** The toolkit's {@code TICKGRADOTHERSIDE}. */
         TICKGRADOTHERSIDE(JarInitializer.value(TickPositions::getTICKGRADOTHERSIDENative)),
+        /** The toolkit's {@code TICKACROSSAXIS}. */
         TICKACROSSAXIS(JarInitializer.value(TickPositions::getTICKACROSSAXISNative));
 
         private final int value;
@@ -165,12 +217,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TickPositions fromValue(int value) {
             for (TickPositions c : values()) {
                 if (c.value == value) {
@@ -189,8 +250,11 @@ public abstract class PoAxis extends PoBase {
 
     /** Where the title is along the axis. */
     public enum TitlePositions {
+        /** The toolkit's {@code TITLEMIDDLE}. */
         TITLEMIDDLE(JarInitializer.value(TitlePositions::getTITLEMIDDLENative)),
+        /** The toolkit's {@code TITLEEND}. */
         TITLEEND(JarInitializer.value(TitlePositions::getTITLEENDNative)),
+        /** The toolkit's {@code TITLEDEPEND}. */
         TITLEDEPEND(JarInitializer.value(TitlePositions::getTITLEDEPENDNative));
 
         private final int value;
@@ -199,12 +263,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TitlePositions fromValue(int value) {
             for (TitlePositions c : values()) {
                 if (c.value == value) {
@@ -223,7 +296,9 @@ public abstract class PoAxis extends PoBase {
 
     /** How sub-ticks are counted. */
     public enum TickSubDefs {
+        /** The toolkit's {@code NUMSUBTICK}. */
         NUMSUBTICK(JarInitializer.value(TickSubDefs::getNUMSUBTICKNative)),
+        /** The toolkit's {@code PERIODMAINTICK}. */
         PERIODMAINTICK(JarInitializer.value(TickSubDefs::getPERIODMAINTICKNative));
 
         private final int value;
@@ -232,12 +307,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TickSubDefs fromValue(int value) {
             for (TickSubDefs c : values()) {
                 if (c.value == value) {
@@ -254,8 +338,11 @@ public abstract class PoAxis extends PoBase {
 
     /** Whether the values decrease along the axis. */
     public enum AxisReverses {
+        /** The toolkit's {@code AXISNOREVERSE}. */
         AXISNOREVERSE(JarInitializer.value(AxisReverses::getAXISNOREVERSENative)),
+        /** The toolkit's {@code AXISREVERSE}. */
         AXISREVERSE(JarInitializer.value(AxisReverses::getAXISREVERSENative)),
+        /** The toolkit's {@code AXISREVERSEDEPEND}. */
         AXISREVERSEDEPEND(JarInitializer.value(AxisReverses::getAXISREVERSEDEPENDNative));
 
         private final int value;
@@ -264,12 +351,21 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static AxisReverses fromValue(int value) {
             for (AxisReverses c : values()) {
                 if (c.value == value) {
@@ -286,7 +382,11 @@ public abstract class PoAxis extends PoBase {
         private static native int getAXISREVERSEDEPENDNative();
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoAxis(long handle) {
         super(handle);
     }
@@ -297,7 +397,11 @@ public abstract class PoAxis extends PoBase {
      */
     public record Grad(Visibilities visibility, GradPositions position, TextPaths path, String labels, float first,
             float last, boolean current, String fontName) {
-        /** The labels, one a graduation (empty when there are none). */
+        /**
+         * The labels, one a graduation (empty when there are none).
+         *
+         * @return the labels, one a graduation (empty when there are none)
+         */
         public List<String> labelList() {
             return labels.isEmpty() ? List.of() : List.of(labels.split("\n", -1));
         }
@@ -311,6 +415,13 @@ public abstract class PoAxis extends PoBase {
     public record Tick(Visibilities visibility, TickPositions position, float mainLength, float subLength,
             TickSubDefs subDef, int mainTicks, int subTicks, int firstTick) {}
 
+    /**
+     * The margins at the axis's ends.
+     *
+     * @param type how the margins are read
+     * @param start the margin at the start
+     * @param end the margin at the end
+     */
     public record Margin(MarginTypes type, float start, float end) {}
 
     /** The grid or arrow settings: a visibility and two lengths. */
@@ -321,6 +432,8 @@ public abstract class PoAxis extends PoBase {
     /**
      * Sets the text attributes of the axis's text; null for none. A change of the node. The node
      * keeps the object's address, so this object keeps the Java object as long as it is set.
+     *
+     * @param attr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr attr) {
         long address = handleOrZero(attr, "attr");
@@ -328,16 +441,31 @@ public abstract class PoAxis extends PoBase {
         rebuilding(h -> setMiscTextAttrImpl(h, address));
     }
 
-    /** The text attributes, or null: the Java object set earlier, else a view of the address. */
+    /**
+     * The text attributes, or null: the Java object set earlier, else a view of the address.
+     *
+     * @return the text attributes, or null: the Java object set earlier, else a view of the address
+     */
     public PbMiscTextAttr getMiscTextAttr() {
         return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), textAttr);
     }
 
-    /** Whether the values decrease along the axis; null for a value outside the enumeration. */
+    /**
+     * Whether the values decrease along the axis; null for a value outside the enumeration.
+     *
+     * @return whether the values decrease along the axis; null for a value outside the enumeration
+     */
     public AxisReverses getReverseFlag() {
         return AxisReverses.fromValue(getReverseFlagImpl(handle()));
     }
 
+    /**
+     * The graduations of the axis's last build: the labels as one text, a line a graduation, the first and
+     * last values, and whether they are current.
+     *
+     * @return the graduations of the axis's last build: the labels as one text, a line a graduation, the
+     *     first and last values, and whether they are current
+     */
     public Grad getGrad() {
         int[] visibility = new int[1], position = new int[1], path = new int[1];
         String[] labels = new String[1], font = new String[1];
@@ -348,11 +476,20 @@ public abstract class PoAxis extends PoBase {
                 TextPaths.fromValue(path[0]), labels[0], first[0], last[0], current[0], font[0]);
     }
 
-    /** The labels of the graduations of the last build, in the order the axis runs. */
+    /**
+     * The labels of the graduations of the last build, in the order the axis runs.
+     *
+     * @return the labels of the graduations of the last build, in the order the axis runs
+     */
     public List<String> getGraduations() {
         return getGrad().labelList();
     }
 
+    /**
+     * The axis's title settings.
+     *
+     * @return the axis's title settings
+     */
     public Title getTitle() {
         int[] visibility = new int[1], position = new int[1], path = new int[1];
         String[] title = new String[1], font = new String[1];
@@ -362,6 +499,11 @@ public abstract class PoAxis extends PoBase {
                 TextPaths.fromValue(path[0]), title[0], start[0], end[0], font[0]);
     }
 
+    /**
+     * The axis's tick settings.
+     *
+     * @return the axis's tick settings
+     */
     public Tick getTick() {
         int[] visibility = new int[1], position = new int[1], subDef = new int[1];
         float[] mainLength = new float[1], subLength = new float[1];
@@ -372,6 +514,11 @@ public abstract class PoAxis extends PoBase {
                 Short.toUnsignedInt(sub[0]), Short.toUnsignedInt(first[0]));
     }
 
+    /**
+     * The axis's margin settings.
+     *
+     * @return the axis's margin settings
+     */
     public Margin getMargin() {
         int[] type = new int[1];
         float[] start = new float[1], end = new float[1];
@@ -379,6 +526,11 @@ public abstract class PoAxis extends PoBase {
         return new Margin(MarginTypes.fromValue(type[0]), start[0], end[0]);
     }
 
+    /**
+     * The axis's grid settings.
+     *
+     * @return the axis's grid settings
+     */
     public Lines getGrid() {
         int[] visibility = new int[1];
         float[] a = new float[1], b = new float[1];
@@ -386,6 +538,11 @@ public abstract class PoAxis extends PoBase {
         return new Lines(Visibilities.fromValue(visibility[0]), a[0], b[0]);
     }
 
+    /**
+     * The axis's arrow settings.
+     *
+     * @return the axis's arrow settings
+     */
     public Lines getArrow() {
         int[] visibility = new int[1];
         float[] a = new float[1], b = new float[1];
@@ -393,12 +550,20 @@ public abstract class PoAxis extends PoBase {
         return new Lines(Visibilities.fromValue(visibility[0]), a[0], b[0]);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

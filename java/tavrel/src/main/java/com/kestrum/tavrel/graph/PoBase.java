@@ -56,12 +56,21 @@ public abstract class PoBase extends SoBaseKit {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static UpdateMethodTypes fromValue(int value) {
             for (UpdateMethodTypes u : values()) {
                 if (u.value == value) {
@@ -78,7 +87,9 @@ public abstract class PoBase extends SoBaseKit {
 
     /** How graph nodes are written to files. */
     public enum NodeWriteFormats {
+        /** The toolkit's {@code FOLDNODEWRITEFORMAT}. */
         FOLDNODEWRITEFORMAT(JarInitializer.value(NodeWriteFormats::getFOLDNODEWRITEFORMATNative)),
+        /** The toolkit's {@code UNFOLDNODEWRITEFORMAT}. */
         UNFOLDNODEWRITEFORMAT(JarInitializer.value(NodeWriteFormats::getUNFOLDNODEWRITEFORMATNative));
 
         private final int value;
@@ -87,12 +98,21 @@ public abstract class PoBase extends SoBaseKit {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static NodeWriteFormats fromValue(int value) {
             for (NodeWriteFormats f : values()) {
                 if (f.value == value) {
@@ -109,7 +129,9 @@ public abstract class PoBase extends SoBaseKit {
 
     /** The kind of text node the graph nodes build. */
     public enum TextTypes {
+        /** The toolkit's {@code SOTEXT3}. */
         SOTEXT3(JarInitializer.value(TextTypes::getSOTEXT3Native)),
+        /** The toolkit's {@code SOANNOTEXT3}. */
         SOANNOTEXT3(JarInitializer.value(TextTypes::getSOANNOTEXT3Native));
 
         private final int value;
@@ -118,12 +140,21 @@ public abstract class PoBase extends SoBaseKit {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TextTypes fromValue(int value) {
             for (TextTypes t : values()) {
                 if (t.value == value) {
@@ -152,7 +183,11 @@ public abstract class PoBase extends SoBaseKit {
     private final List<PoRebuildCB> preCallbacks = new ArrayList<>();
     private final List<PoRebuildCB> postCallbacks = new ArrayList<>();
 
-    /** A Java object for the native graph node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native graph node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoBase(long handle) {
         super(handle);
         registerAsPeer(false);
@@ -162,6 +197,9 @@ public abstract class PoBase extends SoBaseKit {
      * The graph node that a node object stands for: the node itself when it is a {@code PoBase},
      * else the registered Java object of its native node or a new view of it; null for null.
      *
+     * @param node any node object
+     * @return the graph node that a node object stands for: the node itself when it is a {@code PoBase}, else
+     *     the registered Java object of its native node or a new view of it; null for null
      * @throws IllegalArgumentException when the node is not a graph node
      */
     public static PoBase of(SoNode node) {
@@ -180,6 +218,10 @@ public abstract class PoBase extends SoBaseKit {
      * arguments), made by the toolkit as it makes nodes it reads from a file; the Java object
      * returned holds the only reference on it. Null when the toolkit makes no node of that name.
      *
+     * @param typeName the name of the toolkit type
+     * @return a new graph node of the toolkit type of that name (a class with a constructor without
+     *     arguments), made by the toolkit as it makes nodes it reads from a file; the Java object returned
+     *     holds the only reference on it
      * @throws IllegalArgumentException when the type is not a graph node type
      */
     public static PoBase createInstance(String typeName) {
@@ -194,63 +236,115 @@ public abstract class PoBase extends SoBaseKit {
         }
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
 
     // --- process-wide values -------------------------------------------------------------
 
-    /** Sets how every graph node is written to files. */
+    /**
+     * Sets how every graph node is written to files.
+     *
+     * @param format how graph nodes are written
+     */
     public static void setNodeWriteFormat(NodeWriteFormats format) {
         setNodeWriteFormatImpl(notNull(format, "format").getValue());
     }
 
-    /** How graph nodes are written to files, or null for a value outside the enumeration. */
+    /**
+     * How graph nodes are written to files, or null for a value outside the enumeration.
+     *
+     * @return how graph nodes are written to files, or null for a value outside the enumeration
+     */
     public static NodeWriteFormats getNodeWriteFormat() {
         return NodeWriteFormats.fromValue(getNodeWriteFormatImpl());
     }
 
-    /** Sets the kind of text node that every graph node builds. */
+    /**
+     * Sets the kind of text node that every graph node builds.
+     *
+     * @param type the text type
+     */
     public static void setTextType(TextTypes type) {
         setTextTypeImpl(notNull(type, "type").getValue());
     }
 
-    /** The kind of text node graph nodes build, or null for a value outside the enumeration. */
+    /**
+     * The kind of text node graph nodes build, or null for a value outside the enumeration.
+     *
+     * @return the kind of text node graph nodes build, or null for a value outside the enumeration
+     */
     public static TextTypes getTextType() {
         return TextTypes.fromValue(getTextTypeImpl());
     }
 
+    /**
+     * Sets whether graph nodes are written in VRML2 mode (a process-wide value).
+     *
+     * @param flag true for VRML2 mode
+     */
     public static void setVRML2Mode(boolean flag) {
         setVRML2ModeImpl(flag);
     }
 
+    /**
+     * Whether graph nodes are written in VRML2 mode (a process-wide value).
+     *
+     * @return whether graph nodes are written in VRML2 mode (a process-wide value)
+     */
     public static boolean isVRML2Mode() {
         return isVRML2ModeImpl();
     }
 
     // --- the node ------------------------------------------------------------------------
 
+    /**
+     * Sets when a change rebuilds the node: at once, or at its next traversal.
+     *
+     * @param method when a change rebuilds the node
+     * @throws NullPointerException when method is null
+     */
     public void setUpdateMethod(UpdateMethodTypes method) {
         setUpdateMethodImpl(handle(), notNull(method, "method").getValue());
     }
 
-    /** The update method, or null for a value outside the enumeration. */
+    /**
+     * The update method, or null for a value outside the enumeration.
+     *
+     * @return the update method, or null for a value outside the enumeration
+     */
     public UpdateMethodTypes getUpdateMethod() {
         return UpdateMethodTypes.fromValue(getUpdateMethodImpl(handle()));
     }
 
-    /** True when the node has changed since it was last built. */
+    /**
+     * True when the node has changed since it was last built.
+     *
+     * @return true when the node has changed since it was last built
+     */
     public boolean isModified() {
         return isModifiedImpl(handle());
     }
 
-    /** True once the node has been built. */
+    /**
+     * True once the node has been built.
+     *
+     * @return true once the node has been built
+     */
     public boolean isBuilt() {
         return isBuiltImpl(handle());
     }
@@ -260,6 +354,8 @@ public abstract class PoBase extends SoBaseKit {
      *
      * <p>The node keeps the domain's address, not a copy: later changes of the domain reach it.
      * This object keeps the Java object as long as it is set.
+     *
+     * @param domain the domain, or null for none
      */
     public void setDomain(PbDomain domain) {
         long address = handleOrZero(domain, "domain");
@@ -270,6 +366,9 @@ public abstract class PoBase extends SoBaseKit {
     /**
      * The node's domain, or null for none: the Java object set earlier while the node still holds
      * its address, else the registered Java object of that address, else a new view of it.
+     *
+     * @return the node's domain, or null for none: the Java object set earlier while the node still holds its
+     *     address, else the registered Java object of that address, else a new view of it
      */
     public PbDomain getDomain() {
         return JavaViews.find(PbDomain.class, getDomainImpl(handle()), domain);
@@ -292,6 +391,9 @@ public abstract class PoBase extends SoBaseKit {
      * listener receives. Null gives the toolkit a null function and null data, which remove the
      * node's pre-rebuild callbacks; this object then stops keeping its pre-rebuild callback
      * objects.
+     *
+     * @param callback the callback object, or null for none
+     * @param userData the user data handed to the callback object with each event
      */
     public void addPreRebuildCallback(PoRebuildCB callback, Object userData) {
         long bridge = handleOrZero(callback, "callback");
@@ -299,7 +401,12 @@ public abstract class PoBase extends SoBaseKit {
         keep(preCallbacks, callback);
     }
 
-    /** As {@link #addPreRebuildCallback}, for the events after each rebuild. */
+    /**
+     * As {@link #addPreRebuildCallback}, for the events after each rebuild.
+     *
+     * @param callback the callback object, or null for none
+     * @param userData the user data handed to the callback object with each event
+     */
     public void addPostRebuildCallback(PoRebuildCB callback, Object userData) {
         long bridge = handleOrZero(callback, "callback");
         addPostRebuildCallbackImpl(handle(), callback, userData, bridge);
@@ -309,6 +416,9 @@ public abstract class PoBase extends SoBaseKit {
     /**
      * Calls the listener before each rebuild of the node; returns the callback object made for it
      * (registered and kept like those of {@link #addPreRebuildCallback}).
+     *
+     * @param listener the listener
+     * @return the callback object made for the listener
      */
     public PoRebuildCB addPreRebuildListener(RebuildListener listener) {
         PoRebuildCB callback = callbackFor(listener);
@@ -316,7 +426,12 @@ public abstract class PoBase extends SoBaseKit {
         return callback;
     }
 
-    /** Calls the listener after each rebuild of the node; see {@link #addPreRebuildListener}. */
+    /**
+     * Calls the listener after each rebuild of the node; see {@link #addPreRebuildListener}.
+     *
+     * @param listener the listener
+     * @return the callback object made for the listener
+     */
     public PoRebuildCB addPostRebuildListener(RebuildListener listener) {
         PoRebuildCB callback = callbackFor(listener);
         addPostRebuildCallback(callback, null);
@@ -343,6 +458,8 @@ public abstract class PoBase extends SoBaseKit {
      * Runs a native call with the node's handle during which the node may be rebuilt, and so call
      * Java, holding the node: disposing it from a listener frees the native node only when the
      * call returns. (The traversals of {@link SoNode} hold their node the same way.)
+     *
+     * @param call the native call, given the receiver's handle
      */
     protected final void rebuilding(LongConsumer call) {
         long h = enter();

@@ -31,12 +31,21 @@ public class PoBiErrorPointField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static VariationTypes fromValue(int value) {
             for (VariationTypes c : values()) {
                 if (c.value == value) {
@@ -64,6 +73,15 @@ public class PoBiErrorPointField extends PoQuorvex {
      * Error points at the first num points with the first num errors of each list; flag1 and
      * flag2 reach the toolkit as given.
      *
+     * @param num the number of elements to use
+     * @param points the points
+     * @param xLow the error below each point along x
+     * @param xHigh the error above each point along x
+     * @param yLow the error below each point along y
+     * @param yHigh the error above each point along y
+     * @param variationType how the variations are read
+     * @param flag1 whether the x errors are drawn
+     * @param flag2 whether the y errors are drawn
      * @throws IllegalArgumentException when num is negative or more than the points or a list
      * @throws NullPointerException when an argument or a point is null
      */
@@ -74,12 +92,20 @@ public class PoBiErrorPointField extends PoQuorvex {
                 Checks.length(yHigh, num, "yHigh"), notNull(variationType, "variationType").getValue(), flag1, flag2));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

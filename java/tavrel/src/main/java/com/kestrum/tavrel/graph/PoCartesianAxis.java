@@ -10,11 +10,17 @@ public abstract class PoCartesianAxis extends PoAxis {
 
     /** The direction of the axis and the side of its graduations. */
     public enum Types {
+        /** The toolkit's {@code XY}. */
         XY(JarInitializer.value(Types::getXYNative)),
+        /** The toolkit's {@code XZ}. */
         XZ(JarInitializer.value(Types::getXZNative)),
+        /** The toolkit's {@code YX}. */
         YX(JarInitializer.value(Types::getYXNative)),
+        /** The toolkit's {@code YZ}. */
         YZ(JarInitializer.value(Types::getYZNative)),
+        /** The toolkit's {@code ZX}. */
         ZX(JarInitializer.value(Types::getZXNative)),
+        /** The toolkit's {@code ZY}. */
         ZY(JarInitializer.value(Types::getZYNative));
 
         private final int value;
@@ -23,12 +29,21 @@ public abstract class PoCartesianAxis extends PoAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Types fromValue(int value) {
             for (Types c : values()) {
                 if (c.value == value) {
@@ -51,17 +66,29 @@ public abstract class PoCartesianAxis extends PoAxis {
         private static native int getZYNative();
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoCartesianAxis(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -35,12 +35,21 @@ public class PoCurve extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static FilterTypes fromValue(int value) {
             for (FilterTypes c : values()) {
                 if (c.value == value) {
@@ -90,12 +99,21 @@ public class PoCurve extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static CurveReps fromValue(int value) {
             for (CurveReps c : values()) {
                 if (c.value == value) {
@@ -132,6 +150,9 @@ public class PoCurve extends PoQuorvex {
     /**
      * A curve through the first numPoints of the points, drawn as curveRep says.
      *
+     * @param numPoints the number of points
+     * @param points the points
+     * @param curveRep how the curve is drawn
      * @throws IllegalArgumentException when numPoints is negative or more than the points
      * @throws NullPointerException when points, one of them or curveRep is null
      */
@@ -143,6 +164,8 @@ public class PoCurve extends PoQuorvex {
     /**
      * A curve through the points given as x, y pairs, drawn as curveRep says.
      *
+     * @param xy the points as x, y pairs
+     * @param curveRep how the curve is drawn
      * @throws IllegalArgumentException when xy has an odd length
      */
     public PoCurve(float[] xy, CurveReps curveRep) {
@@ -153,12 +176,20 @@ public class PoCurve extends PoQuorvex {
         this(points.length, points, curveRep);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -29,12 +29,21 @@ public class PoCurve3 extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static CurveReps fromValue(int value) {
             for (CurveReps c : values()) {
                 if (c.value == value) {
@@ -59,6 +68,9 @@ public class PoCurve3 extends PoQuorvex {
     /**
      * A curve through the first numPoints of the points, drawn as curveRep says.
      *
+     * @param numPoints the number of points
+     * @param points the points
+     * @param curveRep how the curve is drawn
      * @throws IllegalArgumentException when numPoints is negative or more than the points
      * @throws NullPointerException when points, one of them or curveRep is null
      */
@@ -70,6 +82,8 @@ public class PoCurve3 extends PoQuorvex {
     /**
      * A curve through the points given as x, y, z triples, drawn as curveRep says.
      *
+     * @param xyz the points as x, y, z triples
+     * @param curveRep how the curve is drawn
      * @throws IllegalArgumentException when the length of xyz is not a multiple of 3
      */
     public PoCurve3(float[] xyz, CurveReps curveRep) {
@@ -80,12 +94,20 @@ public class PoCurve3 extends PoQuorvex {
         this(points.length, points, curveRep);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

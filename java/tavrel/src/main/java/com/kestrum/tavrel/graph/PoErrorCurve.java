@@ -31,12 +31,21 @@ public class PoErrorCurve extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static VariationTypes fromValue(int value) {
             for (VariationTypes c : values()) {
                 if (c.value == value) {
@@ -70,12 +79,21 @@ public class PoErrorCurve extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static ErrorCurveReps fromValue(int value) {
             for (ErrorCurveReps c : values()) {
                 if (c.value == value) {
@@ -101,6 +119,12 @@ public class PoErrorCurve extends PoQuorvex {
      * An error curve through the first numPoints of the points, with the first numPoints of each
      * variation list.
      *
+     * @param numPoints the number of points
+     * @param points the points
+     * @param lowVariation the variation below each point
+     * @param highVariation the variation above each point
+     * @param variationType how the variations are read
+     * @param errorCurveRep how the errors are drawn
      * @throws IllegalArgumentException when numPoints is negative or more than the points or a list
      * @throws NullPointerException when an array, a point or an enumeration is null
      */
@@ -116,6 +140,11 @@ public class PoErrorCurve extends PoQuorvex {
     /**
      * An error curve through the points given as x, y pairs, one variation of each list a point.
      *
+     * @param xy the points as x, y pairs
+     * @param lowVariation the variation below each point
+     * @param highVariation the variation above each point
+     * @param variationType how the variations are read
+     * @param errorCurveRep how the errors are drawn
      * @throws IllegalArgumentException when xy has an odd length or a list is too short
      */
     public PoErrorCurve(float[] xy, float[] lowVariation, float[] highVariation, VariationTypes variationType,
@@ -128,12 +157,20 @@ public class PoErrorCurve extends PoQuorvex {
         this(points.length, points, lowVariation, highVariation, variationType, errorCurveRep);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

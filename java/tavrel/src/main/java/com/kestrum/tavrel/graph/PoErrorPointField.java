@@ -31,12 +31,21 @@ public class PoErrorPointField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static ShapeTypes fromValue(int value) {
             for (ShapeTypes c : values()) {
                 if (c.value == value) {
@@ -74,12 +83,21 @@ public class PoErrorPointField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static SkeletonTypes fromValue(int value) {
             for (SkeletonTypes c : values()) {
                 if (c.value == value) {
@@ -108,6 +126,12 @@ public class PoErrorPointField extends PoQuorvex {
     /**
      * Error points at the first num points with the first num errors of each list.
      *
+     * @param num the number of elements to use
+     * @param points the points
+     * @param xErrors the error of each point along x
+     * @param yErrors the error of each point along y
+     * @param shape the shape drawn at each point
+     * @param skeleton whether only the outline of the shapes is drawn
      * @throws IllegalArgumentException when num is negative or more than the points or a list
      * @throws NullPointerException when an argument or a point is null
      */
@@ -118,12 +142,20 @@ public class PoErrorPointField extends PoQuorvex {
                 notNull(shape, "shape").getValue(), notNull(skeleton, "skeleton").getValue()));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

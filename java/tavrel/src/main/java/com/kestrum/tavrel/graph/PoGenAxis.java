@@ -20,13 +20,22 @@ public class PoGenAxis extends PoCartesianAxis {
     /**
      * An axis from start along the direction of its type to the coordinate end, with those
      * graduations (at most 32,767, none null).
+     *
+     * @param start the start point
+     * @param end the coordinate of the axis's end along its direction
+     * @param type the axis's plane and direction
+     * @param grads the graduations' texts
      */
     public PoGenAxis(SbVec3f start, float end, PoCartesianAxis.Types type, String[] grads) {
         this(ctorImpl1(PoLinearAxis.point(start, "start"), end, PoLinearAxis.value(type), labels(grads),
                 grads.length));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoGenAxis(long handle) {
         super(handle);
     }
@@ -40,12 +49,20 @@ public class PoGenAxis extends PoCartesianAxis {
         return grads;
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

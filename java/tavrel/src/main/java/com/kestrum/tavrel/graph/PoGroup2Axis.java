@@ -13,7 +13,9 @@ public class PoGroup2Axis extends PoBaseAxis {
 
     /** The kind of each axis. */
     public enum AxisTypes {
+        /** The toolkit's {@code LINEAR}. */
         LINEAR(JarInitializer.value(AxisTypes::getLINEARNative)),
+        /** The toolkit's {@code LOGARITHMIC}. */
         LOGARITHMIC(JarInitializer.value(AxisTypes::getLOGARITHMICNative));
 
         private final int value;
@@ -22,12 +24,21 @@ public class PoGroup2Axis extends PoBaseAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static AxisTypes fromValue(int value) {
             for (AxisTypes c : values()) {
                 if (c.value == value) {
@@ -47,23 +58,44 @@ public class PoGroup2Axis extends PoBaseAxis {
         this(ctorImpl());
     }
 
-    /** The group from the corner start to the corner end, with the kinds and titles of its axes. */
+    /**
+     * The group from the corner start to the corner end, with the kinds and titles of its axes.
+     *
+     * @param start the start point
+     * @param end the end point
+     * @param xType the type of the x axis
+     * @param yType the type of the y axis
+     * @param xTitle the title of the x axis
+     * @param yTitle the title of the y axis
+     */
     public PoGroup2Axis(SbVec2f start, SbVec2f end, AxisTypes xType, AxisTypes yType, String xTitle, String yTitle) {
         this(ctorImpl1(notNull(start, "start").getValue(), notNull(end, "end").getValue(), notNull(xType, "xType").getValue(), notNull(yType, "yType").getValue(),
                 notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle")));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoGroup2Axis(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -26,12 +26,21 @@ public class PoHighLowClose extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static HorCloseBarPositions fromValue(int value) {
             for (HorCloseBarPositions c : values()) {
                 if (c.value == value) {
@@ -56,6 +65,11 @@ public class PoHighLowClose extends PoQuorvex {
     /**
      * A chart of the first num values of each list.
      *
+     * @param num the number of elements to use
+     * @param x the x coordinates
+     * @param high the high value of each point
+     * @param low the low value of each point
+     * @param close the closing value of each point
      * @throws IllegalArgumentException when num is negative or more than a list
      * @throws NullPointerException when a list is null
      */
@@ -65,12 +79,20 @@ public class PoHighLowClose extends PoQuorvex {
                 Checks.length(low, num, "low"), Checks.length(close, num, "close")));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -22,12 +22,21 @@ public abstract class PoHistogram extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Types fromValue(int value) {
             for (Types c : values()) {
                 if (c.value == value) {
@@ -71,12 +80,21 @@ public abstract class PoHistogram extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Positions fromValue(int value) {
             for (Positions c : values()) {
                 if (c.value == value) {
@@ -120,12 +138,21 @@ public abstract class PoHistogram extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Visibilities fromValue(int value) {
             for (Visibilities c : values()) {
                 if (c.value == value) {
@@ -159,12 +186,21 @@ public abstract class PoHistogram extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TextPaths fromValue(int value) {
             for (TextPaths c : values()) {
                 if (c.value == value) {
@@ -198,12 +234,21 @@ public abstract class PoHistogram extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static BarSpaceTypes fromValue(int value) {
             for (BarSpaceTypes c : values()) {
                 if (c.value == value) {
@@ -231,12 +276,21 @@ public abstract class PoHistogram extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Colorings fromValue(int value) {
             for (Colorings c : values()) {
                 if (c.value == value) {
@@ -255,7 +309,11 @@ public abstract class PoHistogram extends PoChart {
     private PbDataMapping dataMapping;
     private PbNumericDisplayFormat format;
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoHistogram(long handle) {
         super(handle);
     }
@@ -265,6 +323,8 @@ public abstract class PoHistogram extends PoChart {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
         setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
@@ -275,6 +335,9 @@ public abstract class PoHistogram extends PoChart {
      * The text attributes of the bars' texts, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the text attributes of the bars' texts, or null for none: the Java object set earlier while the
+     *     node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbMiscTextAttr getMiscTextAttr() {
         return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
@@ -285,6 +348,8 @@ public abstract class PoHistogram extends PoChart {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
         setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
@@ -295,6 +360,9 @@ public abstract class PoHistogram extends PoChart {
      * The data mapping that colours the bars, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the data mapping that colours the bars, or null for none: the Java object set earlier while the
+     *     node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbDataMapping getDataMapping() {
         return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
@@ -305,6 +373,8 @@ public abstract class PoHistogram extends PoChart {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
         setFormatImpl(handle(), handleOrZero(format, "format"));
@@ -315,17 +385,28 @@ public abstract class PoHistogram extends PoChart {
      * The numeric format of the bars' values, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the numeric format of the bars' values, or null for none: the Java object set earlier while the
+     *     node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -24,6 +24,11 @@ public class PoItemLegend extends PoLegend {
      * A legend of the first numItems names and colours between the corners; null colours give
      * items without a colour.
      *
+     * @param corner1 one corner of the legend
+     * @param corner2 the opposite corner of the legend
+     * @param numItems the number of items
+     * @param names the names
+     * @param colors the colours
      * @throws IllegalArgumentException when numItems is negative or more than the names or colours
      * @throws NullPointerException when a corner, the names, a name or a colour is null
      */
@@ -33,12 +38,20 @@ public class PoItemLegend extends PoLegend {
                 Checks.colors(colors, numItems, "colors")));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -30,12 +30,21 @@ public class PoLabelField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Justifications fromValue(int value) {
             for (Justifications c : values()) {
                 if (c.value == value) {
@@ -71,12 +80,21 @@ public class PoLabelField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static VerticalJustifications fromValue(int value) {
             for (VerticalJustifications c : values()) {
                 if (c.value == value) {
@@ -110,12 +128,21 @@ public class PoLabelField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static CoordinateTypes fromValue(int value) {
             for (CoordinateTypes c : values()) {
                 if (c.value == value) {
@@ -147,12 +174,21 @@ public class PoLabelField extends PoQuorvex {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static ConcatTypes fromValue(int value) {
             for (ConcatTypes c : values()) {
                 if (c.value == value) {
@@ -181,6 +217,14 @@ public class PoLabelField extends PoQuorvex {
     /**
      * Labels at the first num points with the first num strings and values.
      *
+     * @param num the number of elements to use
+     * @param points the points
+     * @param strings the label text of each point
+     * @param values the values
+     * @param offset the distance between a point and its label
+     * @param concatType how a point's string and value are joined
+     * @param justification the horizontal justification of the labels
+     * @param verticalJustification the vertical justification of the labels
      * @throws IllegalArgumentException when num is negative or more than the points, strings or values
      * @throws NullPointerException when an argument, a point or a string is null
      */
@@ -197,6 +241,8 @@ public class PoLabelField extends PoQuorvex {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
         setFormatImpl(handle(), handleOrZero(format, "format"));
@@ -207,17 +253,28 @@ public class PoLabelField extends PoQuorvex {
      * The numeric format of the labels' values, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the numeric format of the labels' values, or null for none: the Java object set earlier while
+     *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -22,12 +22,21 @@ public abstract class PoLegend extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Visibilities fromValue(int value) {
             for (Visibilities c : values()) {
                 if (c.value == value) {
@@ -59,12 +68,21 @@ public abstract class PoLegend extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TextPaths fromValue(int value) {
             for (TextPaths c : values()) {
                 if (c.value == value) {
@@ -100,12 +118,21 @@ public abstract class PoLegend extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Positions fromValue(int value) {
             for (Positions c : values()) {
                 if (c.value == value) {
@@ -137,12 +164,21 @@ public abstract class PoLegend extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static MarginTypes fromValue(int value) {
             for (MarginTypes c : values()) {
                 if (c.value == value) {
@@ -170,12 +206,21 @@ public abstract class PoLegend extends PoBase {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static IncrementTypes fromValue(int value) {
             for (IncrementTypes c : values()) {
                 if (c.value == value) {
@@ -192,7 +237,11 @@ public abstract class PoLegend extends PoBase {
 
     private PbMiscTextAttr miscTextAttr;
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoLegend(long handle) {
         super(handle);
     }
@@ -202,6 +251,8 @@ public abstract class PoLegend extends PoBase {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
         setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
@@ -212,17 +263,28 @@ public abstract class PoLegend extends PoBase {
      * The text attributes of the legend's texts, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the text attributes of the legend's texts, or null for none: the Java object set earlier while
+     *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbMiscTextAttr getMiscTextAttr() {
         return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -17,7 +17,9 @@ public class PoLinearAxis extends PoCartesianAxis {
 
     /** Whether graduations must fit. */
     public enum GradFits {
+        /** The toolkit's {@code GRADFIT}. */
         GRADFIT(JarInitializer.value(GradFits::getGRADFITNative)),
+        /** The toolkit's {@code GRADUNFIT}. */
         GRADUNFIT(JarInitializer.value(GradFits::getGRADUNFITNative));
 
         private final int value;
@@ -26,12 +28,21 @@ public class PoLinearAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static GradFits fromValue(int value) {
             for (GradFits c : values()) {
                 if (c.value == value) {
@@ -48,9 +59,13 @@ public class PoLinearAxis extends PoCartesianAxis {
 
     /** Where the multiplying factor is written. */
     public enum MultFactorPositions {
+        /** The toolkit's {@code MULTFACTORSTART}. */
         MULTFACTORSTART(JarInitializer.value(MultFactorPositions::getMULTFACTORSTARTNative)),
+        /** The toolkit's {@code MULTFACTOREND}. */
         MULTFACTOREND(JarInitializer.value(MultFactorPositions::getMULTFACTORENDNative)),
+        /** The toolkit's {@code MULTFACTOREXTR}. */
         MULTFACTOREXTR(JarInitializer.value(MultFactorPositions::getMULTFACTOREXTRNative)),
+        /** The toolkit's {@code MULTFACTORGRAD}. */
         MULTFACTORGRAD(JarInitializer.value(MultFactorPositions::getMULTFACTORGRADNative));
 
         private final int value;
@@ -59,12 +74,21 @@ public class PoLinearAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static MultFactorPositions fromValue(int value) {
             for (MultFactorPositions c : values()) {
                 if (c.value == value) {
@@ -91,18 +115,36 @@ public class PoLinearAxis extends PoCartesianAxis {
     /**
      * An axis from start along the direction of its type to the coordinate end, its values the
      * coordinates, graduated every step (0 or less: automatic).
+     *
+     * @param start the start point
+     * @param end the coordinate of the axis's end along its direction
+     * @param type the axis's plane and direction
+     * @param step the step between two values
      */
     public PoLinearAxis(SbVec3f start, float end, PoCartesianAxis.Types type, float step) {
         this(ctorImpl1(point(start, "start"), end, value(type), step));
     }
 
-    /** As the constructor above, the values running from gradStart at the start to gradEnd at the end. */
+    /**
+     * As the constructor above, the values running from gradStart at the start to gradEnd at the end.
+     *
+     * @param start the start point
+     * @param end the coordinate of the axis's end along its direction
+     * @param type the axis's plane and direction
+     * @param gradStart the value of the first graduation
+     * @param gradEnd the value of the last graduation
+     * @param step the step between two values
+     */
     public PoLinearAxis(SbVec3f start, float end, PoCartesianAxis.Types type, float gradStart, float gradEnd,
             float step) {
         this(ctorImpl2(point(start, "start"), end, value(type), gradStart, gradEnd, step));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoLinearAxis(long handle) {
         super(handle);
     }
@@ -112,6 +154,8 @@ public class PoLinearAxis extends PoCartesianAxis {
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps
      * the format's address, so this object keeps the Java object as long as it is set.
+     *
+     * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
         long address = handleOrZero(format, "format");
@@ -119,12 +163,20 @@ public class PoLinearAxis extends PoCartesianAxis {
         rebuilding(h -> setFormatImpl(h, address));
     }
 
-    /** The number format, or null: the Java object set earlier, else a view of the address. */
+    /**
+     * The number format, or null: the Java object set earlier, else a view of the address.
+     *
+     * @return the number format, or null: the Java object set earlier, else a view of the address
+     */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
     }
 
-    /** The distance between two graduations (the automatic one when none was given). */
+    /**
+     * The distance between two graduations (the automatic one when none was given).
+     *
+     * @return the distance between two graduations (the automatic one when none was given)
+     */
     public float getStep() {
         return getStepImpl(handle());
     }
@@ -132,6 +184,11 @@ public class PoLinearAxis extends PoCartesianAxis {
     /** Where the multiplying factor is written, and the factor. */
     public record MultFactor(MultFactorPositions position, float factor) {}
 
+    /**
+     * The settings of the multiplication factor.
+     *
+     * @return the settings of the multiplication factor
+     */
     public MultFactor getMultFactor() {
         int[] position = new int[1];
         float[] factor = new float[1];
@@ -147,12 +204,20 @@ public class PoLinearAxis extends PoCartesianAxis {
         return notNull(type, "type").getValue();
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -24,12 +24,21 @@ public class PoLinearValueLegend extends PoValueLegend {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static ValueDistributions fromValue(int value) {
             for (ValueDistributions c : values()) {
                 if (c.value == value) {
@@ -54,6 +63,9 @@ public class PoLinearValueLegend extends PoValueLegend {
     /**
      * A legend between the corners showing the values as distribution says.
      *
+     * @param corner1 one corner of the legend
+     * @param corner2 the opposite corner of the legend
+     * @param distribution how the values are spread along the legend
      * @throws NullPointerException when an argument is null
      */
     public PoLinearValueLegend(SbVec2f corner1, SbVec2f corner2, ValueDistributions distribution) {
@@ -61,12 +73,20 @@ public class PoLinearValueLegend extends PoValueLegend {
                 Checks.notNull(distribution, "distribution").getValue()));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

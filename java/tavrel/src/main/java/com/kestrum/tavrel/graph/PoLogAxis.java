@@ -18,7 +18,9 @@ public class PoLogAxis extends PoCartesianAxis {
 
     /** Which digits of a decade get a graduation. */
     public enum DecadeListDefs {
+        /** The toolkit's {@code DECADELISTAUTO}. */
         DECADELISTAUTO(JarInitializer.value(DecadeListDefs::getDECADELISTAUTONative)),
+        /** The toolkit's {@code DECADELISTNONAUTO}. */
         DECADELISTNONAUTO(JarInitializer.value(DecadeListDefs::getDECADELISTNONAUTONative));
 
         private final int value;
@@ -27,12 +29,21 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static DecadeListDefs fromValue(int value) {
             for (DecadeListDefs c : values()) {
                 if (c.value == value) {
@@ -49,8 +60,11 @@ public class PoLogAxis extends PoCartesianAxis {
 
     /** How ten powers are written. */
     public enum TenPowGradReps {
+        /** The toolkit's {@code TENPOWERPOW10}. */
         TENPOWERPOW10(JarInitializer.value(TenPowGradReps::getTENPOWERPOW10Native)),
+        /** The toolkit's {@code TENPOWERDECIMAL}. */
         TENPOWERDECIMAL(JarInitializer.value(TenPowGradReps::getTENPOWERDECIMALNative)),
+        /** The toolkit's {@code TENPOWERAUTO}. */
         TENPOWERAUTO(JarInitializer.value(TenPowGradReps::getTENPOWERAUTONative));
 
         private final int value;
@@ -59,12 +73,21 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TenPowGradReps fromValue(int value) {
             for (TenPowGradReps c : values()) {
                 if (c.value == value) {
@@ -83,10 +106,15 @@ public class PoLogAxis extends PoCartesianAxis {
 
     /** How the other graduations of a decade are written. */
     public enum DecadeReps {
+        /** The toolkit's {@code DECADENONE}. */
         DECADENONE(JarInitializer.value(DecadeReps::getDECADENONENative)),
+        /** The toolkit's {@code DECADEASTENPOWER}. */
         DECADEASTENPOWER(JarInitializer.value(DecadeReps::getDECADEASTENPOWERNative)),
+        /** The toolkit's {@code DECADEDECIMAL}. */
         DECADEDECIMAL(JarInitializer.value(DecadeReps::getDECADEDECIMALNative)),
+        /** The toolkit's {@code DECADEDIGIT}. */
         DECADEDIGIT(JarInitializer.value(DecadeReps::getDECADEDIGITNative)),
+        /** The toolkit's {@code DECADEAUTO}. */
         DECADEAUTO(JarInitializer.value(DecadeReps::getDECADEAUTONative));
 
         private final int value;
@@ -95,12 +123,21 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static DecadeReps fromValue(int value) {
             for (DecadeReps c : values()) {
                 if (c.value == value) {
@@ -123,9 +160,13 @@ public class PoLogAxis extends PoCartesianAxis {
 
     /** Where the multiplying factor is written. */
     public enum MultFactorPositions {
+        /** The toolkit's {@code MULTFACTORSTART}. */
         MULTFACTORSTART(JarInitializer.value(MultFactorPositions::getMULTFACTORSTARTNative)),
+        /** The toolkit's {@code MULTFACTOREND}. */
         MULTFACTOREND(JarInitializer.value(MultFactorPositions::getMULTFACTORENDNative)),
+        /** The toolkit's {@code MULTFACTOREXTR}. */
         MULTFACTOREXTR(JarInitializer.value(MultFactorPositions::getMULTFACTOREXTRNative)),
+        /** The toolkit's {@code MULTFACTORGRAD}. */
         MULTFACTORGRAD(JarInitializer.value(MultFactorPositions::getMULTFACTORGRADNative));
 
         private final int value;
@@ -134,12 +175,21 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static MultFactorPositions fromValue(int value) {
             for (MultFactorPositions c : values()) {
                 if (c.value == value) {
@@ -169,20 +219,38 @@ public class PoLogAxis extends PoCartesianAxis {
      *
      * @param decades the digits of a decade that get a graduation, each 0 to 65,535 (at most
      *     32,767 of them); null for none
+     * @param start the start point
+     * @param end the coordinate of the axis's end along its direction
+     * @param type the axis's plane and direction
+     * @param def which decades are graduated
      */
     public PoLogAxis(SbVec3f start, float end, PoCartesianAxis.Types type, DecadeListDefs def, int[] decades) {
         this(ctorImpl1(PoLinearAxis.point(start, "start"), end, PoLinearAxis.value(type), value(def),
                 unsignedShorts(decades), decades == null ? 0 : decades.length));
     }
 
-    /** As the constructor above, the exponents running from expStart at the start to expEnd at the end. */
+    /**
+     * As the constructor above, the exponents running from expStart at the start to expEnd at the end.
+     *
+     * @param start the start point
+     * @param end the coordinate of the axis's end along its direction
+     * @param type the axis's plane and direction
+     * @param def which decades are graduated
+     * @param decades the decade list, unsigned 16-bit values
+     * @param expStart the exponent at the start of the axis
+     * @param expEnd the exponent at the end of the axis
+     */
     public PoLogAxis(SbVec3f start, float end, PoCartesianAxis.Types type, DecadeListDefs def, int[] decades,
             float expStart, float expEnd) {
         this(ctorImpl2(PoLinearAxis.point(start, "start"), end, PoLinearAxis.value(type), value(def),
                 unsignedShorts(decades), decades == null ? 0 : decades.length, expStart, expEnd));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoLogAxis(long handle) {
         super(handle);
     }
@@ -190,6 +258,11 @@ public class PoLogAxis extends PoCartesianAxis {
     /** Where the multiplying factor is written, and the factor. */
     public record MultFactor(MultFactorPositions position, float factor) {}
 
+    /**
+     * The settings of the multiplication factor.
+     *
+     * @return the settings of the multiplication factor
+     */
     public MultFactor getMultFactor() {
         int[] position = new int[1];
         float[] factor = new float[1];
@@ -204,6 +277,11 @@ public class PoLogAxis extends PoCartesianAxis {
     public record LogGrad(int[] decades, TenPowGradReps tenPowerRep, DecadeReps decadeRep, String fontName,
             float value) {}
 
+    /**
+     * The settings of the logarithmic graduations, with the decade list the toolkit wrote.
+     *
+     * @return the settings of the logarithmic graduations, with the decade list the toolkit wrote
+     */
     public LogGrad getLogGrad() {
         LogGradOutputs o = new LogGradOutputs();
         getLogGradImpl(handle(), o.count, o.decades, o.tenPowerRep, o.decadeRep, o.fontName, o.value);
@@ -231,12 +309,20 @@ public class PoLogAxis extends PoCartesianAxis {
         return list;
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -27,12 +27,21 @@ public class PoMultipleHistogram extends PoHistogram {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static HistogPaths fromValue(int value) {
             for (HistogPaths c : values()) {
                 if (c.value == value) {
@@ -62,12 +71,21 @@ public class PoMultipleHistogram extends PoHistogram {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Representations fromValue(int value) {
             for (Representations c : values()) {
                 if (c.value == value) {
@@ -94,6 +112,14 @@ public class PoMultipleHistogram extends PoHistogram {
      * histogram names and numValues value names, their bars sharing histogSize from the origin
      * along the axis of type.
      *
+     * @param origin the origin
+     * @param histogSize the size of the histogram along its axis
+     * @param type the direction of the bars
+     * @param numHistog the number of histograms
+     * @param numValues the number of values
+     * @param values the values
+     * @param histogNames the names of the histograms
+     * @param valueNames the names of the values
      * @throws IllegalArgumentException when a count is negative or an array too short
      * @throws NullPointerException when an argument or a name is null
      */
@@ -107,12 +133,20 @@ public class PoMultipleHistogram extends PoHistogram {
                 Checks.strings(valueNames, numValues, "valueNames")));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

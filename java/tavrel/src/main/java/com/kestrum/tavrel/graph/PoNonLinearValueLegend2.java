@@ -17,18 +17,28 @@ public class PoNonLinearValueLegend2 extends PoValueLegend {
     /**
      * A legend between the corners.
      *
+     * @param corner1 one corner of the legend
+     * @param corner2 the opposite corner of the legend
      * @throws NullPointerException when a corner is null
      */
     public PoNonLinearValueLegend2(SbVec2f corner1, SbVec2f corner2) {
         super(ctorImpl1(Checks.pair(corner1, "corner1"), Checks.pair(corner2, "corner2")));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -16,7 +16,9 @@ public abstract class PoPieChart extends PoChart {
 
     /** Where the annotations inside the slices go. */
     public enum IntAnnotPositions {
+        /** The toolkit's {@code RADIALINTPOS}. */
         RADIALINTPOS(JarInitializer.value(IntAnnotPositions::getRADIALINTPOSNative)),
+        /** The toolkit's {@code HORINTPOS}. */
         HORINTPOS(JarInitializer.value(IntAnnotPositions::getHORINTPOSNative));
 
         private final int value;
@@ -25,12 +27,21 @@ public abstract class PoPieChart extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static IntAnnotPositions fromValue(int value) {
             for (IntAnnotPositions c : values()) {
                 if (c.value == value) {
@@ -47,10 +58,15 @@ public abstract class PoPieChart extends PoChart {
 
     /** Where the annotations outside the slices go. */
     public enum ExtAnnotPositions {
+        /** The toolkit's {@code RADIALEXTPOS}. */
         RADIALEXTPOS(JarInitializer.value(ExtAnnotPositions::getRADIALEXTPOSNative)),
+        /** The toolkit's {@code HOREXTPOS}. */
         HOREXTPOS(JarInitializer.value(ExtAnnotPositions::getHOREXTPOSNative)),
+        /** The toolkit's {@code HORALIGNEDEXTPOS}. */
         HORALIGNEDEXTPOS(JarInitializer.value(ExtAnnotPositions::getHORALIGNEDEXTPOSNative)),
+        /** The toolkit's {@code VERTALIGNEDEXTPOS}. */
         VERTALIGNEDEXTPOS(JarInitializer.value(ExtAnnotPositions::getVERTALIGNEDEXTPOSNative)),
+        /** The toolkit's {@code SQUAREALIGNEDEXTPOS}. */
         SQUAREALIGNEDEXTPOS(JarInitializer.value(ExtAnnotPositions::getSQUAREALIGNEDEXTPOSNative));
 
         private final int value;
@@ -59,12 +75,21 @@ public abstract class PoPieChart extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static ExtAnnotPositions fromValue(int value) {
             for (ExtAnnotPositions c : values()) {
                 if (c.value == value) {
@@ -87,10 +112,15 @@ public abstract class PoPieChart extends PoChart {
 
     /** How the annotation texts are aligned. */
     public enum Alignments {
+        /** The toolkit's {@code LEFTALIGN}. */
         LEFTALIGN(JarInitializer.value(Alignments::getLEFTALIGNNative)),
+        /** The toolkit's {@code CENTERALIGN}. */
         CENTERALIGN(JarInitializer.value(Alignments::getCENTERALIGNNative)),
+        /** The toolkit's {@code RIGHTALIGN}. */
         RIGHTALIGN(JarInitializer.value(Alignments::getRIGHTALIGNNative)),
+        /** The toolkit's {@code INWARDSALIGN}. */
         INWARDSALIGN(JarInitializer.value(Alignments::getINWARDSALIGNNative)),
+        /** The toolkit's {@code OUTWARDSALIGN}. */
         OUTWARDSALIGN(JarInitializer.value(Alignments::getOUTWARDSALIGNNative));
 
         private final int value;
@@ -99,12 +129,21 @@ public abstract class PoPieChart extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Alignments fromValue(int value) {
             for (Alignments c : values()) {
                 if (c.value == value) {
@@ -127,7 +166,9 @@ public abstract class PoPieChart extends PoChart {
 
     /** Whether the values are shown as given or as percentages. */
     public enum PercentStatus {
+        /** The toolkit's {@code ABSOLUTE}. */
         ABSOLUTE(JarInitializer.value(PercentStatus::getABSOLUTENative)),
+        /** The toolkit's {@code PERCENTAGE}. */
         PERCENTAGE(JarInitializer.value(PercentStatus::getPERCENTAGENative));
 
         private final int value;
@@ -136,12 +177,21 @@ public abstract class PoPieChart extends PoChart {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static PercentStatus fromValue(int value) {
             for (PercentStatus c : values()) {
                 if (c.value == value) {
@@ -159,17 +209,29 @@ public abstract class PoPieChart extends PoChart {
     private PbMiscTextAttr textAttr;
     private PbNumericDisplayFormat format;
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPieChart(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -178,6 +240,8 @@ public abstract class PoPieChart extends PoChart {
      * Sets the text attributes of the annotations; null for none. The chart keeps the object's
      * address: later changes of it reach the chart; this object keeps the Java object as long as
      * it is set. A change of the node (see {@link PoBase}).
+     *
+     * @param attr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr attr) {
         long address = handleOrZero(attr, "attr");
@@ -190,12 +254,21 @@ public abstract class PoPieChart extends PoChart {
         }
     }
 
-    /** The text attributes, or null: the Java object set while the chart holds its address, else a view. */
+    /**
+     * The text attributes, or null: the Java object set while the chart holds its address, else a view.
+     *
+     * @return the text attributes, or null: the Java object set while the chart holds its address, else a
+     *     view
+     */
     public PbMiscTextAttr getMiscTextAttr() {
         return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), textAttr);
     }
 
-    /** Sets the number format of the annotations; null for none. As {@link #setMiscTextAttr}. */
+    /**
+     * Sets the number format of the annotations; null for none. As {@link #setMiscTextAttr}.
+     *
+     * @param format the format, or null for none
+     */
     public void setFormat(PbNumericDisplayFormat format) {
         long address = handleOrZero(format, "format");
         this.format = format;
@@ -207,7 +280,11 @@ public abstract class PoPieChart extends PoChart {
         }
     }
 
-    /** The number format, or null: the Java object set while the chart holds its address, else a view. */
+    /**
+     * The number format, or null: the Java object set while the chart holds its address, else a view.
+     *
+     * @return the number format, or null: the Java object set while the chart holds its address, else a view
+     */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
     }
@@ -215,6 +292,9 @@ public abstract class PoPieChart extends PoChart {
     /**
      * Moves a slice out from the centre by the distance, along the middle of its span (a slice
      * number the chart does not have is ignored). A change of the node (see {@link PoBase}).
+     *
+     * @param slice the index of the slice
+     * @param distance the distance by which the slice moves out
      */
     public void setSliceToTranslate(int slice, float distance) {
         long h = enter();
@@ -225,7 +305,12 @@ public abstract class PoPieChart extends PoChart {
         }
     }
 
-    /** The distance a slice has been moved out by; 0 for a slice never moved or out of range. */
+    /**
+     * The distance a slice has been moved out by; 0 for a slice never moved or out of range.
+     *
+     * @param slice the index of the slice
+     * @return the distance a slice has been moved out by; 0 for a slice never moved or out of range
+     */
     public float getSliceToTranslate(int slice) {
         return getSliceToTranslateImpl(handle(), slice);
     }
@@ -245,7 +330,12 @@ public abstract class PoPieChart extends PoChart {
         return getPickedSliceNumberImpl(handle(), path, slice);
     }
 
-    /** The slice a picked path points at, or -1 when it picks none of this chart's slices. */
+    /**
+     * The slice a picked path points at, or -1 when it picks none of this chart's slices.
+     *
+     * @param path the address of a native SoPath, as a pick gives it
+     * @return the slice a picked path points at, or -1 when it picks none of this chart's slices
+     */
     public int getPickedSliceNumber(long path) {
         int[] slice = new int[1];
         return getPickedSliceNumber(path, slice) != 0 ? slice[0] : -1;

@@ -38,23 +38,44 @@ public class PoPieChart2D extends PoPieChart {
                 names, values, ChartChecks.count(numColors, "numColors"), colors(colors, numColors, "colors")));
     }
 
-    /** A chart of one slice per value, each with its name and colour (colors may be null). */
+    /**
+     * A chart of one slice per value, each with its name and colour (colors may be null).
+     *
+     * @param center the centre
+     * @param radius the radius
+     * @param names the names
+     * @param values the values
+     * @param colors the colours
+     * @return a chart of one slice per value, each with its name and colour (colors may be null)
+     */
     public static PoPieChart2D of(SbVec2f center, float radius, String[] names, float[] values, SbColor[] colors) {
         int n = notNull(values, "values").length;
         return new PoPieChart2D(center, radius, n, names, values, colors == null ? 0 : colors.length, colors);
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPieChart2D(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -40,24 +40,46 @@ public class PoPieChart3D extends PoPieChart {
                 names, values, ChartChecks.count(numColors, "numColors"), colors(colors, numColors, "colors")));
     }
 
-    /** A chart of one slice per value, each with its name and colour (colors may be null). */
+    /**
+     * A chart of one slice per value, each with its name and colour (colors may be null).
+     *
+     * @param center the centre
+     * @param radius the radius
+     * @param height the height
+     * @param names the names
+     * @param values the values
+     * @param colors the colours
+     * @return a chart of one slice per value, each with its name and colour (colors may be null)
+     */
     public static PoPieChart3D of(SbVec3f center, float radius, float height, String[] names, float[] values,
             SbColor[] colors) {
         int n = notNull(values, "values").length;
         return new PoPieChart3D(center, radius, height, n, names, values, colors == null ? 0 : colors.length, colors);
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPieChart3D(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -15,17 +15,29 @@ public class PoPieChartRep extends PoChart {
         this(ctorImpl());
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPieChartRep(long handle) {
         super(handle);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }
@@ -33,6 +45,9 @@ public class PoPieChartRep extends PoChart {
     /**
      * Moves a slice out from the centre by the distance, along the middle of its span (a slice
      * number the chart does not have is ignored). A change of the node (see {@link PoBase}).
+     *
+     * @param slice the index of the slice
+     * @param distance the distance by which the slice moves out
      */
     public void setSliceToTranslate(int slice, float distance) {
         long h = enter();
@@ -43,7 +58,12 @@ public class PoPieChartRep extends PoChart {
         }
     }
 
-    /** The distance a slice has been moved out by; 0 for a slice never moved or out of range. */
+    /**
+     * The distance a slice has been moved out by; 0 for a slice never moved or out of range.
+     *
+     * @param slice the index of the slice
+     * @return the distance a slice has been moved out by; 0 for a slice never moved or out of range
+     */
     public float getSliceToTranslate(int slice) {
         return getSliceToTranslateImpl(handle(), slice);
     }
@@ -63,7 +83,12 @@ public class PoPieChartRep extends PoChart {
         return getPickedSliceNumberImpl(handle(), path, slice);
     }
 
-    /** The slice a picked path points at, or -1 when it picks none of this chart's slices. */
+    /**
+     * The slice a picked path points at, or -1 when it picks none of this chart's slices.
+     *
+     * @param path the address of a native SoPath, as a pick gives it
+     * @return the slice a picked path points at, or -1 when it picks none of this chart's slices
+     */
     public int getPickedSliceNumber(long path) {
         int[] slice = new int[1];
         return getPickedSliceNumber(path, slice) != 0 ? slice[0] : -1;

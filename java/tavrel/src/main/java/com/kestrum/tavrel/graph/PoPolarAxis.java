@@ -10,9 +10,13 @@ public abstract class PoPolarAxis extends PoAxis {
 
     /** Where the multiplying factor is written. */
     public enum MultFactorPositions {
+        /** The toolkit's {@code MULTFACTORSTART}. */
         MULTFACTORSTART(JarInitializer.value(MultFactorPositions::getMULTFACTORSTARTNative)),
+        /** The toolkit's {@code MULTFACTOREND}. */
         MULTFACTOREND(JarInitializer.value(MultFactorPositions::getMULTFACTORENDNative)),
+        /** The toolkit's {@code MULTFACTOREXTR}. */
         MULTFACTOREXTR(JarInitializer.value(MultFactorPositions::getMULTFACTOREXTRNative)),
+        /** The toolkit's {@code MULTFACTORGRAD}. */
         MULTFACTORGRAD(JarInitializer.value(MultFactorPositions::getMULTFACTORGRADNative));
 
         private final int value;
@@ -21,12 +25,21 @@ public abstract class PoPolarAxis extends PoAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static MultFactorPositions fromValue(int value) {
             for (MultFactorPositions c : values()) {
                 if (c.value == value) {
@@ -45,7 +58,11 @@ public abstract class PoPolarAxis extends PoAxis {
         private static native int getMULTFACTORGRADNative();
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPolarAxis(long handle) {
         super(handle);
     }
@@ -53,6 +70,11 @@ public abstract class PoPolarAxis extends PoAxis {
     /** Where the multiplying factor is written, and the factor. */
     public record MultFactor(MultFactorPositions position, float factor) {}
 
+    /**
+     * The settings of the multiplication factor.
+     *
+     * @return the settings of the multiplication factor
+     */
     public MultFactor getMultFactor() {
         int[] position = new int[1];
         float[] factor = new float[1];
@@ -60,12 +82,20 @@ public abstract class PoPolarAxis extends PoAxis {
         return new MultFactor(MultFactorPositions.fromValue(position[0]), factor[0]);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

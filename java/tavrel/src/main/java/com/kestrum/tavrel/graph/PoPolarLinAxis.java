@@ -11,7 +11,9 @@ public class PoPolarLinAxis extends PoPolarAxis {
 
     /** Whether graduations must fit. */
     public enum GradFits {
+        /** The toolkit's {@code GRADFIT}. */
         GRADFIT(JarInitializer.value(GradFits::getGRADFITNative)),
+        /** The toolkit's {@code GRADUNFIT}. */
         GRADUNFIT(JarInitializer.value(GradFits::getGRADUNFITNative));
 
         private final int value;
@@ -20,12 +22,21 @@ public class PoPolarLinAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static GradFits fromValue(int value) {
             for (GradFits c : values()) {
                 if (c.value == value) {
@@ -45,12 +56,24 @@ public class PoPolarLinAxis extends PoPolarAxis {
         this(ctorImpl());
     }
 
-    /** The axis from (x0, y0) to (x1, y1), graduated every step (0 or less: automatic). */
+    /**
+     * The axis from (x0, y0) to (x1, y1), graduated every step (0 or less: automatic).
+     *
+     * @param x0 the x of the start point
+     * @param y0 the y of the start point
+     * @param x1 the x of the end point
+     * @param y1 the y of the end point
+     * @param step the step between two values
+     */
     public PoPolarLinAxis(float x0, float y0, float x1, float y1, float step) {
         this(ctorImpl1(x0, y0, x1, y1, step));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPolarLinAxis(long handle) {
         super(handle);
     }
@@ -60,6 +83,8 @@ public class PoPolarLinAxis extends PoPolarAxis {
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps
      * the format's address, so this object keeps the Java object as long as it is set.
+     *
+     * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
         long address = handleOrZero(format, "format");
@@ -67,22 +92,38 @@ public class PoPolarLinAxis extends PoPolarAxis {
         rebuilding(h -> setFormatImpl(h, address));
     }
 
-    /** The number format, or null: the Java object set earlier, else a view of the address. */
+    /**
+     * The number format, or null: the Java object set earlier, else a view of the address.
+     *
+     * @return the number format, or null: the Java object set earlier, else a view of the address
+     */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
     }
 
-    /** The distance between two graduations (the automatic one when none was given). */
+    /**
+     * The distance between two graduations (the automatic one when none was given).
+     *
+     * @return the distance between two graduations (the automatic one when none was given)
+     */
     public float getStep() {
         return getStepImpl(handle());
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -12,7 +12,9 @@ public class PoPolarLogAxis extends PoPolarAxis {
 
     /** Which digits of a decade get a graduation. */
     public enum DecadeListDefs {
+        /** The toolkit's {@code DECADELISTAUTO}. */
         DECADELISTAUTO(JarInitializer.value(DecadeListDefs::getDECADELISTAUTONative)),
+        /** The toolkit's {@code DECADELISTNONAUTO}. */
         DECADELISTNONAUTO(JarInitializer.value(DecadeListDefs::getDECADELISTNONAUTONative));
 
         private final int value;
@@ -21,12 +23,21 @@ public class PoPolarLogAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static DecadeListDefs fromValue(int value) {
             for (DecadeListDefs c : values()) {
                 if (c.value == value) {
@@ -43,8 +54,11 @@ public class PoPolarLogAxis extends PoPolarAxis {
 
     /** How ten powers are written. */
     public enum TenPowGradReps {
+        /** The toolkit's {@code TENPOWERPOW10}. */
         TENPOWERPOW10(JarInitializer.value(TenPowGradReps::getTENPOWERPOW10Native)),
+        /** The toolkit's {@code TENPOWERDECIMAL}. */
         TENPOWERDECIMAL(JarInitializer.value(TenPowGradReps::getTENPOWERDECIMALNative)),
+        /** The toolkit's {@code TENPOWERAUTO}. */
         TENPOWERAUTO(JarInitializer.value(TenPowGradReps::getTENPOWERAUTONative));
 
         private final int value;
@@ -53,12 +67,21 @@ public class PoPolarLogAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static TenPowGradReps fromValue(int value) {
             for (TenPowGradReps c : values()) {
                 if (c.value == value) {
@@ -77,10 +100,15 @@ public class PoPolarLogAxis extends PoPolarAxis {
 
     /** How the other graduations of a decade are written. */
     public enum DecadeReps {
+        /** The toolkit's {@code DECADENONE}. */
         DECADENONE(JarInitializer.value(DecadeReps::getDECADENONENative)),
+        /** The toolkit's {@code DECADEASTENPOWER}. */
         DECADEASTENPOWER(JarInitializer.value(DecadeReps::getDECADEASTENPOWERNative)),
+        /** The toolkit's {@code DECADEDECIMAL}. */
         DECADEDECIMAL(JarInitializer.value(DecadeReps::getDECADEDECIMALNative)),
+        /** The toolkit's {@code DECADEDIGIT}. */
         DECADEDIGIT(JarInitializer.value(DecadeReps::getDECADEDIGITNative)),
+        /** The toolkit's {@code DECADEAUTO}. */
         DECADEAUTO(JarInitializer.value(DecadeReps::getDECADEAUTONative));
 
         private final int value;
@@ -89,12 +117,21 @@ public class PoPolarLogAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static DecadeReps fromValue(int value) {
             for (DecadeReps c : values()) {
                 if (c.value == value) {
@@ -125,13 +162,22 @@ public class PoPolarLogAxis extends PoPolarAxis {
      *
      * @param decades the digits of a decade that get a graduation, each 0 to 65,535 (at most
      *     32,767 of them); null for none
+     * @param x0 the x of the start point
+     * @param y0 the y of the start point
+     * @param x1 the x of the end point
+     * @param y1 the y of the end point
+     * @param def which decades are graduated
      */
     public PoPolarLogAxis(float x0, float y0, float x1, float y1, DecadeListDefs def, int[] decades) {
         this(ctorImpl1(x0, y0, x1, y1, notNull(def, "def").getValue(), PoLogAxis.unsignedShorts(decades),
                 decades == null ? 0 : decades.length));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoPolarLogAxis(long handle) {
         super(handle);
     }
@@ -143,6 +189,11 @@ public class PoPolarLogAxis extends PoPolarAxis {
     public record LogGrad(int[] decades, TenPowGradReps tenPowerRep, DecadeReps decadeRep, String fontName,
             float value) {}
 
+    /**
+     * The settings of the logarithmic graduations, with the decade list the toolkit wrote.
+     *
+     * @return the settings of the logarithmic graduations, with the decade list the toolkit wrote
+     */
     public LogGrad getLogGrad() {
         LogGradOutputs o = new LogGradOutputs();
         getLogGradImpl(handle(), o.count, o.decades, o.tenPowerRep, o.decadeRep, o.fontName, o.value);
@@ -150,12 +201,20 @@ public class PoPolarLogAxis extends PoPolarAxis {
                 DecadeReps.fromValue(o.decadeRep[0]), o.fontName[0], o.value[0]);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

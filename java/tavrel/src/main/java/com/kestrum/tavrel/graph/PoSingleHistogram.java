@@ -23,6 +23,12 @@ public class PoSingleHistogram extends PoHistogram {
      * A histogram of the first numValues values and names, its bars sharing histogSize from the
      * origin along the axis of type.
      *
+     * @param origin the origin
+     * @param histogSize the size of the histogram along its axis
+     * @param type the direction of the bars
+     * @param numValues the number of values
+     * @param values the values
+     * @param names the names
      * @throws IllegalArgumentException when numValues is negative or more than the values or names
      * @throws NullPointerException when an argument or a name is null
      */
@@ -33,12 +39,20 @@ public class PoSingleHistogram extends PoHistogram {
                 Checks.strings(names, numValues, "names")));
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -16,9 +16,13 @@ public class PoTimeAxis extends PoAxis {
 
     /** The language of month and day names. */
     public enum Languages {
+        /** The toolkit's {@code ENGLISH}. */
         ENGLISH(JarInitializer.value(Languages::getENGLISHNative)),
+        /** The toolkit's {@code FRANCAIS}. */
         FRANCAIS(JarInitializer.value(Languages::getFRANCAISNative)),
+        /** The toolkit's {@code DEUTSCH}. */
         DEUTSCH(JarInitializer.value(Languages::getDEUTSCHNative)),
+        /** The toolkit's {@code ESPANOL}. */
         ESPANOL(JarInitializer.value(Languages::getESPANOLNative));
 
         private final int value;
@@ -27,12 +31,21 @@ public class PoTimeAxis extends PoAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Languages fromValue(int value) {
             for (Languages c : values()) {
                 if (c.value == value) {
@@ -53,7 +66,9 @@ public class PoTimeAxis extends PoAxis {
 
     /** Whether graduations must fit. */
     public enum GradFits {
+        /** The toolkit's {@code GRADFIT}. */
         GRADFIT(JarInitializer.value(GradFits::getGRADFITNative)),
+        /** The toolkit's {@code GRADUNFIT}. */
         GRADUNFIT(JarInitializer.value(GradFits::getGRADUNFITNative));
 
         private final int value;
@@ -62,12 +77,21 @@ public class PoTimeAxis extends PoAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static GradFits fromValue(int value) {
             for (GradFits c : values()) {
                 if (c.value == value) {
@@ -84,7 +108,9 @@ public class PoTimeAxis extends PoAxis {
 
     /** The direction of the axis and the side of its graduations. */
     public enum Types {
+        /** The toolkit's {@code X}. */
         X(JarInitializer.value(Types::getXNative)),
+        /** The toolkit's {@code Y}. */
         Y(JarInitializer.value(Types::getYNative));
 
         private final int value;
@@ -93,12 +119,21 @@ public class PoTimeAxis extends PoAxis {
             this.value = value;
         }
 
-        /** The toolkit's value of the constant. */
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the toolkit's value of the constant
+         */
         public int getValue() {
             return value;
         }
 
-        /** The constant with the toolkit's value, or null. */
+        /**
+         * The constant with the toolkit's value, or null.
+         *
+         * @param value the toolkit's value
+         * @return the constant with the toolkit's value, or null
+         */
         public static Types fromValue(int value) {
             for (Types c : values()) {
                 if (c.value == value) {
@@ -118,12 +153,23 @@ public class PoTimeAxis extends PoAxis {
         this(ctorImpl());
     }
 
-    /** The axis from date1 to date2, along x at y = position (type X) or along y at x = position (type Y). */
+    /**
+     * The axis from date1 to date2, along x at y = position (type X) or along y at x = position (type Y).
+     *
+     * @param date1 the first reference date, as YYYY-MM-DD[ hh:mm[:ss]]
+     * @param date2 the second reference date, as YYYY-MM-DD[ hh:mm[:ss]]
+     * @param position the position of the axis
+     * @param type the axis's plane and direction
+     */
     public PoTimeAxis(String date1, String date2, float position, Types type) {
         this(ctorImpl1(notNull(date1, "date1"), notNull(date2, "date2"), position, notNull(type, "type").getValue()));
     }
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoTimeAxis(long handle) {
         super(handle);
     }
@@ -134,6 +180,8 @@ public class PoTimeAxis extends PoAxis {
      * Sets the mapping between dates and coordinates, and the date format of the labels; null
      * for none. A change of the node. The node keeps the mapping's address, so this object keeps
      * the Java object as long as it is set.
+     *
+     * @param mapping the date mapping, or null for none
      */
     public void setDateFormatMapping(PbDateFormatMapping mapping) {
         long address = handleOrZero(mapping, "mapping");
@@ -141,17 +189,29 @@ public class PoTimeAxis extends PoAxis {
         rebuilding(h -> setDateFormatMappingImpl(h, address));
     }
 
-    /** The date mapping, or null: the Java object set earlier, else a view of the address. */
+    /**
+     * The date mapping, or null: the Java object set earlier, else a view of the address.
+     *
+     * @return the date mapping, or null: the Java object set earlier, else a view of the address
+     */
     public PbDateFormatMapping getDateFormatMapping() {
         return JavaViews.find(PbDateFormatMapping.class, getDateFormatMappingImpl(handle()), mapping);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

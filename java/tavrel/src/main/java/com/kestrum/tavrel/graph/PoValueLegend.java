@@ -13,7 +13,11 @@ public abstract class PoValueLegend extends PoLegend {
     private PbDataMapping dataMapping;
     private PbNumericDisplayFormat format;
 
-    /** A Java object for the native node at the handle (non-zero); takes a reference on it. */
+    /**
+     * A Java object for the native node at the handle (non-zero); takes a reference on it.
+     *
+     * @param handle the address of the native object
+     */
     protected PoValueLegend(long handle) {
         super(handle);
     }
@@ -23,6 +27,8 @@ public abstract class PoValueLegend extends PoLegend {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param isovaluesList the isovalue list, or null for none
      */
     public void setIsovaluesList(PbIsovaluesList isovaluesList) {
         setIsovaluesListImpl(handle(), handleOrZero(isovaluesList, "isovaluesList"));
@@ -33,6 +39,10 @@ public abstract class PoValueLegend extends PoLegend {
      * The isovalue list whose values the legend shows, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the isovalue list whose values the legend shows, or null for none: the Java object set earlier
+     *     while the node still holds its address, else the registered Java object of that address or a view
+     *     of it
      */
     public PbIsovaluesList getIsovaluesList() {
         return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);
@@ -43,6 +53,8 @@ public abstract class PoValueLegend extends PoLegend {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
         setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
@@ -53,6 +65,10 @@ public abstract class PoValueLegend extends PoLegend {
      * The data mapping that colours the legend's boxes, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the data mapping that colours the legend's boxes, or null for none: the Java object set earlier
+     *     while the node still holds its address, else the registered Java object of that address or a view
+     *     of it
      */
     public PbDataMapping getDataMapping() {
         return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
@@ -63,6 +79,8 @@ public abstract class PoValueLegend extends PoLegend {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
         setFormatImpl(handle(), handleOrZero(format, "format"));
@@ -73,17 +91,28 @@ public abstract class PoValueLegend extends PoLegend {
      * The numeric format of the legend's values, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the numeric format of the legend's values, or null for none: the Java object set earlier while
+     *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbNumericDisplayFormat getFormat() {
         return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

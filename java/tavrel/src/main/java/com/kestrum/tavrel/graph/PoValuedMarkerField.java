@@ -23,6 +23,10 @@ public class PoValuedMarkerField extends PoQuorvex {
     /**
      * Markers at the first num points with the first num values of each list.
      *
+     * @param num the number of elements to use
+     * @param points the points
+     * @param values1 the first value of each point
+     * @param values2 the second value of each point
      * @throws IllegalArgumentException when num is negative or more than the points or a list
      * @throws NullPointerException when an array or a point is null
      */
@@ -36,6 +40,8 @@ public class PoValuedMarkerField extends PoQuorvex {
      *
      * <p>The node keeps the object's address, so this object keeps the Java object as long as it
      * is set.
+     *
+     * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
         setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
@@ -46,17 +52,28 @@ public class PoValuedMarkerField extends PoQuorvex {
      * The data mapping that colours the markers, or null for none: the Java object set earlier
      * while the node still holds its address, else the registered Java object of that address
      * or a view of it.
+     *
+     * @return the data mapping that colours the markers, or null for none: the Java object set earlier while
+     *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbDataMapping getDataMapping() {
         return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
 
-    /** The address of the class's node-kit catalog, which belongs to the toolkit. */
+    /**
+     * The address of the class's node-kit catalog, which belongs to the toolkit.
+     *
+     * @return the address of the class's node-kit catalog, which belongs to the toolkit
+     */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
     }

@@ -18,7 +18,11 @@ public class PoCartesianGrid2D extends PoMeshProperty {
         super(ctorImpl(), PbCartesianGrid2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -32,6 +36,12 @@ public class PoCartesianGrid2D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A grid of numX x numY nodes: x and y one value per
      * node, z one elevation per node or null for none.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
      */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {

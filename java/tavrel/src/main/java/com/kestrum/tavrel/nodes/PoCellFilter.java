@@ -37,12 +37,20 @@ public abstract class PoCellFilter extends PoNode {
         this(null);
     }
 
-    /** A filter whose class has the toolkit type {@code typeName} (see {@link PoNode#PoNode(String)}). */
+    /**
+     * A filter whose class has the toolkit type {@code typeName} (see {@link PoNode#PoNode(String)}).
+     *
+     * @param typeName the name of the toolkit type
+     */
     protected PoCellFilter(String typeName) {
         super(ctorImpl(), typeName, NATIVES);
     }
 
-    /** The name of the toolkit type of PoCellFilter (the base of every Java filter's type). */
+    /**
+     * The name of the toolkit type of PoCellFilter (the base of every Java filter's type).
+     *
+     * @return the name of the toolkit type of PoCellFilter (the base of every Java filter's type)
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -50,6 +58,10 @@ public abstract class PoCellFilter extends PoNode {
     /**
      * Whether the cell of that index, whose value is {@code value}, is accepted. Override it:
      * the toolkit has no answer of its own.
+     *
+     * @param cellIndex the index of the cell
+     * @param value the cell's value (its mesh's values set 0, per cell or the mean of its nodes; 0 without one)
+     * @return whether the cell of that index, whose value is {@code value}, is accepted
      */
     public boolean acceptCell(int cellIndex, float value) {
         return acceptCellImpl(handle(), cellIndex, value);

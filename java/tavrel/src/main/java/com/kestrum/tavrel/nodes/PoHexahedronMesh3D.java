@@ -18,7 +18,11 @@ public class PoHexahedronMesh3D extends PoMeshProperty {
         super(ctorImpl(), PbHexahedronMesh3D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -32,6 +36,13 @@ public class PoHexahedronMesh3D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and hexahedra given by 8
      * node indices each.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numHexahedra the number of hexahedra
+     * @param hexahedronNodes the eight nodes of every hexahedron, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedronNodes) {
         setGeometryWith(h -> {

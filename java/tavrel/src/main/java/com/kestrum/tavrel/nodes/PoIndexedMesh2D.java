@@ -19,7 +19,11 @@ public class PoIndexedMesh2D extends PoMeshProperty {
         super(ctorImpl(), PbIndexedMesh2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -34,6 +38,13 @@ public class PoIndexedMesh2D extends PoMeshProperty {
      * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and numCells cells:
      * cellTypes[c] is the number of nodes of cell c (3 or 4), cellIndex lists the nodes of every
      * cell, cell after cell.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numCells the number of cells
+     * @param cellTypes the number of nodes of each cell
+     * @param cellIndex the nodes of every cell, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex) {
         setGeometryWith(h -> {
@@ -42,7 +53,17 @@ public class PoIndexedMesh2D extends PoMeshProperty {
         });
     }
 
-    /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
+    /**
+     * Replaces the geometry of the node's mesh. As above, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numCells the number of cells
+     * @param cellTypes the number of nodes of each cell
+     * @param cellIndex the nodes of every cell, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         setGeometryWith(h -> {

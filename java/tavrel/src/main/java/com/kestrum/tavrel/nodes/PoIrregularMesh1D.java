@@ -18,7 +18,11 @@ public class PoIrregularMesh1D extends PoMeshProperty {
         super(ctorImpl(), PbIrregularMesh1D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -29,7 +33,12 @@ public class PoIrregularMesh1D extends PoMeshProperty {
         return (PbIrregularMesh1D) super.getMesh();
     }
 
-    /** Replaces the geometry of the node's mesh. numNodes nodes at the abscissas x. */
+    /**
+     * Replaces the geometry of the node's mesh. numNodes nodes at the abscissas x.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     */
     public void setGeometry(int numNodes, float[] x) {
         setGeometryWith(h -> {
             Checks.nodes1D(numNodes, x);

@@ -44,7 +44,11 @@ public abstract class PoMeshProperty extends SoNode {
             this.value = value;
         }
 
-        /** The toolkit's value. */
+        /**
+         * The toolkit's value.
+         *
+         * @return the toolkit's value
+         */
         public int getValue() {
             return value;
         }
@@ -67,7 +71,11 @@ public abstract class PoMeshProperty extends SoNode {
         MeshViews.releaseUnreachable();
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -75,6 +83,9 @@ public abstract class PoMeshProperty extends SoNode {
     /**
      * The node's mesh, as a view (see the class): the same object as long as it is reachable and
      * not disposed.
+     *
+     * @return the node's mesh, as a view (see the class): the same object as long as it is reachable and not
+     *     disposed
      */
     public PbMesh getMesh() {
         long h = handle();
@@ -87,7 +98,13 @@ public abstract class PoMeshProperty extends SoNode {
         return made;
     }
 
-    /** Adds a values set with one value per node of the node's mesh. */
+    /**
+     * Adds a values set with one value per node of the node's mesh.
+     *
+     * @param set the index of the data set
+     * @param values one value per node (or per cell)
+     * @param name the name of the set
+     */
     public void addValuesSet(int set, float[] values, String name) {
         long h = handle();
         Checks.length(values, getMesh().getNumNodes(), "values");
@@ -95,7 +112,14 @@ public abstract class PoMeshProperty extends SoNode {
         addValuesSetImpl(h, set, values, name);
     }
 
-    /** Adds a values set with one value per cell or per node of the node's mesh. */
+    /**
+     * Adds a values set with one value per cell or per node of the node's mesh.
+     *
+     * @param set the index of the data set
+     * @param values one value per node (or per cell)
+     * @param binding whether the set holds a value per node or per cell
+     * @param name the name of the set
+     */
     public void addValuesSet(int set, float[] values, DataBindings binding, String name) {
         long h = handle();
         Checks.notNull(binding, "binding");
@@ -105,7 +129,13 @@ public abstract class PoMeshProperty extends SoNode {
         addValuesSetImpl1(h, set, values, binding.getValue(), name);
     }
 
-    /** Adds a strings set with one string per node (null elements become empty strings). */
+    /**
+     * Adds a strings set with one string per node (null elements become empty strings).
+     *
+     * @param set the index of the data set
+     * @param strings the strings of the set
+     * @param name the name of the set
+     */
     public void addStringsSet(int set, String[] strings, String name) {
         long h = handle();
         Checks.length(strings, getMesh().getNumNodes(), "strings");
@@ -116,6 +146,10 @@ public abstract class PoMeshProperty extends SoNode {
     /**
      * Adds a vecs set with one vector per node. A null or empty array adds a set without data
      * (its getters return null).
+     *
+     * @param set the index of the data set
+     * @param vectors the vectors, one per node or per cell
+     * @param name the name of the set
      */
     public void addVecsSet(int set, SbVec3f[] vectors, String name) {
         long h = handle();
@@ -130,6 +164,8 @@ public abstract class PoMeshProperty extends SoNode {
      * {@code setGeometry} of the mesh node classes: checks that the node is not disposed, gives its
      * handle to the call (which checks the arguments, then makes the class's native call) and
      * records the change.
+     *
+     * @param checkedSetGeometryImpl the native call that sets the geometry, given the mesh's handle
      */
     protected final void setGeometryWith(LongConsumer checkedSetGeometryImpl) {
         long h = handle();

@@ -69,6 +69,7 @@ public abstract class PoNode extends SoNode {
     /**
      * A node whose class has the toolkit type {@code typeName}.
      *
+     * @param typeName the name of the toolkit type
      * @throws IllegalArgumentException when another class has that type name, when the class
      *     already has another one, or when an anonymous class gives none
      */
@@ -96,7 +97,11 @@ public abstract class PoNode extends SoNode {
         }
     }
 
-    /** The name of the toolkit type of PoNode (the base of every Java node's type). */
+    /**
+     * The name of the toolkit type of PoNode (the base of every Java node's type).
+     *
+     * @return the name of the toolkit type of PoNode (the base of every Java node's type)
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }

@@ -19,7 +19,11 @@ public class PoParalCartesianGrid3D extends PoMeshProperty {
         super(ctorImpl(), PbParalCartesianGrid3D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -33,6 +37,13 @@ public class PoParalCartesianGrid3D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A grid of numX x numY x numZ nodes: x of numX
      * values, y of numY values, z of numZ values.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param numZ the number of nodes along z
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
      */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
         setGeometryWith(h -> {

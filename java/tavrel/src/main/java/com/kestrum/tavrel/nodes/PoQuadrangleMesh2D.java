@@ -18,7 +18,11 @@ public class PoQuadrangleMesh2D extends PoMeshProperty {
         super(ctorImpl(), PbQuadrangleMesh2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -32,6 +36,12 @@ public class PoQuadrangleMesh2D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and quadrangles given by 4
      * node indices each.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
         setGeometryWith(h -> {
@@ -40,7 +50,16 @@ public class PoQuadrangleMesh2D extends PoMeshProperty {
         });
     }
 
-    /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
+    /**
+     * Replaces the geometry of the node's mesh. As above, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numQuadrangles the number of quadrangles
+     * @param quadrangleNodes the four nodes of every quadrangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,

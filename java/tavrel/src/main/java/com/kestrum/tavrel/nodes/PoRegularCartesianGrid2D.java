@@ -19,7 +19,11 @@ public class PoRegularCartesianGrid2D extends PoMeshProperty {
         super(ctorImpl(), PbRegularCartesianGrid2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -33,6 +37,14 @@ public class PoRegularCartesianGrid2D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A grid of numX x numY nodes evenly spread over
      * [xmin, xmax] x [ymin, ymax]; z one elevation per node, or null for none.
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param z the z coordinates, or null
      */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
         setGeometryWith(h -> {

@@ -19,7 +19,11 @@ public class PoRegularCartesianGrid3D extends PoMeshProperty {
         super(ctorImpl(), PbRegularCartesianGrid3D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -33,6 +37,16 @@ public class PoRegularCartesianGrid3D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A grid of numX x numY x numZ nodes evenly spread
      * over the box from (xmin, ymin, zmin) to (xmax, ymax, zmax).
+     *
+     * @param numX the number of nodes along x
+     * @param numY the number of nodes along y
+     * @param numZ the number of nodes along z
+     * @param xmin the smallest x
+     * @param ymin the smallest y
+     * @param zmin the smallest z
+     * @param xmax the largest x
+     * @param ymax the largest y
+     * @param zmax the largest z
      */
     public void setGeometry(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax, float ymax,
             float zmax) {

@@ -18,7 +18,11 @@ public class PoRegularMesh1D extends PoMeshProperty {
         super(ctorImpl(), PbRegularMesh1D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -29,7 +33,13 @@ public class PoRegularMesh1D extends PoMeshProperty {
         return (PbRegularMesh1D) super.getMesh();
     }
 
-    /** Replaces the geometry of the node's mesh. numNodes nodes evenly spaced from xmin to xmax. */
+    /**
+     * Replaces the geometry of the node's mesh. numNodes nodes evenly spaced from xmin to xmax.
+     *
+     * @param numNodes the number of nodes
+     * @param xmin the smallest x
+     * @param xmax the largest x
+     */
     public void setGeometry(int numNodes, float xmin, float xmax) {
         setGeometryWith(h -> {
             Checks.count(numNodes, "numNodes");

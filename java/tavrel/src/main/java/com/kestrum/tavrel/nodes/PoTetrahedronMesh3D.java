@@ -18,7 +18,11 @@ public class PoTetrahedronMesh3D extends PoMeshProperty {
         super(ctorImpl(), PbTetrahedronMesh3D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -32,6 +36,13 @@ public class PoTetrahedronMesh3D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and tetrahedra given by 4
      * node indices each.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numTetrahedra the number of tetrahedra
+     * @param tetrahedronNodes the four nodes of every tetrahedron, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedronNodes) {
         setGeometryWith(h -> {

@@ -18,7 +18,11 @@ public class PoTriangleMesh2D extends PoMeshProperty {
         super(ctorImpl(), PbTriangleMesh2D.class);
     }
 
-    /** The name of the class's toolkit type. */
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the name of the class's toolkit type
+     */
     public static String getClassTypeName() {
         return getClassTypeId();
     }
@@ -32,6 +36,10 @@ public class PoTriangleMesh2D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. The nodes alone, triangulated as a fan around node
      * 0 in the order given (right for a convex polygon given in order).
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
      */
     public void setGeometry(int numNodes, float[] x, float[] y) {
         setGeometryWith(h -> {
@@ -43,6 +51,12 @@ public class PoTriangleMesh2D extends PoMeshProperty {
     /**
      * Replaces the geometry of the node's mesh. A mesh of numNodes nodes and triangles given by 3
      * node indices each.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param numTriangles the number of triangles
+     * @param triangleNodes the three nodes of every triangle, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
         setGeometryWith(h -> {
@@ -51,7 +65,16 @@ public class PoTriangleMesh2D extends PoMeshProperty {
         });
     }
 
-    /** Replaces the geometry of the node's mesh. As above, with one elevation per node in z. */
+    /**
+     * Replaces the geometry of the node's mesh. As above, with one elevation per node in z.
+     *
+     * @param numNodes the number of nodes
+     * @param x the x coordinates
+     * @param y the y coordinates
+     * @param z the z coordinates, or null
+     * @param numTriangles the number of triangles
+     * @param triangleNodes the three nodes of every triangle, one after the other
+     */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes) {
         setGeometryWith(h -> {
             Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,

@@ -21,6 +21,9 @@ public abstract class CallbackObject<L> extends NativeObject {
     /**
      * Makes the native bridge with {@code newBridge} (after checking the listener) and binds this
      * object to it as its Java callback object.
+     *
+     * @param listener the listener
+     * @param newBridge makes the native bridge and returns its address
      */
     protected CallbackObject(L listener, LongSupplier newBridge) {
         super(makeBridge(listener, newBridge));
@@ -35,11 +38,20 @@ public abstract class CallbackObject<L> extends NativeObject {
         return newBridge.getAsLong();
     }
 
-    /** The user data of the latest registration, or null. */
+    /**
+     * The user data of the latest registration, or null.
+     *
+     * @return the user data of the latest registration, or null
+     */
     public final Object getUserData() {
         return userData;
     }
 
+    /**
+     * The listener that receives the events, as given to the constructor.
+     *
+     * @return the listener that receives the events, as given to the constructor
+     */
     public final L getListener() {
         return listener;
     }

@@ -40,6 +40,12 @@ public class PoProbeCB extends CallbackObject<PoProbeCB.Listener> {
         void invoke(PoMeshProbePoint probe, PbCell cell, long cellHandle, Object userData);
     }
 
+    /**
+     * A callback object that hands each probe event to the listener.
+     *
+     * @param listener the listener
+     * @throws NullPointerException when listener is null
+     */
     public PoProbeCB(Listener listener) {
         super(listener, PoProbeCB::constructor);
     }

@@ -29,6 +29,12 @@ public class PoRebuildCB extends CallbackObject<PoRebuildCB.Listener> {
         void invoke(SoBaseKit node, long nodeHandle, Object userData);
     }
 
+    /**
+     * A callback object that hands each rebuild event to the listener.
+     *
+     * @param listener the listener
+     * @throws NullPointerException when listener is null
+     */
     public PoRebuildCB(Listener listener) {
         super(listener, PoRebuildCB::constructor);
     }
