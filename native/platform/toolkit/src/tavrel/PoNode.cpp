@@ -4,6 +4,7 @@
 #include <Tavrel/PoCellFilter.h>
 #include <Tavrel/PoMeshProperty.h>
 #include <Tavrel/PoNode.h>
+#include <Tavrel/PoPropertyNode.h>
 
 SO_NODE_ABSTRACT_SOURCE(PoNode, SoNode, "PoNode")
 
@@ -18,6 +19,8 @@ void enterState(PoNode* node, SoAction* action) {
     filter->makeCurrent(action);
   else if (const auto* property = dynamic_cast<const PoMeshProperty*>(node))
     property->makeCurrent(action);
+  else if (const auto* setter = dynamic_cast<const PoStateSetter*>(node))
+    setter->makeCurrent(action);
 }
 }  // namespace
 
