@@ -13,6 +13,7 @@
 
 #include <Corvel/SoAction.h>
 #include <Corvel/SoGroup.h>
+#include <Corvel/SoSeparator.h>
 #include <Corvel/SoInput.h>
 #include <Corvel/SoNode.h>
 #include <CorvelJNI/ICustomClass.h>
@@ -256,6 +257,10 @@ JNIEXPORT jint JNICALL Java_com_kestrum_corvel_nodes_SoNode_getRenderEngineModeN
 
 JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_nodes_SoGroup_newNative(JNIEnv*, jclass) {
   return handleOf(static_cast<SoNode*>(new SoGroup));
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_corvel_nodes_SoSeparator_newSeparatorNative(JNIEnv*, jclass) {
+  return handleOf(static_cast<SoNode*>(new SoSeparator));
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_corvel_nodes_SoGroup_addChildNative(JNIEnv*, jclass, jlong handle,

@@ -61,6 +61,13 @@ class SoAction {
   virtual void traverse(SoNode* node);
   // The state of the traversal in progress; null outside apply.
   SoState* getState() const { return state; }
+
+  // Element types of the states made from now on, for every action: the
+  // state makes the elements of the stack index with the type enabled for
+  // it, by default the type that created the index. A type is enabled only
+  // on an index whose creating type it derives from (false otherwise).
+  static bool enableElement(SoType type, int stackIndex);
+  static SoType getEnabledElement(int stackIndex);
   // Number of nodes this action has traversed since it was made.
   int getNodesTraversed() const { return nodesTraversed; }
 

@@ -4,25 +4,32 @@
 // gets a state of its own; the outer one is back when it returns. Outside an
 // apply an action has no state (SoAction::getState() is null): a node
 // operation called directly on a node, not through apply(), sees no state, so
-// a cell filter it goes through becomes no one's current filter and a
-// representation draws every cell.
+// it sets no element and a representation draws every cell of its own mesh.
 //
-// It holds two slots of the extension (this toolkit has no elements): the
-// current cell filter, which a cell filter sets when a traversal goes through
-// it, and the current mesh, which a mesh node (PoMeshProperty) sets to its
-// mesh when a traversal goes through it; the mesh representations traversed
-// afterwards read both. Each is null until the first such node; it stays set
-// to the end of the traversal or until the next node of its kind, as nothing
-// here scopes the state (a group does not, and there are no separators). The
-// state holds a reference on the node of each slot, so a filter or mesh node
-// that everything else lets go of during the traversal stays alive (and with
-// it the mesh it holds) until the next one replaces it or the traversal ends.
+// The state keeps one stack of elements per stack index (SoElement.h), made
+// on first use: its bottom element is made with the type enabled for the
+// index and initialised (init). push() and pop() open and close a depth
+// (SoSeparator does around its children; groups do not): an element written
+// at a deeper depth is pushed above the previous top and popped with the
+// depth, the previous top coming back. The state owns its elements and
+// deletes them when it goes (a Java element's native object included).
+//
+// The extension's elements name the node that set them and the state's
+// elements hold a reference on that node (SoReplacedElement.h): a cell filter
+// or mesh node that everything else lets go of during the traversal stays
+// alive (and with it the mesh it holds) until an element names another node
+// in its place or the traversal ends. The mesh representations read the
+// current cell filter and mesh from PoCellFilterElement and PoMeshElement.
+//
+// The cache flag (off by default) stands for an open render cache: while it
+// is set, reading an element (SoElement::getConstElement) captures it, and
+// SoElement::captureThis records it in getCaptured().
 #pragma once
 
+#include <vector>
+
 class SoAction;
-class SoBase;
-class PoCellFilter;
-class PbMesh;
+class SoElement;
 
 class SoState {
  public:
@@ -32,28 +39,29 @@ class SoState {
   SoState& operator=(const SoState&) = delete;
   SoAction* getAction() const { return action; }
   int getDepth() const { return depth; }
-  void push() { ++depth; }
-  void pop() { --depth; }
+  void push();
+  void pop();
 
-  const PoCellFilter* getCellFilter() const { return cellFilter; }
-  // Makes filter the current cell filter; node is the same object seen as a
-  // reference-counted base, on which the state holds its reference.
-  void setCellFilter(const PoCellFilter* filter, const SoBase* node);
+  bool isCacheOpen() const { return cacheOpen; }
+  void setCacheOpen(bool open);
+  // The elements captured while the cache flag was set, in order.
+  const std::vector<const SoElement*>& getCaptured() const { return captured; }
+  void addCaptured(const SoElement* element);
 
-  const PbMesh* getMesh() const { return mesh; }
-  // Makes mesh the current mesh; node is the mesh node that holds it, on which
-  // the state holds its reference.
-  void setMesh(const PbMesh* mesh, const SoBase* node);
+  // The top element of a stack (made on first use); null when no element
+  // could be made for it (an unknown index, or a type that made none).
+  SoElement* getElement(int stackIndex);
+  const SoElement* getConstElement(int stackIndex);
+  // The top element made writable at the current depth (SoElement.h).
+  SoElement* getElementForWriting(int stackIndex);
 
  private:
-  // Replaces the node a slot references (the new reference first: it may be
-  // the same node).
-  static void hold(const SoBase*& slot, const SoBase* node);
+  SoElement* make(int stackIndex);
 
   SoAction* action;
   int depth = 0;
-  const PoCellFilter* cellFilter = nullptr;
-  const SoBase* cellFilterNode = nullptr;
-  const PbMesh* mesh = nullptr;
-  const SoBase* meshNode = nullptr;
+  bool cacheOpen = false;
+  std::vector<SoElement*> tops;       // per stack index; null until first use
+  std::vector<SoElement*> owned;      // every element made, deleted with the state
+  std::vector<const SoElement*> captured;
 };

@@ -8,7 +8,7 @@
 //
 // Drawing (GLRender) and callback traversals select the cells to draw: the
 // representation asks the state's current cell filter (the last PoCellFilter
-// the traversal went through, see SoState.h) about every cell of its mesh,
+// the traversal went through, see PoCellFilterElement.h) about every cell of its mesh,
 // with the cell's value, and keeps the indices of the accepted cells
 // (selectedCells, replaced by each such traversal). Without a filter, or
 // outside apply (where an action has no state), every cell is accepted. The value of a cell comes from the mesh's values set 0:
@@ -17,10 +17,26 @@
 // (PbMesh::cellValues). The mesh is the one given to the most derived
 // setter: a 2D (3D) representation's PoMesh2D (PoMesh3D) mesh, else the
 // PoMesh one, else the state's current mesh (the mesh of the last mesh node
-// the traversal went through, see SoState.h; of whatever dimension). Without
+// the traversal went through, see PoMeshElement.h; of whatever dimension). Without
 // a mesh nothing is asked and no cell is selected. Each
 // selection is journaled as "PoMesh::selectCells(filter, numCells,
 // [accepted cells])". Other actions select nothing.
+//
+// The same traversals also take the attributes the representation draws
+// with: its own data mapping and isovalues list when it has them, else the
+// state's current ones (PoDataMappingElement, PoIsovaluesListElement, set by
+// the property nodes traversed before it), and the state's current domain
+// (PoDomainElement). What it drew with is shown, as text, in fields of its
+// own that SoNode::getField finds (not journaled):
+//   "drawnCells"  the indices of the selected cells;
+//   "cellColors"  the colour the data mapping gives each selected cell's
+//                 value, "r g b" after "r g b" (empty without a mapping);
+//   "isovalues"   the values of the isovalues list (empty without one);
+//   "domain"      the current domain's box, "xmin ymin zmin xmax ymax zmax"
+//                 (empty without one).
+// Numbers are written with up to 9 significant digits. Each such traversal
+// replaces all four; outside apply only the representation's own mapping
+// and isovalues count.
 #pragma once
 
 #include <Tavrel/PoDessvane.h>
@@ -30,6 +46,8 @@
 class PbMesh;
 class PbDataMapping;
 class PbIsovaluesList;
+class SoField;
+class SoState;
 
 class PoMesh : public PoDessvane {
   SO_KIT_HEADER(PoMesh)
@@ -68,6 +86,13 @@ class PoMesh : public PoDessvane {
 
  private:
   void selectCells(SoAction* action);
+  // Writes what the traversal drew with into the report fields.
+  void report(SoState* state, const std::vector<float>& cellValues);
+
+  SoField* drawnCellsField;
+  SoField* cellColorsField;
+  SoField* isovaluesField;
+  SoField* domainField;
 
   std::vector<int> selected;
   PbMesh* mesh = nullptr;

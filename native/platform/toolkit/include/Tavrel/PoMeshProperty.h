@@ -4,7 +4,7 @@
 // Behaviour of this toolkit (what a caller may rely on):
 //  - When an action traverses a mesh node (any action operation of PoNode,
 //    and doAction), the node makes its mesh (evaluated first, see SoField.h)
-//    the current mesh of the action's state (SoState::setMesh), so that the
+//    the current mesh of the action's state (PoMeshElement), so that the
 //    representations traversed after it that have no mesh of their own draw
 //    it (PoMesh.h). Outside apply an action has no state: nothing is set.
 //  - getMesh gives the address of the mesh inside the node's field: the same

@@ -5,7 +5,7 @@
 // write, write the node). All other operations are SoNode's.
 //
 // A cell filter (PoCellFilter) traversed by one of these operations becomes
-// the current cell filter of the action's state (SoState::setCellFilter)
+// the current cell filter of the action's state (PoCellFilterElement)
 // before its children are traversed, so that the representations traversed
 // after it ask it about their cells. PoNode's operations are where every filter comes,
 // whatever class or language implements it (the binding runs PoNode's own

@@ -40,29 +40,6 @@ void SoAction::traverse(SoNode* node) {
   node->doAction(this);
 }
 
-SoState::SoState(SoAction* action) : action(action) {}
-
-SoState::~SoState() {
-  hold(cellFilterNode, nullptr);
-  hold(meshNode, nullptr);
-}
-
-void SoState::hold(const SoBase*& slot, const SoBase* node) {
-  if (node != nullptr) node->ref();
-  if (slot != nullptr) slot->unref();
-  slot = node;
-}
-
-void SoState::setCellFilter(const PoCellFilter* filter, const SoBase* node) {
-  hold(cellFilterNode, node);
-  cellFilter = filter;
-}
-
-void SoState::setMesh(const PbMesh* m, const SoBase* node) {
-  hold(meshNode, node);
-  mesh = m;
-}
-
 SO_ACTION_SOURCE(SoCallbackAction, SoAction, "CallbackAction", callback)
 SO_ACTION_SOURCE(SoGetBoundingBoxAction, SoAction, "GetBoundingBoxAction", getBoundingBox)
 SO_ACTION_SOURCE(SoGetMatrixAction, SoAction, "GetMatrixAction", getMatrix)

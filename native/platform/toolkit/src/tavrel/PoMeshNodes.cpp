@@ -1,5 +1,6 @@
 // The mesh nodes: PoMeshProperty and the fifteen nodes that hold a mesh field.
 
+#include <Tavrel/PoMeshElement.h>
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoAction.h>
 #include <Corvel/SoState.h>
@@ -38,7 +39,7 @@ void PoMeshProperty::makeCurrent(SoAction* action) const {
   if (state == nullptr) return;
   PoSFMesh& field = meshField();
   field.evaluate();
-  state->setMesh(&field.heldMesh(), this);
+  PoMeshElement::setValue(state, const_cast<PoMeshProperty*>(this), &field.heldMesh());
 }
 
 // --- the fifteen nodes -------------------------------------------------------------------

@@ -1,3 +1,4 @@
+#include <Tavrel/PoCellFilterElement.h>
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoAction.h>
 #include <Corvel/SoState.h>
@@ -68,5 +69,5 @@ std::vector<int> PoCellFilter::selectCells(const PoCellFilter* filter, int numCe
 }
 
 void PoCellFilter::makeCurrent(SoAction* action) const {
-  if (SoState* state = action != nullptr ? action->getState() : nullptr) state->setCellFilter(this, this);
+  if (SoState* state = action != nullptr ? action->getState() : nullptr) PoCellFilterElement::setValue(state, const_cast<PoCellFilter*>(this));
 }

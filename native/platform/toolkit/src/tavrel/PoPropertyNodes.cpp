@@ -8,6 +8,17 @@
 #include <Corvel/SoField.h>
 #include <Corvel/SoState.h>
 #include <Tavrel/PbMesh.h>
+#include <Tavrel/PoBevelEdgeElement.h>
+#include <Tavrel/PoDataMappingElement.h>
+#include <Tavrel/PoDateFormatMappingElement.h>
+#include <Tavrel/PoDomainElement.h>
+#include <Tavrel/PoIsovaluesListElement.h>
+#include <Tavrel/PoLabelHintsElement.h>
+#include <Tavrel/PoMesh1DFilterElement.h>
+#include <Tavrel/PoMesh1DHintsElement.h>
+#include <Tavrel/PoMiscTextAttrElement.h>
+#include <Tavrel/PoNumericDisplayFormatElement.h>
+#include <Tavrel/PoProfileElement.h>
 #include <Tavrel/PoBevelEdge.h>
 #include <Tavrel/PoCircularProfile.h>
 #include <Tavrel/PoCoordinateListFilter.h>
@@ -114,12 +125,16 @@ using namespace po_fields;
 
 namespace {
 SoField* field(SoFieldContainer* node, const char* name, const char* initial) {
+  CallJournal::Quiet quiet;
   SoField* f = node->addOwnField(name);
   f->setValueString(initial);
   return f;
 }
 
 SoState* stateOf(SoAction* action) { return action != nullptr ? action->getState() : nullptr; }
+
+// The node as the state's elements name it (they hold a reference on it).
+SoNode* self(const SoNode* node) { return const_cast<SoNode*>(node); }
 }  // namespace
 
 // Type, construction, doAction and destruction of a property node; the
@@ -157,7 +172,10 @@ PoBevelEdge::RadiusFlag PoBevelEdge::getRadiusFlag() const {
   return static_cast<RadiusFlag>(readInt(radiusFlagField, ABSOLUTERADIUS));
 }
 
-void PoBevelEdge::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoBevelEdge::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action))
+    PoBevelEdgeElement::setValue(state, self(this), isOn() ? 1 : 0, getAngle(), getRadiusFlag(), getRadius());
+}
 
 // --- data mappings -------------------------------------------------------------------------
 
@@ -172,7 +190,9 @@ void PoDataMapping::doAction(SoAction* action) {
   traverseChildren(action);
 }
 
-void PoDataMapping::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoDataMapping::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoDataMappingElement::setValue(state, self(this), getMapping());
+}
 
 PO_SUBCLASS_SOURCE(PoLinearDataMapping, PoDataMapping)
 
@@ -250,7 +270,9 @@ int PoDateFormatMapping::getCoordinate(const char* date, float& coord) const {
   return current->getCoordinate(SbString(date), coord);
 }
 
-void PoDateFormatMapping::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoDateFormatMapping::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoDateFormatMappingElement::setValue(state, self(this), getMapping());
+}
 
 // --- PoDomain --------------------------------------------------------------------------------
 
@@ -320,7 +342,9 @@ const SbMatrix* PoDomain::getMatrixTransform() const {
   return current->getMatrixTransform();
 }
 
-void PoDomain::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoDomain::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoDomainElement::setValue(state, self(this), getDomain());
+}
 
 // --- PoIsovaluesList -------------------------------------------------------------------------
 
@@ -355,7 +379,9 @@ const float* PoIsovaluesList::getIsoList(int& num, float& min, float& max, float
   return list.getIsoList(num, min, max, step, isRegular);
 }
 
-void PoIsovaluesList::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoIsovaluesList::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoIsovaluesListElement::setValue(state, self(this), &list);
+}
 
 // --- hints, text attributes, numeric format --------------------------------------------------
 
@@ -373,7 +399,10 @@ PoLabelHints::Justification PoLabelHints::getJustification() const {
   return static_cast<Justification>(readInt(justificationField, LEFT));
 }
 
-void PoLabelHints::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoLabelHints::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action))
+    PoLabelHintsElement::setValue(state, self(this), getLabelPath(), getJustification(), nullptr, 0, 0);
+}
 
 PO_PROPERTY_NODE_SOURCE(PoMesh1DHints, PoNode)
 
@@ -385,7 +414,9 @@ PoMesh1DHints::GeomInterpretation PoMesh1DHints::getGeomInterpretation() const {
   return static_cast<GeomInterpretation>(readInt(geomInterpretationField, ASIS));
 }
 
-void PoMesh1DHints::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoMesh1DHints::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoMesh1DHintsElement::setValue(state, self(this), getGeomInterpretation());
+}
 
 PO_PROPERTY_NODE_SOURCE(PoMiscTextAttr, PoNode)
 
@@ -404,7 +435,9 @@ const PbMiscTextAttr* PoMiscTextAttr::getTextAttr() const {
   return &textAttr;
 }
 
-void PoMiscTextAttr::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoMiscTextAttr::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoMiscTextAttrElement::setValue(state, self(this), getTextAttr());
+}
 
 PO_PROPERTY_NODE_SOURCE(PoNumericDisplayFormat, PoNode)
 
@@ -423,7 +456,9 @@ const PbNumericDisplayFormat* PoNumericDisplayFormat::getFormat() const {
   return &format;
 }
 
-void PoNumericDisplayFormat::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoNumericDisplayFormat::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoNumericDisplayFormatElement::setValue(state, self(this), getFormat());
+}
 
 // --- 1D-mesh filters -------------------------------------------------------------------------
 
@@ -438,7 +473,9 @@ void PoMesh1DFilter::doAction(SoAction* action) {
   traverseChildren(action);
 }
 
-void PoMesh1DFilter::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoMesh1DFilter::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoMesh1DFilterElement::setValue(state, self(this), this);
+}
 
 std::vector<int> PoMesh1DFilter::selectPoints(const PoMesh1DFilter* filter, const PbMesh& mesh) {
   CallJournal::Quiet quiet;
@@ -549,7 +586,9 @@ void PoProfile::doAction(SoAction* action) {
   traverseChildren(action);
 }
 
-void PoProfile::makeCurrent(SoAction* action) const { (void)stateOf(action); }
+void PoProfile::makeCurrent(SoAction* action) const {
+  if (SoState* state = stateOf(action)) PoProfileElement::setValue(state, self(this), this);
+}
 
 namespace {
 std::vector<SbVec2f> ellipse(float rx, float ry, int numPoints) {

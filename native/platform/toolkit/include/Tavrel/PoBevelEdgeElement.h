@@ -1,0 +1,30 @@
+// The current bevel edge of a traversal: whether edges are bevelled, the
+// angle above which they are, how the radius counts and the radius; by
+// default off, 0, ABSOLUTERADIUS, 0. See PoElementSubClass.h.
+#pragma once
+
+#include <Tavrel/PoBevelEdge.h>
+#include <Tavrel/PoElementSubClass.h>
+
+class PoBevelEdgeElement : public SoReplacedElement {
+  PO_ELEMENT_HEADER(PoBevelEdgeElement)
+ public:
+  static void set(SoState* state, SoNode* node, int on, float angle, PoBevelEdge::RadiusFlag radiusFlag,
+                   float radius);
+
+  // --- Used inside this toolkit (not journaled) ---
+  static void setValue(SoState* state, SoNode* node, int on, float angle, PoBevelEdge::RadiusFlag radiusFlag,
+                       float radius);
+  // The top element (defaults when none could be made: a null pointer).
+  static const PoBevelEdgeElement* current(SoState* state);
+  int isOn() const { return on; }
+  float getAngle() const { return angle; }
+  PoBevelEdge::RadiusFlag getRadiusFlag() const { return radiusFlag; }
+  float getRadius() const { return radius; }
+
+ private:
+  int on = 0;
+  float angle = 0;
+  PoBevelEdge::RadiusFlag radiusFlag = PoBevelEdge::ABSOLUTERADIUS;
+  float radius = 0;
+};
