@@ -154,6 +154,7 @@ void PoMesh::selectCells(SoAction* action) {
   if (drawn == nullptr && state != nullptr) drawn = PoMeshElement::current(state);
   if (drawn == nullptr) {
     selected.clear();
+    report(state, {});
     return;
   }
   const PoCellFilter* filter = state != nullptr ? PoCellFilterElement::current(state) : nullptr;
