@@ -6,9 +6,12 @@
 #pragma once
 
 #include <Corvel/SbBase.h>
+#include <Corvel/SoType.h>
 
 class SoNode;
 class SoInput;
+class SoElement;
+class SoState;
 
 class ISoNodeProtectedMethodAccess {
  public:
@@ -23,3 +26,22 @@ class ISoBaseProtectedMethodAccess {
   virtual const char* getFileFormatNameDefaultImpl() const = 0;
   virtual SbBool readInstanceDefaultImpl(SoInput* in, unsigned short flags) = 0;
 };
+
+// The toolkit's own element operations, for Java elements whose overrides
+// call their superclass, and access to protected members of SoElement. The
+// binding core calls them by slot: the order is fixed.
+class ISoElementProtectedMethodAccess {
+ public:
+  virtual void initDefaultImpl(SoState* state) = 0;
+  virtual void setPoppedDefaultImpl(int value) = 0;
+  virtual SoElement* getNextFreeDefaultImpl() const = 0;
+  virtual void setTypeIdDefaultImpl(SoType type) = 0;
+  virtual void captureThisDefaultImpl(SoState* state) const = 0;
+  virtual void captureDefaultImpl(SoState* state) const = 0;
+  virtual SoElement* getNextInStackDefaultImpl() const = 0;
+  virtual SoElement* copyMatchInfoDefaultImpl() const = 0;
+  virtual SbBool matchesDefaultImpl(const SoElement* element) const = 0;
+  virtual SbBool isPoppedDefaultImpl() const = 0;
+};
+
+class ISoReplacedElementProtectedMethodAccess {};

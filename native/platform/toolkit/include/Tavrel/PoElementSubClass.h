@@ -35,7 +35,7 @@
   static SoType s_classTypeId;           \
   static int s_classStackIndex;          \
   /* registers the class on first use */ \
-  static int stackIndex();               \
+  static int registeredStackIndex();               \
                                          \
  public:
 

@@ -55,7 +55,7 @@ const void* addr(const void* p) { return p; }
     setStackIndex(s_classStackIndex);                                                                  \
   }                                                                                                    \
   className::~className() = default;                                                                   \
-  int className::stackIndex() {                                                                        \
+  int className::registeredStackIndex() {                                                                        \
     if (s_classStackIndex < 0) initClass();                                                            \
     return s_classStackIndex;                                                                          \
   }                                                                                                    \
@@ -77,11 +77,11 @@ const void* addr(const void* p) { return p; }
     return current(state);                                                                             \
   }                                                                                                    \
   void className::setValue(SoState* state, SoNode* node, const ValueType* v) {                         \
-    if (auto* e = static_cast<className*>(SoReplacedElement::getElement(state, stackIndex(), node))) \
+    if (auto* e = static_cast<className*>(SoReplacedElement::getElement(state, registeredStackIndex(), node))) \
       e->value = v;                                                                                    \
   }                                                                                                    \
   const ValueType* className::current(SoState* state) {                                                \
-    auto* e = static_cast<const className*>(SoElement::getConstElement(state, stackIndex()));     \
+    auto* e = static_cast<const className*>(SoElement::getConstElement(state, registeredStackIndex()));     \
     return e != nullptr ? e->value : nullptr;                                                          \
   }
 
@@ -117,7 +117,7 @@ void PoBevelEdgeElement::set(SoState* state, SoNode* node, int o, float a, PoBev
 
 void PoBevelEdgeElement::setValue(SoState* state, SoNode* node, int o, float a, PoBevelEdge::RadiusFlag flag,
                                   float r) {
-  auto* e = static_cast<PoBevelEdgeElement*>(SoReplacedElement::getElement(state, stackIndex(), node));
+  auto* e = static_cast<PoBevelEdgeElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
   if (e == nullptr) return;
   e->on = o;
   e->angle = a;
@@ -126,7 +126,7 @@ void PoBevelEdgeElement::setValue(SoState* state, SoNode* node, int o, float a, 
 }
 
 const PoBevelEdgeElement* PoBevelEdgeElement::current(SoState* state) {
-  return static_cast<const PoBevelEdgeElement*>(SoElement::getConstElement(state, stackIndex()));
+  return static_cast<const PoBevelEdgeElement*>(SoElement::getConstElement(state, registeredStackIndex()));
 }
 
 // --- cell filter -----------------------------------------------------------------------
@@ -149,12 +149,12 @@ const PoCellFilter* PoCellFilterElement::get(SoState* state) {
 }
 
 void PoCellFilterElement::setValue(SoState* state, SoNode* node) {
-  auto* e = static_cast<PoCellFilterElement*>(SoReplacedElement::getElement(state, stackIndex(), node));
+  auto* e = static_cast<PoCellFilterElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
   if (e != nullptr) e->filter = dynamic_cast<const PoCellFilter*>(node);
 }
 
 const PoCellFilter* PoCellFilterElement::current(SoState* state) {
-  auto* e = static_cast<const PoCellFilterElement*>(SoElement::getConstElement(state, stackIndex()));
+  auto* e = static_cast<const PoCellFilterElement*>(SoElement::getConstElement(state, registeredStackIndex()));
   return e != nullptr ? e->filter : nullptr;
 }
 
@@ -180,7 +180,7 @@ void PoLabelHintsElement::set(SoState* state, SoNode* node, PoLabelHints::LabelP
 
 void PoLabelHintsElement::setValue(SoState* state, SoNode* node, PoLabelHints::LabelPath path,
                                    PoLabelHints::Justification just, const char* t, int f, int s) {
-  auto* e = static_cast<PoLabelHintsElement*>(SoReplacedElement::getElement(state, stackIndex(), node));
+  auto* e = static_cast<PoLabelHintsElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
   if (e == nullptr) return;
   e->labelPath = path;
   e->justification = just;
@@ -190,7 +190,7 @@ void PoLabelHintsElement::setValue(SoState* state, SoNode* node, PoLabelHints::L
 }
 
 const PoLabelHintsElement* PoLabelHintsElement::current(SoState* state) {
-  return static_cast<const PoLabelHintsElement*>(SoElement::getConstElement(state, stackIndex()));
+  return static_cast<const PoLabelHintsElement*>(SoElement::getConstElement(state, registeredStackIndex()));
 }
 
 // --- 1D-mesh hints ---------------------------------------------------------------------
@@ -213,12 +213,12 @@ PoMesh1DHints::GeomInterpretation PoMesh1DHintsElement::get(SoState* state) {
 }
 
 void PoMesh1DHintsElement::setValue(SoState* state, SoNode* node, PoMesh1DHints::GeomInterpretation i) {
-  auto* e = static_cast<PoMesh1DHintsElement*>(SoReplacedElement::getElement(state, stackIndex(), node));
+  auto* e = static_cast<PoMesh1DHintsElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
   if (e != nullptr) e->interpretation = i;
 }
 
 PoMesh1DHints::GeomInterpretation PoMesh1DHintsElement::current(SoState* state) {
-  auto* e = static_cast<const PoMesh1DHintsElement*>(SoElement::getConstElement(state, stackIndex()));
+  auto* e = static_cast<const PoMesh1DHintsElement*>(SoElement::getConstElement(state, registeredStackIndex()));
   return e != nullptr ? e->interpretation : PoMesh1DHints::ASIS;
 }
 
@@ -258,7 +258,7 @@ void PoMeshElement::set(SoState* state, SoNode* node, const PbMesh3D* m) {
 }
 
 void PoMeshElement::setValue(SoState* state, SoNode* node, const PbMesh* m) {
-  auto* e = static_cast<PoMeshElement*>(SoReplacedElement::getElement(state, stackIndex(), node));
+  auto* e = static_cast<PoMeshElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
   if (e == nullptr) return;
   e->mesh = m;
   e->mesh1D = dynamic_cast<const PbMesh1D*>(m);
@@ -267,14 +267,14 @@ void PoMeshElement::setValue(SoState* state, SoNode* node, const PbMesh* m) {
 }
 
 const PbMesh* PoMeshElement::current(SoState* state) {
-  auto* e = static_cast<const PoMeshElement*>(SoElement::getConstElement(state, stackIndex()));
+  auto* e = static_cast<const PoMeshElement*>(SoElement::getConstElement(state, registeredStackIndex()));
   return e != nullptr ? e->mesh : nullptr;
 }
 
 #define PO_MESH_GETTER(name, Type, member)                                                          \
   const Type* PoMeshElement::name(SoState* state) {                                                 \
     CallJournal::record("PoMeshElement::" #name, addr(state));                                      \
-    auto* e = static_cast<const PoMeshElement*>(SoElement::getConstElement(state, stackIndex())); \
+    auto* e = static_cast<const PoMeshElement*>(SoElement::getConstElement(state, registeredStackIndex())); \
     return e != nullptr ? e->member : nullptr;                                                      \
   }
 PO_MESH_GETTER(getMesh, PbMesh, mesh)
@@ -286,7 +286,7 @@ PO_MESH_GETTER(getMesh3D, PbMesh3D, mesh3D)
 
 const SbVec2f* PoProfileElement::getProfile(SoState* state, float v, int& count) {
   CallJournal::record("PoProfileElement::getProfile", addr(state), v, count);
-  auto* e = static_cast<const PoProfileElement*>(SoElement::getConstElement(state, stackIndex()));
+  auto* e = static_cast<const PoProfileElement*>(SoElement::getConstElement(state, registeredStackIndex()));
   if (e == nullptr || e->value == nullptr) {
     count = 0;
     return nullptr;
@@ -299,7 +299,7 @@ const SbVec2f* PoProfileElement::getProfile(SoState* state, float v, int& count)
 
 SbBox2f PoProfileElement::getBBox(SoState* state) {
   CallJournal::record("PoProfileElement::getBBox", addr(state));
-  auto* e = static_cast<const PoProfileElement*>(SoElement::getConstElement(state, stackIndex()));
+  auto* e = static_cast<const PoProfileElement*>(SoElement::getConstElement(state, registeredStackIndex()));
   if (e == nullptr || e->value == nullptr) return SbBox2f();
   return SbBox2f(-1, -1, 1, 1);
 }

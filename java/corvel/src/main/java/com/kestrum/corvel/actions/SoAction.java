@@ -3,6 +3,8 @@ package com.kestrum.corvel.actions;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.corvel.misc.SoState;
+import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 
 /**
@@ -48,7 +50,45 @@ public class SoAction extends NativeObject {
      * during the traversal (from a Java node or a listener) lets go of them once it is over.
      */
     public void apply(SoNode node) {
-        callWith(node, "node", SoAction::applyNative);
+        Traversals.begin();
+        try {
+            callWith(node, "node", SoAction::applyNative);
+        } finally {
+            Traversals.end();
+        }
+    }
+
+    /**
+     * The state of the traversal in progress, for the Java code that the traversal calls (a Java
+     * node's override, for instance). It is disposed when that traversal's apply returns.
+     *
+     * @return the state, or null outside apply and on a thread other than the applying one
+     * @throws IllegalStateException when the action has been disposed
+     */
+    public SoState getState() {
+        long state = getStateNative(handle());
+        if (state == 0 || !Traversals.isActive()) {
+            return null;
+        }
+        return (SoState) ManagedObjects.get("com.kestrum.corvel.misc.SoState", state);
+    }
+
+    /**
+     * Makes the states of every action from now on make the elements of a stack index with the
+     * toolkit type of that name (a Java element class's type, for instance), instead of the type
+     * that created the index.
+     *
+     * @param typeName the element type's name
+     * @param stackIndex the stack index
+     * @return false, changing nothing, when no element type of that name derives from the type
+     *     that created the index (or the index is unknown)
+     * @throws NullPointerException when typeName is null
+     */
+    public static boolean enableElement(String typeName, int stackIndex) {
+        if (typeName == null) {
+            throw new NullPointerException("typeName is null");
+        }
+        return enableElementNative(typeName, stackIndex);
     }
 
     /** The number of nodes this action has traversed since it was made. */
@@ -63,4 +103,8 @@ public class SoAction extends NativeObject {
     private static native void applyNative(long handle, long node);
 
     private static native int getNodesTraversedNative(long handle);
+
+    private static native long getStateNative(long handle);
+
+    private static native boolean enableElementNative(String typeName, int stackIndex);
 }

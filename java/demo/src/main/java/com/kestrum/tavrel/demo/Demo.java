@@ -25,6 +25,7 @@ public final class Demo {
                 new CustomNodeSection(),
                 new MeshNodeSection(),
                 new PropertyNodeSection(),
+                new ElementSection(),
                 new GraphSection(),
                 new AxesSection(),
                 new ShapesSection(),

@@ -18,6 +18,9 @@ import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.corvel.nodes.SoGroup;
+import com.kestrum.corvel.nodes.SoSeparator;
+import com.kestrum.corvel.elements.SoElement;
+import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.PoTavrel;
 import java.io.IOException;
@@ -53,18 +56,19 @@ final class Surface {
             "com.kestrum.tavrel.nodes",
             "com.kestrum.tavrel.misc.callbacks",
             "com.kestrum.tavrel.graph",
+            "com.kestrum.tavrel.elements",
             "com.kestrum.tavrel.internal");
 
     /** The binding core's classes that the product's methods take or return. */
     static final List<Class<?>> BINDING_CORE = List.of(
-            SoNode.class, SoGroup.class, SoBaseKit.class, SoField.class, SoState.class, SoInput.class,
+            SoNode.class, SoGroup.class, SoSeparator.class, SoElement.class, SoReplacedElement.class, SoBaseKit.class, SoField.class, SoState.class, SoInput.class,
             SoAction.class, SoCallbackAction.class, SoDistributeAction.class, SoGLRenderAction.class,
             SoGetBoundingBoxAction.class, SoGetMatrixAction.class, SoGetPrimitiveCountAction.class,
             SoHandleEventAction.class, SoPickAction.class, SoRayPickAction.class, SoSearchAction.class,
             SoWriteAction.class);
 
     /** Java-extended nodes whose overrides misbehave (the product's node bases are abstract). */
-    static final List<Class<?>> EXTENSIONS = List.of(HostileNode.class, HostileFilter.class);
+    static final List<Class<?>> EXTENSIONS = List.of(HostileNode.class, HostileFilter.class, HostileElement.class);
 
     /**
      * What is deliberately never called, and why. Everything else public is.

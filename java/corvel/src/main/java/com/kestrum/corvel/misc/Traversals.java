@@ -1,0 +1,101 @@
+package com.kestrum.corvel.misc;
+
+import java.util.ArrayDeque;
+import java.util.ArrayList;
+import java.util.Deque;
+import java.util.List;
+
+/**
+ * The traversals in progress on the calling thread: one scope per {@code SoAction.apply} (an
+ * apply inside another opens a scope inside the outer one). A traversal's state and the
+ * elements it makes live only until its apply returns, so their Java views are tied to the
+ * scope in which they were made and are disposed when it ends; objects that a traversal uses
+ * by address (attribute objects and meshes given to an element) are held until it ends.
+ *
+ * <p>A view made on a thread without a scope (the state of another thread's traversal, for
+ * instance) is disposed at once: its methods throw {@link IllegalStateException}.
+ */
+public final class Traversals {
+    private static final ThreadLocal<Deque<Scope>> SCOPES = ThreadLocal.withInitial(ArrayDeque::new);
+
+    /** What one apply made and holds. */
+    private static final class Scope {
+        final List<NativeObject> views = new ArrayList<>();
+        final List<NativeObject> held = new ArrayList<>();
+    }
+
+    private Traversals() {}
+
+    /**
+     * Opens the scope of a traversal on the calling thread; {@link #end()} must follow in a
+     * finally block.
+     */
+    public static void begin() {
+        SCOPES.get().push(new Scope());
+    }
+
+    /**
+     * Closes the innermost scope of the calling thread: disposes the views made in it and lets go
+     * of the objects it held. Does nothing without a scope.
+     */
+    public static void end() {
+        Scope scope = SCOPES.get().poll();
+        if (scope == null) {
+            return;
+        }
+        for (NativeObject view : scope.views) {
+            view.dispose();
+        }
+        for (NativeObject object : scope.held) {
+            object.leave();
+        }
+    }
+
+    /**
+     * Whether a traversal is in progress on the calling thread.
+     *
+     * @return true inside an apply
+     */
+    public static boolean isActive() {
+        return !SCOPES.get().isEmpty();
+    }
+
+    /**
+     * Ties a view to the innermost scope of the calling thread: it is disposed when the scope
+     * ends, or at once when there is no scope.
+     *
+     * @param view the view of a native object that lives no longer than the traversal
+     * @param <T> the view's class
+     * @return the view
+     */
+    public static <T extends NativeObject> T own(T view) {
+        Scope scope = SCOPES.get().peek();
+        if (scope == null) {
+            view.dispose();
+        } else {
+            scope.views.add(view);
+        }
+        return view;
+    }
+
+    /**
+     * Holds an object until the innermost scope ends, as a native call holds its arguments: its
+     * native object is not let go meanwhile, even if it is disposed. Does nothing for null.
+     *
+     * @param object the object, or null
+     * @param name the argument's name, for the exceptions
+     * @throws IllegalStateException when the object has been disposed, or when no traversal is in
+     *     progress on the calling thread
+     */
+    public static void hold(NativeObject object, String name) {
+        if (object == null) {
+            return;
+        }
+        Scope scope = SCOPES.get().peek();
+        if (scope == null) {
+            throw new IllegalStateException("No traversal is in progress on this thread");
+        }
+        NativeObject.enter(object, name);
+        scope.held.add(object);
+    }
+}

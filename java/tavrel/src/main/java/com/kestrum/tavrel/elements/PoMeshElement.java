@@ -1,0 +1,221 @@
+package com.kestrum.tavrel.elements;
+
+import com.kestrum.corvel.elements.SoElement;
+import com.kestrum.corvel.elements.SoReplacedElement;
+import com.kestrum.corvel.misc.SoState;
+import com.kestrum.corvel.misc.Traversals;
+import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.data.PbMesh;
+import com.kestrum.tavrel.data.PbMesh1D;
+import com.kestrum.tavrel.data.PbMesh2D;
+import com.kestrum.tavrel.data.PbMesh3D;
+import com.kestrum.tavrel.internal.JarInitializer;
+import com.kestrum.tavrel.internal.JavaViews;
+import java.util.concurrent.atomic.AtomicBoolean;
+
+/**
+ * The element of a traversal state that holds the mesh that the representations after it without a mesh of their own draw.
+ *
+ * <p>The static methods set and read the element in a traversal state (the state a Java node or
+ * element is given during an {@code apply}, see {@code SoAction.getState}).
+ *
+ * <p>Subclass it to take part in traversals: override {@link #push}, {@link #pop},
+ * {@link #init}, {@link #matches}, {@link #copyMatchInfo} or {@link #captureThis}; the toolkit
+ * calls the overrides on the elements that its traversal states make of the class, once the
+ * class's type is enabled ({@code SoAction.enableElement(element.getTypeName(),
+ * element.getStackIndex())}). {@code super} reaches the toolkit's behaviour; {@code push} and
+ * {@code pop} have none. Each Java class gets a toolkit type named after its simple name, a stack
+ * index (that of this class) and an element key, made by its first object; the toolkit makes
+ * further objects with the constructor without arguments. An exception thrown by an override
+ * that the toolkit called reaches the Java caller of {@code apply} as an
+ * {@link IllegalArgumentException} "Exception raised during execution of
+ * CustomPoMeshElement.&lt;operation&gt;." with the exception as its cause; the rest of that traversal no
+ * longer calls Java.
+ *
+ * <p>An element made by a traversal state is disposed when the traversal ends. One made with
+ * {@code new} belongs to its Java object: dispose it when done (it is {@link AutoCloseable}).
+ */
+public abstract class PoMeshElement extends SoReplacedElement {
+    static {
+        JarInitializer.init();
+        nativeDerivedClassInit();
+    }
+
+    /**
+     * A new element of the Java subclass, bound to its class's toolkit type.
+     *
+     * @throws IllegalArgumentException when the class is anonymous, or another class has a toolkit
+     *     type of the same simple name
+     */
+    protected PoMeshElement() {
+        this(ElementTypes.ownership());
+    }
+
+    private PoMeshElement(AtomicBoolean owns) {
+        super(ctorImpl(), owns);
+        registerAsPeer(false);
+        ElementTypes.bind(this, getNativeResourceHandleInternal(), owns.get(), PoMeshElement::initCustomClass);
+    }
+
+    /**
+     * The name of the toolkit type of the element class (the parent of every Java subclass's type).
+     *
+     * @return the type name
+     */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    /**
+     * The stack index of the toolkit element class, shared by the Java subclasses.
+     *
+     * @return the index
+     */
+    public static int getClassStackIndex() {
+        return getClassStackIndexImpl();
+    }
+
+    /**
+     * Makes the 1D mesh the mesh of the traversal: the top element of the class's stack, at the
+     * state's depth, names the node and keeps the mesh's address. The mesh is held until the
+     * traversal ends.
+     *
+     * @param state the traversal state
+     * @param node the node that sets the mesh, or null
+     * @param mesh the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static void set(SoState state, SoNode node, PbMesh1D mesh) {
+        long s = handleOf(state, "state");
+        long n = handleOrZero(node, "node");
+        long m = handleOrZero(mesh, "mesh");
+        Traversals.hold(mesh, "mesh");
+        setImpl(s, n, m);
+    }
+
+    /**
+     * Makes the 2D mesh the mesh of the traversal: the top element of the class's stack, at the
+     * state's depth, names the node and keeps the mesh's address. The mesh is held until the
+     * traversal ends.
+     *
+     * @param state the traversal state
+     * @param node the node that sets the mesh, or null
+     * @param mesh the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static void set(SoState state, SoNode node, PbMesh2D mesh) {
+        long s = handleOf(state, "state");
+        long n = handleOrZero(node, "node");
+        long m = handleOrZero(mesh, "mesh");
+        Traversals.hold(mesh, "mesh");
+        setImpl1(s, n, m);
+    }
+
+    /**
+     * Makes the 3D mesh the mesh of the traversal: the top element of the class's stack, at the
+     * state's depth, names the node and keeps the mesh's address. The mesh is held until the
+     * traversal ends.
+     *
+     * @param state the traversal state
+     * @param node the node that sets the mesh, or null
+     * @param mesh the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static void set(SoState state, SoNode node, PbMesh3D mesh) {
+        long s = handleOf(state, "state");
+        long n = handleOrZero(node, "node");
+        long m = handleOrZero(mesh, "mesh");
+        Traversals.hold(mesh, "mesh");
+        setImpl2(s, n, m);
+    }
+
+    /**
+     * The mesh of the traversal, whatever its dimension.
+     *
+     * @param state the traversal state
+     * @return the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static PbMesh getMesh(SoState state) {
+        return JavaViews.find(PbMesh.class, getMeshImpl(handleOf(state, "state")), null);
+    }
+
+    /**
+     * The mesh of the traversal, when it was set as a 1D mesh.
+     *
+     * @param state the traversal state
+     * @return the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static PbMesh1D getMesh1D(SoState state) {
+        return JavaViews.find(PbMesh1D.class, getMesh1DImpl(handleOf(state, "state")), null);
+    }
+
+    /**
+     * The mesh of the traversal, when it was set as a 2D mesh.
+     *
+     * @param state the traversal state
+     * @return the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static PbMesh2D getMesh2D(SoState state) {
+        return JavaViews.find(PbMesh2D.class, getMesh2DImpl(handleOf(state, "state")), null);
+    }
+
+    /**
+     * The mesh of the traversal, when it was set as a 3D mesh.
+     *
+     * @param state the traversal state
+     * @return the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     */
+    public static PbMesh3D getMesh3D(SoState state) {
+        return JavaViews.find(PbMesh3D.class, getMesh3DImpl(handleOf(state, "state")), null);
+    }
+
+    /**
+     * Gives the element its default value: the toolkit's behaviour of the element class.
+     *
+     * @param state the traversal state
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the element or the state has been disposed
+     */
+    @Override
+    public void init(SoState state) {
+        initImpl(handle(), handleOf(state, "state"));
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+
+    private static native int getClassStackIndexImpl();
+
+    private static native void nativeDerivedClassInit();
+
+    private static native int[] initCustomClass(long element, Object peer, boolean create, String typeName, int stackIndex,
+            short key);
+
+    private static native void initImpl(long element, long state);
+
+    private static native void setImpl(long state, long node, long mesh);
+
+    private static native void setImpl1(long state, long node, long mesh);
+
+    private static native void setImpl2(long state, long node, long mesh);
+
+    private static native long getMeshImpl(long state);
+
+    private static native long getMesh1DImpl(long state);
+
+    private static native long getMesh2DImpl(long state);
+
+    private static native long getMesh3DImpl(long state);
+}
