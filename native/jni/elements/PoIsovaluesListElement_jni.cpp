@@ -3,7 +3,6 @@
 
 #include <jni.h>
 
-#include <Corvel/SoModuleCheck.h>
 #include <Corvel/SoNode.h>
 #include <Corvel/SoState.h>
 #include <Tavrel/PoIsovaluesListElement.h>
@@ -12,8 +11,6 @@
 #include "common/Elements.h"
 #include "common/Handles.h"
 #include "custom/CustomElement.h"
-
-static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 extern "C" {
 
