@@ -41,6 +41,17 @@ class CallJournal {
   template <class... Args>
   static void record(const char* function, const Args&... args);
 
+  // While one of these lives, the calling thread's lines are dropped: a
+  // toolkit object that uses another one inside (a property node and the
+  // attribute object it keeps) records only its own entry point.
+  class Quiet {
+   public:
+    Quiet();
+    ~Quiet();
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+  };
+
  private:
   static std::atomic<bool> s_enabled;
 };

@@ -1,9 +1,32 @@
-// The bevel-edge property node's values that its element carries. The node
-// itself comes with the attribute property nodes; until then this header
-// gives what the element (PoBevelEdgeElement.h) needs.
+// A property node that gives the edges of the shapes after it a bevel.
+//
+// Fields (see PoPropertyNode.h for how they are read), with their defaults:
+//   "on"          TRUE: the edges are bevelled;
+//   "angle"       0.5: edges between faces at a larger angle (radians) are
+//                 bevelled;
+//   "radius"      0.05: the bevel's radius;
+//   "radiusFlag"  ABSOLUTERADIUS: the radius is a length; PERCENTAGERADIUS
+//                 makes it a fraction of the shape's size.
+// When traversed it becomes the state's current bevel edge (PoBevelEdgeElement).
 #pragma once
 
-class PoBevelEdge {
+#include <Tavrel/PoPropertyNode.h>
+
+class PoBevelEdge : public PoNode, public PoStateSetter {
+  PO_PROPERTY_NODE_HEADER(PoBevelEdge)
+
  public:
   enum RadiusFlag : int { ABSOLUTERADIUS = 0, PERCENTAGERADIUS = 1 };
+
+  // --- Used inside this toolkit (not journaled) ---
+  bool isOn() const;
+  float getAngle() const;
+  float getRadius() const;
+  RadiusFlag getRadiusFlag() const;
+
+ private:
+  SoField* onField;
+  SoField* angleField;
+  SoField* radiusField;
+  SoField* radiusFlagField;
 };

@@ -21,6 +21,22 @@
 // a mesh nothing is asked and no cell is selected. Each
 // selection is journaled as "PoMesh::selectCells(filter, numCells,
 // [accepted cells])". Other actions select nothing.
+//
+// The same traversals also take the attributes the representation draws
+// with: its own data mapping and isovalues list when it has them, else the
+// state's current ones (PoDataMappingElement, PoIsovaluesListElement, set by
+// the property nodes traversed before it), and the state's current domain
+// (PoDomainElement). What it drew with is shown, as text, in fields of its
+// own that SoNode::getField finds (not journaled):
+//   "drawnCells"  the indices of the selected cells;
+//   "cellColors"  the colour the data mapping gives each selected cell's
+//                 value, "r g b" after "r g b" (empty without a mapping);
+//   "isovalues"   the values of the isovalues list (empty without one);
+//   "domain"      the current domain's box, "xmin ymin zmin xmax ymax zmax"
+//                 (empty without one).
+// Numbers are written with up to 9 significant digits. Each such traversal
+// replaces all four; outside apply only the representation's own mapping
+// and isovalues count.
 #pragma once
 
 #include <Tavrel/PoDessvane.h>
@@ -30,6 +46,8 @@
 class PbMesh;
 class PbDataMapping;
 class PbIsovaluesList;
+class SoField;
+class SoState;
 
 class PoMesh : public PoDessvane {
   SO_KIT_HEADER(PoMesh)
@@ -68,6 +86,13 @@ class PoMesh : public PoDessvane {
 
  private:
   void selectCells(SoAction* action);
+  // Writes what the traversal drew with into the report fields.
+  void report(SoState* state, const std::vector<float>& cellValues);
+
+  SoField* drawnCellsField;
+  SoField* cellColorsField;
+  SoField* isovaluesField;
+  SoField* domainField;
 
   std::vector<int> selected;
   PbMesh* mesh = nullptr;

@@ -1,9 +1,17 @@
-// The 1D-mesh hints property node's values that its element carries. The
-// node itself comes with the attribute property nodes; until then this header
-// gives what the element (PoMesh1DHintsElement.h) needs.
+// A property node that tells the 1D-mesh graphs after it how to join their
+// points.
+//
+// Field, with its default: "geomInterpretation" ASIS (straight lines; SMOOTH
+// a smooth curve, STAIRS* and HISTO* steps and bars along x or y). When
+// traversed the node becomes the state's current 1D-mesh hints
+// (PoMesh1DHintsElement).
 #pragma once
 
-class PoMesh1DHints {
+#include <Tavrel/PoPropertyNode.h>
+
+class PoMesh1DHints : public PoNode, public PoStateSetter {
+  PO_PROPERTY_NODE_HEADER(PoMesh1DHints)
+
  public:
   enum GeomInterpretation : int {
     ASIS = 0,
@@ -15,4 +23,10 @@ class PoMesh1DHints {
     STAIRS2X = 6,
     STAIRS2Y = 7
   };
+
+  // --- Used inside this toolkit (not journaled) ---
+  GeomInterpretation getGeomInterpretation() const;
+
+ private:
+  SoField* geomInterpretationField;
 };

@@ -11,7 +11,9 @@
 // whatever class or language implements it (the binding runs PoNode's own
 // operation for a filter written in Java), so PoCellFilter does not override
 // them. Likewise a mesh node (PoMeshProperty) traversed by one of these
-// operations makes its mesh the state's current mesh (SoState::setMesh).
+// operations makes its mesh the state's current mesh (SoState::setMesh), and an
+// attribute property node (PoStateSetter, see PoPropertyNode.h) makes itself
+// the current node of its kind.
 // Outside apply an action has no state: nothing is set then.
 #pragma once
 

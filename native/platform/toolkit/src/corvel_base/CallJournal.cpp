@@ -29,7 +29,15 @@ std::vector<std::string> CallJournal::lines() {
   return journalLines();
 }
 
+namespace {
+thread_local int quietDepth = 0;
+}
+
+CallJournal::Quiet::Quiet() { ++quietDepth; }
+CallJournal::Quiet::~Quiet() { --quietDepth; }
+
 void CallJournal::append(std::string line) {
+  if (quietDepth > 0) return;
   std::lock_guard<std::mutex> lock(journalMutex());
   journalLines().push_back(std::move(line));
 }

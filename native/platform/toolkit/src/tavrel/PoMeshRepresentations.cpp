@@ -1,10 +1,16 @@
 // The mesh representation node kits: types, catalogs and the objects they keep.
 
 #include <Tavrel/PoCellFilterElement.h>
+#include <Tavrel/PoDataMappingElement.h>
+#include <Tavrel/PoDomainElement.h>
+#include <Tavrel/PoIsovaluesListElement.h>
 #include <Tavrel/PoMeshElement.h>
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoAction.h>
 #include <Corvel/SoState.h>
+#include <Tavrel/PbDataMapping.h>
+#include <Tavrel/PbDomain.h>
+#include <Tavrel/PbIsovaluesList.h>
 #include <Tavrel/PbMesh2D.h>
 #include <Tavrel/PbMesh3D.h>
 #include <Tavrel/PoCellFilter.h>
@@ -39,6 +45,9 @@
 #include <Tavrel/PoStreamSurface.h>
 #include <Tavrel/PoStreamTadpoleMotion.h>
 
+#include <cstdio>
+#include <string>
+
 // Constructors of the classes made by the binding are journaled; those of the
 // abstract bases are not (they only run as part of a derived object).
 #define PO_ABSTRACT_LIFECYCLE(className) \
@@ -55,7 +64,27 @@ SO_KIT_ABSTRACT_SOURCE(PoDessvane, SoBaseKit, "PoDessvane", {"topSeparator", "ap
 PO_ABSTRACT_LIFECYCLE(PoDessvane)
 
 SO_KIT_ABSTRACT_SOURCE(PoMesh, PoDessvane, "PoMesh", {"meshGroup"})
-PO_ABSTRACT_LIFECYCLE(PoMesh)
+
+namespace {
+SoField* reportField(SoFieldContainer* kit, const char* name) {
+  CallJournal::Quiet quiet;
+  return kit->addOwnField(name);
+}
+
+void appendNumber(std::string& text, double v) {
+  char buf[32];
+  std::snprintf(buf, sizeof buf, "%s%.9g", text.empty() ? "" : " ", v);
+  text += buf;
+}
+}  // namespace
+
+PoMesh::PoMesh()
+    : drawnCellsField(reportField(this, "drawnCells")),
+      cellColorsField(reportField(this, "cellColors")),
+      isovaluesField(reportField(this, "isovalues")),
+      domainField(reportField(this, "domain")) {}
+
+PoMesh::~PoMesh() = default;
 
 SO_KIT_ABSTRACT_SOURCE(PoMesh2D, PoMesh, "PoMesh2D", {})
 PO_ABSTRACT_LIFECYCLE(PoMesh2D)
@@ -125,6 +154,7 @@ void PoMesh::selectCells(SoAction* action) {
   if (drawn == nullptr && state != nullptr) drawn = PoMeshElement::current(state);
   if (drawn == nullptr) {
     selected.clear();
+    report(state, {});
     return;
   }
   const PoCellFilter* filter = state != nullptr ? PoCellFilterElement::current(state) : nullptr;
@@ -133,6 +163,40 @@ void PoMesh::selectCells(SoAction* action) {
   selected = PoCellFilter::selectCells(filter, numCells, values.data());
   CallJournal::record("PoMesh::selectCells", static_cast<const void*>(filter), numCells,
                       journalArray(selected.data(), static_cast<long>(selected.size())));
+  report(state, values);
+}
+
+void PoMesh::report(SoState* state, const std::vector<float>& cellValues) {
+  CallJournal::Quiet quiet;
+  const PbDataMapping* mapping = dataMapping;
+  if (mapping == nullptr && state != nullptr) mapping = PoDataMappingElement::current(state);
+  const PbIsovaluesList* isovalues = isovaluesList;
+  if (isovalues == nullptr && state != nullptr) isovalues = PoIsovaluesListElement::current(state);
+  const PbDomain* domain = state != nullptr ? PoDomainElement::current(state) : nullptr;
+
+  std::string cells, colours, list, box;
+  for (int c : selected) {
+    appendNumber(cells, c);
+    if (mapping != nullptr) {
+      const SbColor colour = mapping->colorOf(cellValues[static_cast<std::size_t>(c)]);
+      for (int k = 0; k < 3; ++k) appendNumber(colours, colour[k]);
+    }
+  }
+  if (isovalues != nullptr) {
+    int num = 0;
+    float lo = 0, hi = 0, step = 0;
+    SbBool regular = 0;
+    const float* values = isovalues->getIsoList(num, lo, hi, step, regular);
+    for (int i = 0; values != nullptr && i < num; ++i) appendNumber(list, values[i]);
+  }
+  if (domain != nullptr) {
+    const float* corners = reinterpret_cast<const float*>(&domain->box());
+    for (int k = 0; k < 6; ++k) appendNumber(box, corners[k]);
+  }
+  drawnCellsField->setValueString(cells);
+  cellColorsField->setValueString(colours);
+  isovaluesField->setValueString(list);
+  domainField->setValueString(box);
 }
 
 void PoMesh::GLRender(SoGLRenderAction* action) { selectCells(action); }

@@ -5,6 +5,7 @@
 #include <Tavrel/PoCellFilter.h>
 #include <Tavrel/PoMeshProperty.h>
 #include <Tavrel/PoNode.h>
+#include <Tavrel/PoPropertyNode.h>
 
 SO_NODE_ABSTRACT_SOURCE(PoNode, SoNode, "PoNode")
 
@@ -19,6 +20,8 @@ void enterState(PoNode* node, SoAction* action) {
     filter->makeCurrent(action);
   else if (const auto* property = dynamic_cast<const PoMeshProperty*>(node))
     property->makeCurrent(action);
+  else if (const auto* setter = dynamic_cast<const PoStateSetter*>(node))
+    setter->makeCurrent(action);
 }
 }  // namespace
 

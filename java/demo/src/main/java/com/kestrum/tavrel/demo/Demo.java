@@ -24,6 +24,7 @@ public final class Demo {
                 new RepresentationsSection(),
                 new CustomNodeSection(),
                 new MeshNodeSection(),
+                new PropertyNodeSection(),
                 new ElementSection(),
                 new GraphSection(),
                 new AxesSection(),

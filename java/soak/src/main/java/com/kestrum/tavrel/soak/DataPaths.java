@@ -16,6 +16,10 @@ import com.kestrum.tavrel.data.PoMeshFilled;
 import com.kestrum.tavrel.data.PoMeshProbePoint;
 import com.kestrum.tavrel.misc.callbacks.PoProbeCB;
 import com.kestrum.tavrel.nodes.PoCellFilter;
+import com.kestrum.tavrel.nodes.PoDomain;
+import com.kestrum.tavrel.nodes.PoIntervalCellFilter;
+import com.kestrum.tavrel.nodes.PoIsovaluesList;
+import com.kestrum.tavrel.nodes.PoLinearDataMapping;
 import com.kestrum.tavrel.nodes.PoNode;
 import com.kestrum.tavrel.graph.PbDateFormatMapping;
 import com.kestrum.tavrel.graph.PbDomain;
@@ -298,6 +302,50 @@ final class DataPaths {
                 root.dispose();
                 filled.dispose();
                 filter.dispose();
+            }
+        };
+    }
+
+    /**
+     * A data mapping, an isovalue list, a domain and an interval cell filter made as property nodes,
+     * the list and the domain set, traversed before a representation of a mesh made once (render
+     * and callback in turn), the list read back (copy and direct buffer), all disposed. The
+     * nodes' fields are left alone: a field's Java object is the binding core's, and reading
+     * fields in a loop grows the heap by its own measure (see README).
+     */
+    static Loop propertyNodeTraversals() {
+        PbRegularCartesianGrid2D mesh = grid();
+        mesh.addValuesSet(0, values(CELLS), DataBindings.PER_CELL, "per cell");
+        PoMeshFilled filled = new PoMeshFilled();
+        filled.setMesh(mesh);
+        SoAction[] actions = {new SoGLRenderAction(), new SoCallbackAction()};
+        return new Loop() {
+            @Override
+            public void step(int i) {
+                try (PoLinearDataMapping mapping = new PoLinearDataMapping();
+                        PoIsovaluesList isovalues = new PoIsovaluesList();
+                        PoDomain domain = new PoDomain();
+                        PoIntervalCellFilter filter = new PoIntervalCellFilter();
+                        SoGroup root = new SoGroup()) {
+                    isovalues.setRegularIsoList(0f, CELLS, 1 + (i & 7));
+                    domain.setValues(new SbVec2f(0, 0), new SbVec2f(4, 4), PoDomain.BoundingBoxTypes.ASIS);
+                    root.addChild(mapping);
+                    root.addChild(isovalues);
+                    root.addChild(domain);
+                    root.addChild(filter);
+                    root.addChild(filled);
+                    actions[i & 1].apply(root);
+                    check(isovalues.getIsoList().values().length == 1 + (i & 7), "isovalues read back");
+                    check(isovalues.getDirectIsoList().remaining() == 1 + (i & 7), "isovalues shown");
+                }
+            }
+
+            @Override
+            public void close() {
+                for (SoAction action : actions) {
+                    action.dispose();
+                }
+                filled.dispose();
             }
         };
     }

@@ -43,6 +43,7 @@ public final class Soak {
             new SoakPath("probe-events", DataPaths::probeEvents),
             new SoakPath("java-node-traversals", DataPaths::javaNodeTraversals),
             new SoakPath("cell-filter-traversals", DataPaths::cellFilterTraversals),
+            new SoakPath("property-node-traversals", DataPaths::propertyNodeTraversals),
             new SoakPath("graph-rebuilds", DataPaths::graphRebuilds),
             new SoakPath("attribute-objects", DataPaths::attributeObjects),
             new SoakPath("axes", DataPaths::axes),

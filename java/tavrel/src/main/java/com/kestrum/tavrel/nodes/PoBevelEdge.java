@@ -1,0 +1,90 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A property node that bevels the edges of the shapes after it in the scene.
+ *
+ * <p>The node keeps its values in named fields, read each time they are used: set them with
+ * {@code getField(name).setValue(text)} (numbers as decimal text, flags {@code TRUE} or
+ * {@code FALSE}, enumerations as their {@code getValue()}, vectors and colours as their numbers
+ * separated by spaces, lists likewise). A text that cannot be read counts as the field's default.
+ *
+ * <ul>
+ *   <li>{@code "on"}: whether edges are bevelled (default {@code TRUE});</li>
+ *   <li>{@code "angle"}: edges between faces at a larger angle (radians) are bevelled (default
+ * {@code 0.5});</li>
+ *   <li>{@code "radius"}: the radius of the bevel (default {@code 0.05});</li>
+ *   <li>{@code "radiusFlag"}: how the radius is given, a {@link RadiusFlags} value (default
+ * {@code ABSOLUTERADIUS}).</li>
+ * </ul>
+ *
+ * <p>When an action traverses the node it becomes the current one of its kind for the rest of the
+ * traversal. The node is released when it is disposed and nothing else in the scene references it.
+ */
+public class PoBevelEdge extends SoNode {
+    static {
+        JarInitializer.init();
+    }
+
+    /** How the bevel's radius is given. */
+    public enum RadiusFlags {
+        /** The radius is a length. */
+        ABSOLUTERADIUS(JarInitializer.value(RadiusFlags::getABSOLUTERADIUSNative)),
+        /** The radius is a fraction of the shape's size. */
+        PERCENTAGERADIUS(JarInitializer.value(RadiusFlags::getPERCENTAGERADIUSNative));
+
+        private final int value;
+
+        RadiusFlags(int value) {
+            this.value = value;
+        }
+
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the value
+         */
+        public int getValue() {
+            return value;
+        }
+
+        /**
+         * The constant with the toolkit's value.
+         *
+         * @param value a toolkit value
+         * @return the constant, or null for a value outside the enumeration
+         */
+        public static RadiusFlags fromValue(int value) {
+            for (RadiusFlags c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getABSOLUTERADIUSNative();
+
+        private static native int getPERCENTAGERADIUSNative();
+    }
+
+    /** A node with the default values of its fields. */
+    public PoBevelEdge() {
+        super(ctorImpl());
+    }
+
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the type name
+     */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+}

@@ -1,0 +1,43 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A profile that is a regular polygon on a circle around the origin.
+ *
+ * <p>The node keeps its values in named fields, read each time they are used: set them with
+ * {@code getField(name).setValue(text)} (numbers as decimal text, flags {@code TRUE} or
+ * {@code FALSE}, enumerations as their {@code getValue()}, vectors and colours as their numbers
+ * separated by spaces, lists likewise). A text that cannot be read counts as the field's default.
+ *
+ * <ul>
+ *   <li>{@code "radius"}: the circle's radius (default {@code 1});</li>
+ *   <li>{@code "numPoints"}: the polygon's points (at least 3) (default {@code 16}).</li>
+ * </ul>
+ *
+ * <p>When an action traverses the node it becomes the current one of its kind for the rest of the
+ * traversal. The node is released when it is disposed and nothing else in the scene references it.
+ */
+public class PoCircularProfile extends PoProfile {
+    static {
+        JarInitializer.init();
+    }
+
+    /** A node with the default values of its fields. */
+    public PoCircularProfile() {
+        super(ctorImpl());
+    }
+
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the type name
+     */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+}

@@ -1,0 +1,89 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A data mapping given by a list of values and a list of colours: with
+ * {@link Types#NONLINEARPERLEVEL} one colour per interval (one more colour than values), with
+ * {@link Types#LINEARPERLEVEL} one colour per value, interpolated between them.
+ *
+ * <p>The node keeps its values in named fields, read each time they are used: set them with
+ * {@code getField(name).setValue(text)} (numbers as decimal text, flags {@code TRUE} or
+ * {@code FALSE}, enumerations as their {@code getValue()}, vectors and colours as their numbers
+ * separated by spaces, lists likewise). A text that cannot be read counts as the field's default.
+ *
+ * <ul>
+ *   <li>{@code "type"}: a {@link Types} value (default {@code NONLINEARPERLEVEL});</li>
+ *   <li>{@code "value"}: the values, in increasing order (default none);</li>
+ *   <li>{@code "color"}: the colours, three numbers each; missing ones are black (default
+ * none).</li>
+ * </ul>
+ *
+ * <p>When an action traverses the node it becomes the current one of its kind for the rest of the
+ * traversal. The node is released when it is disposed and nothing else in the scene references it.
+ */
+public class PoNonLinearDataMapping2 extends PoDataMapping {
+    static {
+        JarInitializer.init();
+    }
+
+    /** How the colours are spread over the values. */
+    public enum Types {
+        /** One colour per interval between values. */
+        NONLINEARPERLEVEL(JarInitializer.value(Types::getNONLINEARPERLEVELNative)),
+        /** Colours interpolated between values. */
+        LINEARPERLEVEL(JarInitializer.value(Types::getLINEARPERLEVELNative));
+
+        private final int value;
+
+        Types(int value) {
+            this.value = value;
+        }
+
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the value
+         */
+        public int getValue() {
+            return value;
+        }
+
+        /**
+         * The constant with the toolkit's value.
+         *
+         * @param value a toolkit value
+         * @return the constant, or null for a value outside the enumeration
+         */
+        public static Types fromValue(int value) {
+            for (Types c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getNONLINEARPERLEVELNative();
+
+        private static native int getLINEARPERLEVELNative();
+    }
+
+    /** A node with the default values of its fields. */
+    public PoNonLinearDataMapping2() {
+        super(ctorImpl());
+    }
+
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the type name
+     */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+}

@@ -1,0 +1,88 @@
+package com.kestrum.tavrel.nodes;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+
+/**
+ * A 1D-mesh filter that keeps one point per period of x (or y): the first point, then each point
+ * whose coordinate is at least one period beyond the last point kept.
+ *
+ * <p>The node keeps its values in named fields, read each time they are used: set them with
+ * {@code getField(name).setValue(text)} (numbers as decimal text, flags {@code TRUE} or
+ * {@code FALSE}, enumerations as their {@code getValue()}, vectors and colours as their numbers
+ * separated by spaces, lists likewise). A text that cannot be read counts as the field's default.
+ *
+ * <ul>
+ *   <li>{@code "axis"}: the coordinate looked at, an {@link AxisType} value (default
+ * {@code X});</li>
+ *   <li>{@code "period"}: the period; one that is not positive keeps every point (default
+ * {@code 1}).</li>
+ * </ul>
+ *
+ * <p>When an action traverses the node it becomes the current one of its kind for the rest of the
+ * traversal. The node is released when it is disposed and nothing else in the scene references it.
+ */
+public class PoPeriodFilter extends PoMesh1DFilter {
+    static {
+        JarInitializer.init();
+    }
+
+    /** The coordinate that the filter looks at. */
+    public enum AxisType {
+        /** The x coordinate. */
+        X(JarInitializer.value(AxisType::getXNative)),
+        /** The y coordinate. */
+        Y(JarInitializer.value(AxisType::getYNative));
+
+        private final int value;
+
+        AxisType(int value) {
+            this.value = value;
+        }
+
+        /**
+         * The toolkit's value of the constant.
+         *
+         * @return the value
+         */
+        public int getValue() {
+            return value;
+        }
+
+        /**
+         * The constant with the toolkit's value.
+         *
+         * @param value a toolkit value
+         * @return the constant, or null for a value outside the enumeration
+         */
+        public static AxisType fromValue(int value) {
+            for (AxisType c : values()) {
+                if (c.value == value) {
+                    return c;
+                }
+            }
+            return null;
+        }
+
+        private static native int getXNative();
+
+        private static native int getYNative();
+    }
+
+    /** A node with the default values of its fields. */
+    public PoPeriodFilter() {
+        super(ctorImpl());
+    }
+
+    /**
+     * The name of the class's toolkit type.
+     *
+     * @return the type name
+     */
+    public static String getClassTypeName() {
+        return getClassTypeId();
+    }
+
+    private static native long ctorImpl();
+
+    private static native String getClassTypeId();
+}
