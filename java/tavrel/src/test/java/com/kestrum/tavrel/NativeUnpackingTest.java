@@ -29,18 +29,19 @@ class NativeUnpackingTest {
     /** Child: uses the library, then prints the mappings of the files it loaded from a temporary folder. */
     public static void main(String[] args) throws IOException {
         System.out.println("product " + PoTavrel.getProductName() + " " + PoTavrel.getVersion());
+        List<String> mapped;
         try (Stream<String> maps = Files.lines(Path.of("/proc/self/maps"))) {
-            maps.filter(l -> l.contains("kestrum-native-")).map(l -> l.substring(l.indexOf('/')))
-                    .distinct().forEach(l -> System.out.println("mapped " + l));
+            mapped = maps.filter(l -> l.contains("kestrum-native-")).map(l -> l.substring(l.indexOf('/')))
+                    .distinct().collect(Collectors.toList());
         }
-        String tmp = System.getProperty("java.io.tmpdir");
-        try (Stream<Path> folders = Files.list(Path.of(tmp))) {
-            for (Path f : folders.filter(p -> p.getFileName().toString().startsWith("kestrum-native-"))
-                    .collect(Collectors.toList())) {
-                try (Stream<Path> files = Files.list(f)) {
-                    System.out.println("folder " + f + " " + Files.getPosixFilePermissions(f).size()
-                            + " permissions, " + files.count() + " files");
-                }
+        mapped.forEach(l -> System.out.println("mapped " + l));
+        // Only this process's own folder: the other process may delete its own at any moment.
+        Set<Path> own = mapped.stream().map(l -> Path.of(l.replace(" (deleted)", "")).getParent())
+                .collect(Collectors.toCollection(TreeSet::new));
+        for (Path f : own) {
+            try (Stream<Path> files = Files.list(f)) {
+                System.out.println("folder " + f + " " + Files.getPosixFilePermissions(f).size()
+                        + " permissions, " + files.count() + " files");
             }
         }
     }
