@@ -3,11 +3,12 @@
 #include <jni.h>
 
 namespace corvel {
-// The Java class com.kestrum.corvel.misc.ManagedObjects and its two static
-// methods, resolved once (global class reference).
+// The Java class com.kestrum.corvel.misc.ManagedObjects and the static
+// methods that native code calls, resolved once (global class reference).
 struct ManagedObjectsClass {
   jclass cls = nullptr;
-  jmethodID getManagedObject = nullptr;  // (Ljava/lang/String;J)Ljava/lang/Object;
+  jmethodID getManagedObject = nullptr;  // (Ljava/lang/Class;J)Ljava/lang/Object;
+  jmethodID classNamed = nullptr;        // (Ljava/lang/String;)Ljava/lang/Class;
   jmethodID createInstance = nullptr;    // (Ljava/lang/String;)J
 };
 ManagedObjectsClass& managedObjectsClass(JNIEnv* env);

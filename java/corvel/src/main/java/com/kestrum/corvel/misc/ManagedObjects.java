@@ -130,19 +130,40 @@ public final class ManagedObjects {
         return TYPES.containsKey(typeName);
     }
 
-    /** Called from native code: the Java object for the native object at the address. */
+    /**
+     * The Java object for the native object at the address, as an instance of the dotted class
+     * name (the class is looked up by name: native code calls the form taking the class).
+     */
     static Object getManagedObject(String dottedClassName, long address) throws ClassNotFoundException {
         if (address == 0) {
             return null;
         }
-        Class<?> wanted = Class.forName(dottedClassName);
+        return getManagedObject(classNamed(dottedClassName), address);
+    }
+
+    /**
+     * Called from native code, once per class name that native code hands objects as: the class,
+     * initialised (so that it has registered its wrapper).
+     */
+    static Class<?> classNamed(String dottedClassName) throws ClassNotFoundException {
+        return Class.forName(dottedClassName);
+    }
+
+    /**
+     * Called from native code: the Java object for the native object at the address, as an
+     * instance of the class: its registered peer when it is one, otherwise a new wrapper.
+     */
+    static Object getManagedObject(Class<?> wanted, long address) {
+        if (address == 0) {
+            return null;
+        }
         Object peer = peerOf(address);
         if (peer != null && wanted.isInstance(peer)) {
             return peer;
         }
-        LongFunction<?> factory = WRAPPERS.get(dottedClassName);
+        LongFunction<?> factory = WRAPPERS.get(wanted.getName());
         if (factory == null) {
-            throw new IllegalStateException("No Java wrapper registered for " + dottedClassName);
+            throw new IllegalStateException("No Java wrapper registered for " + wanted.getName());
         }
         return factory.apply(address);
     }
