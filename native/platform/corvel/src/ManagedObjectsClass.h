@@ -12,5 +12,8 @@ struct ManagedObjectsClass {
   jmethodID createInstance = nullptr;    // (Ljava/lang/String;)J
 };
 ManagedObjectsClass& managedObjectsClass(JNIEnv* env);
+// A new local reference to the Java peer registered for the address; null when
+// there is none or it has been collected (PeerTable.cpp).
+jobject registeredPeer(JNIEnv* env, jlong address);
 void rememberJavaVM(JavaVM* vm);
 }  // namespace corvel

@@ -15,8 +15,10 @@
 // getManagedObject runs inside traversals, once per node and action, so it
 // neither makes a string nor looks a class up by name on each call: the class
 // of each name is resolved by the Java side once (initialising it, as a first
-// use does) and kept as a global reference for the process's life. Then each
-// call is one static Java call with the class and the address.
+// use does) and kept as a global reference for the process's life. A
+// registered peer of that class is then found without calling Java (the
+// native side of the peer table, PeerTable.cpp); anything else takes one
+// static Java call with the class and the address.
 
 namespace {
 struct NamedClass {
@@ -72,11 +74,18 @@ jclass resolveNamed(JNIEnv* env, const corvel::ManagedObjectsClass& mo, const ch
 
 jobject ObjectHelper::getManagedObject(JNIEnv* env, const char* className, long address) {
   if (address == 0) return nullptr;
-  const corvel::ManagedObjectsClass& mo = corvel::managedObjectsClass(env);
   bool isLocal = false;
   jclass wanted = findNamed(className);
-  if (wanted == nullptr) wanted = resolveNamed(env, mo, className, isLocal);
+  if (wanted == nullptr) wanted = resolveNamed(env, corvel::managedObjectsClass(env), className, isLocal);
   if (wanted == nullptr) return nullptr;  // the exception stays pending for the caller
+  if (jobject peer = corvel::registeredPeer(env, static_cast<jlong>(address))) {
+    if (env->IsInstanceOf(peer, wanted)) {
+      if (isLocal) env->DeleteLocalRef(wanted);
+      return peer;
+    }
+    env->DeleteLocalRef(peer);
+  }
+  const corvel::ManagedObjectsClass& mo = corvel::managedObjectsClass(env);
   jobject result = env->CallStaticObjectMethod(mo.cls, mo.getManagedObject, wanted, static_cast<jlong>(address));
   if (env->ExceptionCheck()) result = nullptr;  // the exception stays pending for the caller
   if (isLocal) env->DeleteLocalRef(wanted);

@@ -29,6 +29,7 @@ import org.openjdk.jmh.annotations.State;
 @State(Scope.Thread)
 @BenchmarkMode(Mode.AverageTime)
 @OutputTimeUnit(TimeUnit.NANOSECONDS)
+@SuppressWarnings("restricted") // the downcalls are what is measured
 public class PanamaBenchmark {
     private static final MethodHandle PLAIN;
     private static final MethodHandle CRITICAL;

@@ -25,6 +25,11 @@ import java.util.function.Supplier;
  *   <li>Types: for each toolkit type name that a Java class registered, a factory for new
  *       instances, so that the toolkit can create instances of Java-extended types.
  * </ul>
+ *
+ * <p>Native code finds a registered peer without calling Java: the binding core keeps, in step
+ * with this table, a weak reference to each peer by address (every change of an entry is made
+ * there too, inside the same atomic update of the entry). Only objects without a peer (new
+ * wrappers) need a call into Java.
  */
 public final class ManagedObjects {
     private static final Map<Long, Peer> PEERS = new ConcurrentHashMap<>();
@@ -32,6 +37,10 @@ public final class ManagedObjects {
     private static final ReferenceQueue<Object> COLLECTED = new ReferenceQueue<>();
     private static final Map<String, LongFunction<?>> WRAPPERS = new ConcurrentHashMap<>();
     private static final Map<String, Supplier<? extends NativeObject>> TYPES = new ConcurrentHashMap<>();
+
+    static {
+        CorvelNative.ensureLoaded();
+    }
 
     private ManagedObjects() {}
 
@@ -62,25 +71,39 @@ public final class ManagedObjects {
      */
     public static void registerPeer(long address, Object peer, boolean keepAlive) {
         dropCollected();
-        PEERS.put(address, new Peer(address, peer, keepAlive));
+        PEERS.compute(address, (a, old) -> {
+            rememberPeerNative(address, peer);
+            return new Peer(address, peer, keepAlive);
+        });
     }
 
+    /** Unregisters the peer of the address, whichever it is. */
     public static void unregisterPeer(long address) {
-        PEERS.remove(address);
+        PEERS.computeIfPresent(address, (a, p) -> forget(address));
     }
 
     /** Unregisters the peer of the address if it is still {@code peer}. */
     public static void unregisterPeer(long address, Object peer) {
-        PEERS.computeIfPresent(address, (a, p) -> p.peer() == peer || p.peer() == null ? null : p);
+        PEERS.computeIfPresent(address, (a, p) -> p.peer() == peer || p.peer() == null ? forget(address) : p);
     }
 
     /** Drops the entries of collected peers (an entry that was replaced since stays). */
     private static void dropCollected() {
         for (Reference<?> r = COLLECTED.poll(); r != null; r = COLLECTED.poll()) {
             Peer p = (Peer) r;
-            PEERS.remove(p.address, p);
+            PEERS.computeIfPresent(p.address, (a, current) -> current == p ? forget(p.address) : current);
         }
     }
+
+    /** Forgets the native side's reference of the address; null, the entry's new value. */
+    private static Peer forget(long address) {
+        forgetPeerNative(address);
+        return null;
+    }
+
+    private static native void rememberPeerNative(long address, Object peer);
+
+    private static native void forgetPeerNative(long address);
 
     /** The registered peer of the address, or null. */
     public static Object peerOf(long address) {
