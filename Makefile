@@ -7,7 +7,7 @@
 #   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
 #   make bench   runs the JMH benchmarks on JDK 17 and the newest JDK (22 or newer), writes their
 #                results into benchmarks/ and BENCHMARKS.md and draws the plots (needs gnuplot)
-#   make bench-quick  the same, shorter, into java/benchmarks/target/bench-quick (a few minutes)
+#   make bench-quick  the same, shorter, into java/benchmarks/target/bench-quick (about five minutes)
 #   make fuzz    hostile calls to the public API in child JVMs (CALLS=200000 SEED=...)
 
 BUILD_DIR      ?= native/build
@@ -89,8 +89,8 @@ soak: native
 
 # JMH benchmarks (BENCHMARKS.md): each hot path against its floor in the test library, on JDK 17
 # and on PANAMA_JDK. BENCH_OPTS adds JVM options, e.g. -Dbench.include=ThinGetter or
-# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 25 minutes; needs
-# gnuplot: apt-get install gnuplot-nox); `make bench-quick` prints the ratios (a few minutes).
+# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 20 minutes; needs
+# gnuplot: apt-get install gnuplot-nox); `make bench-quick` prints the ratios (about five).
 BENCH_OPTS ?=
 bench-build: native
 	$(MVN) -q -Pbench $(PANAMA_OPTS) package -DskipTests
