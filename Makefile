@@ -6,7 +6,9 @@
 #                again against a build with AddressSanitizer and UBSan, and JUnit on the
 #                newest JDK of version 21 or newer on the machine, if there is one
 #   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
-#   make bench   runs the JMH benchmarks
+#   make bench   runs the JMH benchmarks on JDK 17 and the newest JDK (22 or newer), writes their
+#                results into benchmarks/ and BENCHMARKS.md and draws the plots (needs gnuplot)
+#   make bench-quick  the same, shorter, into java/benchmarks/target/bench-quick (about five minutes)
 #   make fuzz    hostile calls to the public API in child JVMs (CALLS=200000 SEED=...)
 #   make install builds the jars (natives, sources, Javadoc) and installs them into the local
 #                Maven repository
@@ -28,9 +30,13 @@ SANITIZER_ENV := ASAN_OPTIONS=handle_segv=0:allow_user_segv_handler=1:detect_lea
 
 # The Java runtime (home folder) that JUnit also runs on; empty skips that run.
 NEWEST_JDK ?= $(shell scripts/newest-jdk 21)
+# A JDK of version 22 or newer (with javac): the benchmarks' comparison with the foreign-function
+# API is compiled (also by `make test`, so that it cannot rot) and run with it; empty skips it.
+PANAMA_JDK ?= $(shell scripts/newest-jdk 22)
+PANAMA_OPTS := $(if $(wildcard $(PANAMA_JDK)/bin/javac),-Dpanama.jdk=$(PANAMA_JDK))
 
 .PHONY: all native native-asan java demo install example example-run test native-test java-test \
-	native-test-asan java-test-asan java-test-newest-jdk soak bench fuzz clean
+	native-test-asan java-test-asan java-test-newest-jdk soak bench bench-quick bench-build fuzz clean
 # The test runs share Maven's output folders: one at a time.
 .NOTPARALLEL:
 
@@ -67,10 +73,11 @@ example-run:
 native-test: native
 	scripts/run-native-tests $(BUILD_DIR)/bin/native_tests
 
-# The JUnit suite, the Javadoc check (doclint, no warning allowed) and the installation of the
-# jars that the example project then uses.
+# The JUnit suite, the Javadoc check (doclint, no warning allowed), the installation of the
+# jars that the example project then uses, and the benchmarks compiled (not run), so that they
+# cannot rot.
 java-test: native
-	$(MVN) install
+	$(MVN) -Pbench $(PANAMA_OPTS) install
 
 native-test-asan: native-asan
 	$(SANITIZER_ENV) scripts/run-native-tests $(ASAN_BUILD_DIR)/bin/native_tests
@@ -98,12 +105,19 @@ soak: native
 		-Dkestrum.native.dir=$(abspath $(NATIVE_LIBS)) $(SOAK_OPTS) \
 		-cp "java/soak/target/tavrel-soak.jar:java/soak/target/lib/*" com.kestrum.tavrel.soak.Soak
 
-# JMH benchmarks (BENCHMARKS.md). BENCH_OPTS sets forks, iterations, ...: -Dbench.forks=1
+# JMH benchmarks (BENCHMARKS.md): each hot path against its floor in the test library, on JDK 17
+# and on PANAMA_JDK. BENCH_OPTS adds JVM options, e.g. -Dbench.include=ThinGetter or
+# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 20 minutes; needs
+# gnuplot: apt-get install gnuplot-nox); `make bench-quick` prints the ratios (about five).
 BENCH_OPTS ?=
-bench: native
-	$(MVN) -q -Pbench package -DskipTests
-	java $(BENCH_OPTS) -cp "java/benchmarks/target/tavrel-benchmarks.jar:java/benchmarks/target/lib/*" \
-		com.kestrum.tavrel.benchmarks.RunBenchmarks
+bench-build: native
+	$(MVN) -q -Pbench $(PANAMA_OPTS) package -DskipTests
+
+bench: bench-build
+	scripts/bench full "$(if $(PANAMA_OPTS),$(PANAMA_JDK))" $(BENCH_OPTS)
+
+bench-quick: bench-build
+	scripts/bench quick "$(if $(PANAMA_OPTS),$(PANAMA_JDK))" $(BENCH_OPTS)
 
 # Random misuse of the public API in child JVMs, one after the other (README.md, "Misuse runs"):
 # CALLS calls in all, CALLS_PER_JVM per child JVM, seeds from SEED (random when empty). A failed

@@ -4,6 +4,7 @@
 
 #include <Corvel/SoModuleCheck.h>
 #include <Corvel/SoType.h>
+#include <CorvelJNI/ObjectHelper.h>
 #include <CorvelJNI/StringHelper.h>
 #include <Tavrel/PoTavrel.h>
 
@@ -39,6 +40,13 @@ JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_typeData(JNIEnv* 
   StringHelper helper(env, name);
   SoType t = SoType::fromName(helper.toUTFString());
   return t.isBad() ? -1 : t.getData();
+}
+
+// The binding core's Java object for the address, as the dotted class name.
+JNIEXPORT jobject JNICALL Java_com_kestrum_tavrel_testkit_Toolkit_managedObject(JNIEnv* env, jclass, jstring className,
+                                                                              jlong address) {
+  StringHelper name(env, className);
+  return ObjectHelper::getManagedObject(env, name.toUTFString(), static_cast<long>(address));
 }
 
 }  // extern "C"

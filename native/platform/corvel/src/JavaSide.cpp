@@ -22,7 +22,8 @@ ManagedObjectsClass& managedObjectsClass(JNIEnv* env) {
     if (local == nullptr) return;
     resolved.cls = static_cast<jclass>(env->NewGlobalRef(local));
     resolved.getManagedObject =
-        env->GetStaticMethodID(local, "getManagedObject", "(Ljava/lang/String;J)Ljava/lang/Object;");
+        env->GetStaticMethodID(local, "getManagedObject", "(Ljava/lang/Class;J)Ljava/lang/Object;");
+    resolved.classNamed = env->GetStaticMethodID(local, "classNamed", "(Ljava/lang/String;)Ljava/lang/Class;");
     resolved.createInstance = env->GetStaticMethodID(local, "createInstance", "(Ljava/lang/String;)J");
     env->DeleteLocalRef(local);
   });

@@ -3,13 +3,17 @@
 #include <jni.h>
 
 namespace corvel {
-// The Java class com.kestrum.corvel.misc.ManagedObjects and its two static
-// methods, resolved once (global class reference).
+// The Java class com.kestrum.corvel.misc.ManagedObjects and the static
+// methods that native code calls, resolved once (global class reference).
 struct ManagedObjectsClass {
   jclass cls = nullptr;
-  jmethodID getManagedObject = nullptr;  // (Ljava/lang/String;J)Ljava/lang/Object;
+  jmethodID getManagedObject = nullptr;  // (Ljava/lang/Class;J)Ljava/lang/Object;
+  jmethodID classNamed = nullptr;        // (Ljava/lang/String;)Ljava/lang/Class;
   jmethodID createInstance = nullptr;    // (Ljava/lang/String;)J
 };
 ManagedObjectsClass& managedObjectsClass(JNIEnv* env);
+// A new local reference to the Java peer registered for the address; null when
+// there is none or it has been collected (PeerTable.cpp).
+jobject registeredPeer(JNIEnv* env, jlong address);
 void rememberJavaVM(JavaVM* vm);
 }  // namespace corvel

@@ -1,20 +1,94 @@
 #include <CorvelJNI/JNIEnvHelper.h>
 #include <CorvelJNI/ObjectHelper.h>
 
+#include <atomic>
 #include <cstdint>
+#include <cstring>
+#include <mutex>
+#include <string>
 
 #include "ManagedObjectsClass.h"
 
 // The Java side keeps the table of Java objects by native address and of Java
 // classes by toolkit type name (com.kestrum.corvel.misc.ManagedObjects).
+//
+// getManagedObject runs inside traversals, once per node and action, so it
+// neither makes a string nor looks a class up by name on each call: the class
+// of each name is resolved by the Java side once (initialising it, as a first
+// use does) and kept as a global reference for the process's life. A
+// registered peer of that class is then found without calling Java (the
+// native side of the peer table, PeerTable.cpp); anything else takes one
+// static Java call with the class and the address.
+
+namespace {
+struct NamedClass {
+  const char* key = nullptr;  // the caller's pointer, for the quick match
+  std::string name;
+  jclass cls = nullptr;
+};
+
+// Filled under the lock, read without it: an entry is complete before the
+// count that shows it is published. The callers name a few fixed classes;
+// names beyond the capacity are resolved on every call.
+constexpr int kNamedCapacity = 64;
+NamedClass named[kNamedCapacity];
+std::atomic<int> numNamed{0};
+std::mutex namedMutex;
+
+jclass findNamed(const char* className) {
+  const int n = numNamed.load(std::memory_order_acquire);
+  for (int i = 0; i < n; ++i)
+    if (named[i].key == className && std::strcmp(named[i].name.c_str(), className) == 0) return named[i].cls;
+  for (int i = 0; i < n; ++i)
+    if (std::strcmp(named[i].name.c_str(), className) == 0) return named[i].cls;
+  return nullptr;
+}
+
+// Resolves the class through the Java side. Returns null with the exception
+// pending when there is no such class; otherwise the kept global reference, or
+// a local reference (isLocal) when the table is full.
+jclass resolveNamed(JNIEnv* env, const corvel::ManagedObjectsClass& mo, const char* className, bool& isLocal) {
+  jstring name = env->NewStringUTF(className);
+  if (name == nullptr) return nullptr;
+  jobject local = env->CallStaticObjectMethod(mo.cls, mo.classNamed, name);
+  env->DeleteLocalRef(name);
+  if (env->ExceptionCheck()) return nullptr;
+  std::lock_guard<std::mutex> lock(namedMutex);
+  if (jclass known = findNamed(className)) {
+    env->DeleteLocalRef(local);
+    return known;
+  }
+  const int n = numNamed.load(std::memory_order_relaxed);
+  if (n == kNamedCapacity) {
+    isLocal = true;
+    return static_cast<jclass>(local);
+  }
+  named[n].key = className;
+  named[n].name = className;
+  named[n].cls = static_cast<jclass>(env->NewGlobalRef(local));
+  env->DeleteLocalRef(local);
+  numNamed.store(n + 1, std::memory_order_release);
+  return named[n].cls;
+}
+}  // namespace
 
 jobject ObjectHelper::getManagedObject(JNIEnv* env, const char* className, long address) {
   if (address == 0) return nullptr;
-  corvel::ManagedObjectsClass& mo = corvel::managedObjectsClass(env);
-  jstring name = env->NewStringUTF(className);
-  jobject result = env->CallStaticObjectMethod(mo.cls, mo.getManagedObject, name, static_cast<jlong>(address));
+  bool isLocal = false;
+  jclass wanted = findNamed(className);
+  if (wanted == nullptr) wanted = resolveNamed(env, corvel::managedObjectsClass(env), className, isLocal);
+  if (wanted == nullptr) return nullptr;  // the exception stays pending for the caller
+  if (jobject peer = corvel::registeredPeer(env, static_cast<jlong>(address))) {
+    if (env->IsInstanceOf(peer, wanted)) {
+      if (isLocal) env->DeleteLocalRef(wanted);
+      return peer;
+    }
+    env->DeleteLocalRef(peer);
+  }
+  const corvel::ManagedObjectsClass& mo = corvel::managedObjectsClass(env);
+  jobject result = env->CallStaticObjectMethod(mo.cls, mo.getManagedObject, wanted, static_cast<jlong>(address));
   if (env->ExceptionCheck()) result = nullptr;  // the exception stays pending for the caller
-  env->DeleteLocalRef(name);
+  if (isLocal) env->DeleteLocalRef(wanted);
   return result;
 }
 

@@ -1,79 +1,109 @@
 package com.kestrum.tavrel.benchmarks;
 
+import java.io.IOException;
+import java.io.PrintWriter;
+import java.nio.charset.StandardCharsets;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.util.ArrayList;
 import java.util.Collection;
-import java.util.LinkedHashMap;
+import java.util.List;
 import java.util.Locale;
-import java.util.Map;
 import org.openjdk.jmh.results.Result;
 import org.openjdk.jmh.results.RunResult;
 import org.openjdk.jmh.runner.Runner;
 import org.openjdk.jmh.runner.RunnerException;
-import org.openjdk.jmh.runner.options.Options;
+import org.openjdk.jmh.runner.options.ChainedOptionsBuilder;
 import org.openjdk.jmh.runner.options.OptionsBuilder;
 import org.openjdk.jmh.runner.options.TimeValue;
 
 /**
- * Runs the three benchmarks and prints, for each, the median of the measured iterations with
- * the 99.9% error of the mean, and its ratio to the baseline measured in the same run.
+ * Runs the benchmarks on the JDK that runs this class (the forked JVMs are of the same JDK and get
+ * this JVM's options) and writes one CSV line per benchmark and size: the JDK's feature version,
+ * the benchmark, the size (empty without one), the number of measured iterations, the mean, the
+ * 99.9% error of the mean as JMH reports it, the median of the measured iterations, and the unit.
+ * {@link BenchReport} turns the files of one or more JDKs into ratios, the table of BENCHMARKS.md
+ * and the data of the plots.
  *
- * <p>Settings (system properties): {@code bench.forks} (3), {@code bench.warmups} (3),
- * {@code bench.iterations} (5), {@code bench.seconds} (1, per iteration), {@code bench.include}
- * (a regular expression of the benchmarks to run; all three by default). The forked JVMs get
- * this JVM's options, so a JVM option given here (an agent, for instance) applies to them too.
+ * <p>Settings (system properties): {@code bench.forks} (2), {@code bench.warmups} (3),
+ * {@code bench.iterations} (4), {@code bench.millis} (1000, per iteration), {@code bench.include}
+ * (a regular expression of the benchmarks to run; all by default), {@code bench.csv} (the file to
+ * write; none by default). The comparison with the foreign-function API joins on a JDK of
+ * version 22 or newer, when its class is on the class path.
  */
 public final class RunBenchmarks {
     private RunBenchmarks() {}
 
-    public static void main(String[] args) throws RunnerException {
+    /** The benchmark classes, in the order of the report. */
+    static final List<String> CLASSES = List.of(
+            ThinGetterBenchmark.class.getName(),
+            AddVecsSetBenchmark.class.getName(),
+            DataSetBenchmark.class.getName(),
+            ForwardedCallBenchmark.class.getName(),
+            CellFilterBenchmark.class.getName(),
+            ProbeEventBenchmark.class.getName(),
+            "com.kestrum.tavrel.benchmarks.PanamaBenchmark");
+
+    /**
+     * Runs the benchmarks and writes the CSV file.
+     *
+     * @param args none
+     * @throws RunnerException when JMH fails
+     * @throws IOException when the CSV file cannot be written
+     */
+    public static void main(String[] args) throws RunnerException, IOException {
         String only = System.getProperty("bench.include");
-        OptionsBuilder builder = new OptionsBuilder();
+        int millis = Integer.getInteger("bench.millis", 1000);
+        ChainedOptionsBuilder builder = new OptionsBuilder()
+                .forks(Integer.getInteger("bench.forks", 2))
+                .warmupIterations(Integer.getInteger("bench.warmups", 3))
+                .measurementIterations(Integer.getInteger("bench.iterations", 4))
+                .warmupTime(TimeValue.milliseconds(millis))
+                .measurementTime(TimeValue.milliseconds(millis))
+                .jvmArgsAppend("-Xms4g", "-Xmx4g");
         if (only != null) {
             builder.include(only);
         } else {
-            builder.include(ThinGetterBenchmark.class.getName())
-                    .include(AddVecsSetBenchmark.class.getName())
-                    .include(ReadValuesBenchmark.class.getName());
+            for (String name : CLASSES) {
+                if (present(name)) {
+                    builder.include(name.replace(".", "\\.") + "\\.");
+                }
+            }
         }
-        Options options = builder
-                .forks(Integer.getInteger("bench.forks", 3))
-                .warmupIterations(Integer.getInteger("bench.warmups", 3))
-                .measurementIterations(Integer.getInteger("bench.iterations", 5))
-                .warmupTime(TimeValue.seconds(Integer.getInteger("bench.seconds", 1)))
-                .measurementTime(TimeValue.seconds(Integer.getInteger("bench.seconds", 1)))
-                .jvmArgsAppend("-Xmx4g")
-                .build();
-        Collection<RunResult> results = new Runner(options).run();
-        Map<String, Result<?>> byName = new LinkedHashMap<>();
+        Collection<RunResult> results = new Runner(builder.build()).run();
+        List<String> lines = new ArrayList<>();
+        lines.add(BenchReport.RAW_HEADER);
+        String jdk = Integer.toString(Runtime.version().feature());
         for (RunResult r : results) {
             String name = r.getParams().getBenchmark();
-            byName.put(name.substring(name.lastIndexOf('.', name.lastIndexOf('.') - 1) + 1), r.getPrimaryResult());
+            name = name.substring(name.lastIndexOf('.', name.lastIndexOf('.') - 1) + 1);
+            String size = r.getParams().getParam("size");
+            Result<?> p = r.getPrimaryResult();
+            lines.add(String.format(Locale.ROOT, "%s,%s,%s,%d,%.6g,%.6g,%.6g,%s", jdk, name, size == null ? "" : size,
+                    p.getSampleCount(), p.getScore(), p.getScoreError(), p.getStatistics().getPercentile(50),
+                    p.getScoreUnit()));
         }
-        System.out.println();
-        System.out.println("| benchmark | median | error (99.9%) | unit | ratio to baseline |");
-        System.out.println("|---|---|---|---|---|");
-        row(byName, "ThinGetterBenchmark.emptyNativeBaseline", null);
-        row(byName, "ThinGetterBenchmark.getNumNodes", "ThinGetterBenchmark.emptyNativeBaseline");
-        row(byName, "AddVecsSetBenchmark.javaCopyBaseline", null);
-        row(byName, "AddVecsSetBenchmark.addVecsSet", "AddVecsSetBenchmark.javaCopyBaseline");
-        row(byName, "ReadValuesBenchmark.copyBaseline", null);
-        row(byName, "ReadValuesBenchmark.direct", "ReadValuesBenchmark.copyBaseline");
+        String csv = System.getProperty("bench.csv");
+        if (csv != null) {
+            Path path = Path.of(csv);
+            if (path.getParent() != null) {
+                Files.createDirectories(path.getParent());
+            }
+            try (PrintWriter out = new PrintWriter(Files.newBufferedWriter(path, StandardCharsets.UTF_8))) {
+                lines.forEach(out::println);
+            }
+            System.out.println("Results written to " + path);
+        } else {
+            lines.forEach(System.out::println);
+        }
     }
 
-    private static void row(Map<String, Result<?>> results, String name, String baseline) {
-        Result<?> r = results.get(name);
-        if (r == null) {
-            return;
+    private static boolean present(String className) {
+        try {
+            Class.forName(className, false, RunBenchmarks.class.getClassLoader());
+            return true;
+        } catch (ClassNotFoundException | UnsupportedClassVersionError e) {
+            return false;
         }
-        double median = r.getStatistics().getPercentile(50);
-        String ratio = "1 (baseline)";
-        Result<?> b = baseline == null ? null : results.get(baseline);
-        if (b != null) {
-            double bm = b.getStatistics().getPercentile(50);
-            double q = median / bm;
-            double rel = Math.hypot(r.getScoreError() / r.getScore(), b.getScoreError() / b.getScore());
-            ratio = String.format(Locale.ROOT, "%.2f ± %.2f", q, q * rel);
-        }
-        System.out.printf(Locale.ROOT, "| %s | %.3f | ± %.3f | %s | %s |%n", name, median, r.getScoreError(),
-                r.getScoreUnit(), ratio);
     }
 }

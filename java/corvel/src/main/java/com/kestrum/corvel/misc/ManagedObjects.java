@@ -25,6 +25,11 @@ import java.util.function.Supplier;
  *   <li>Types: for each toolkit type name that a Java class registered, a factory for new
  *       instances, so that the toolkit can create instances of Java-extended types.
  * </ul>
+ *
+ * <p>Native code finds a registered peer without calling Java: the binding core keeps, in step
+ * with this table, a weak reference to each peer by address (every change of an entry is made
+ * there too, inside the same atomic update of the entry). Only objects without a peer (new
+ * wrappers) need a call into Java.
  */
 public final class ManagedObjects {
     private static final Map<Long, Peer> PEERS = new ConcurrentHashMap<>();
@@ -32,6 +37,10 @@ public final class ManagedObjects {
     private static final ReferenceQueue<Object> COLLECTED = new ReferenceQueue<>();
     private static final Map<String, LongFunction<?>> WRAPPERS = new ConcurrentHashMap<>();
     private static final Map<String, Supplier<? extends NativeObject>> TYPES = new ConcurrentHashMap<>();
+
+    static {
+        CorvelNative.ensureLoaded();
+    }
 
     private ManagedObjects() {}
 
@@ -71,7 +80,10 @@ public final class ManagedObjects {
      */
     public static void registerPeer(long address, Object peer, boolean keepAlive) {
         dropCollected();
-        PEERS.put(address, new Peer(address, peer, keepAlive));
+        PEERS.compute(address, (a, old) -> {
+            rememberPeerNative(address, peer);
+            return new Peer(address, peer, keepAlive);
+        });
     }
 
     /**
@@ -80,7 +92,7 @@ public final class ManagedObjects {
      * @param address the native object's address
      */
     public static void unregisterPeer(long address) {
-        PEERS.remove(address);
+        PEERS.computeIfPresent(address, (a, p) -> forget(address));
     }
 
     /**
@@ -90,16 +102,31 @@ public final class ManagedObjects {
      * @param peer the Java object
      */
     public static void unregisterPeer(long address, Object peer) {
-        PEERS.computeIfPresent(address, (a, p) -> p.peer() == peer || p.peer() == null ? null : p);
+        PEERS.computeIfPresent(address, (a, p) -> p.peer() == peer || p.peer() == null ? forget(address) : p);
     }
 
     /** Drops the entries of collected peers (an entry that was replaced since stays). */
     private static void dropCollected() {
         for (Reference<?> r = COLLECTED.poll(); r != null; r = COLLECTED.poll()) {
             Peer p = (Peer) r;
-            PEERS.remove(p.address, p);
+            PEERS.computeIfPresent(p.address, (a, current) -> current == p ? forget(p.address) : current);
         }
     }
+
+    /**
+     * Forgets the native side's reference of the address.
+     *
+     * @param address the native object's address
+     * @return null, the entry's new value
+     */
+    private static Peer forget(long address) {
+        forgetPeerNative(address);
+        return null;
+    }
+
+    private static native void rememberPeerNative(long address, Object peer);
+
+    private static native void forgetPeerNative(long address);
 
     /**
      * The registered peer of the address, or null.
@@ -187,19 +214,40 @@ public final class ManagedObjects {
         return TYPES.containsKey(typeName);
     }
 
-    /** Called from native code: the Java object for the native object at the address. */
+    /**
+     * The Java object for the native object at the address, as an instance of the dotted class
+     * name (the class is looked up by name: native code calls the form taking the class).
+     */
     static Object getManagedObject(String dottedClassName, long address) throws ClassNotFoundException {
         if (address == 0) {
             return null;
         }
-        Class<?> wanted = Class.forName(dottedClassName);
+        return getManagedObject(classNamed(dottedClassName), address);
+    }
+
+    /**
+     * Called from native code, once per class name that native code hands objects as: the class,
+     * initialised (so that it has registered its wrapper).
+     */
+    static Class<?> classNamed(String dottedClassName) throws ClassNotFoundException {
+        return Class.forName(dottedClassName);
+    }
+
+    /**
+     * Called from native code: the Java object for the native object at the address, as an
+     * instance of the class: its registered peer when it is one, otherwise a new wrapper.
+     */
+    static Object getManagedObject(Class<?> wanted, long address) {
+        if (address == 0) {
+            return null;
+        }
         Object peer = peerOf(address);
         if (peer != null && wanted.isInstance(peer)) {
             return peer;
         }
-        LongFunction<?> factory = WRAPPERS.get(dottedClassName);
+        LongFunction<?> factory = WRAPPERS.get(wanted.getName());
         if (factory == null) {
-            throw new IllegalStateException("No Java wrapper registered for " + dottedClassName);
+            throw new IllegalStateException("No Java wrapper registered for " + wanted.getName());
         }
         return factory.apply(address);
     }

@@ -63,11 +63,24 @@ public final class JavaViews {
         return type.isInstance(found) ? type.cast(found) : null;
     }
 
+    /**
+     * Initialises the class (so that it has registered its wrapper), once per class: events call
+     * this for every object they hand to Java, and a lookup by name each time would cost more
+     * than the event itself.
+     */
     private static void ensureInitialized(Class<?> type) {
-        try {
-            Class.forName(type.getName(), true, type.getClassLoader());
-        } catch (ClassNotFoundException e) {
-            throw new IllegalStateException(e);
-        }
+        INITIALIZED.get(type);
     }
+
+    private static final ClassValue<Boolean> INITIALIZED = new ClassValue<>() {
+        @Override
+        protected Boolean computeValue(Class<?> type) {
+            try {
+                Class.forName(type.getName(), true, type.getClassLoader());
+            } catch (ClassNotFoundException e) {
+                throw new IllegalStateException(e);
+            }
+            return Boolean.TRUE;
+        }
+    };
 }

@@ -75,8 +75,10 @@ class VectorConversionCallsTest {
                         sequence(readString(2), conversion(4, VEC3))),
                 Arguments.of("PbMesh2D.addVecsSet", (JniCalls.Block) () -> mesh.addVecsSet(2, vec2(4), "v2"),
                         sequence(readString(2), conversion(4, VEC2))),
+                // the new mesh's Java object registers as its peer: the binding core's weak reference
                 Arguments.of("PbMesh2D.getFaultMesh", (JniCalls.Block) () -> mesh.getFaultMesh(2,
-                        new int[] {0, 3}, vec3(2)), sequence(conversion(2, VEC3), array("Int", 2))),
+                        new int[] {0, 3}, vec3(2)), sequence(conversion(2, VEC3), array("Int", 2),
+                                "NewWeakGlobalRef()")),
                 // pcoord, then the output, then the vectors; the output is copied back first
                 Arguments.of("PbCell.getValue(SbVec3f, SbVec3f[])",
                         (JniCalls.Block) () -> cell.getValue(pcoord, vec3(4)),

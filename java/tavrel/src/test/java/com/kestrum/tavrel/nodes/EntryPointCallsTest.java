@@ -178,10 +178,12 @@ class EntryPointCallsTest {
     }
 
     /**
-     * A new node: initCustomClass reads the type name and stores its peer as one weak global
-     * reference; initCustomRenderEngineMode asks the peer for its render mode (a forwarded call
-     * whose enumeration result is converted). Disposing the node frees it, and the binding core
-     * releases that weak reference with it, exactly once.
+     * A new node: its Java object registers as the peer of its address (the binding core's table
+     * keeps a weak global reference to it, so that native code finds it without calling Java);
+     * initCustomClass reads the type name and stores its peer as one weak global reference;
+     * initCustomRenderEngineMode asks the peer for its render mode (a forwarded call whose
+     * enumeration result is converted). Disposing the node unregisters it and frees it: the
+     * binding core releases both weak references, each exactly once.
      */
     @ParameterizedTest(name = "{0}")
     @MethodSource("javaClasses")
@@ -189,16 +191,16 @@ class EntryPointCallsTest {
         make.get().dispose();
         PoNode[] made = new PoNode[1];
         JniCalls.Recording r = JniCalls.record(() -> made[0] = make.get());
-        assertEquals(sequence(readString(typeName.length()), "NewWeakGlobalRef()",
+        assertEquals(sequence("NewWeakGlobalRef()", readString(typeName.length()), "NewWeakGlobalRef()",
                 GET_ENV, "ExceptionCheck() -> false", "NewLocalRef()",
                 "CallObjectMethodV(getRenderEngineMode()" + RENDER_MODES + ")",
                 "ExceptionCheck() -> false", enumValue(RENDER_MODES, 0), "ExceptionOccurred() -> null",
                 "DeleteLocalRef()", "DeleteLocalRef()"), r.calls());
-        assertEquals(1, r.weakGlobalReferencesCreated());
+        assertEquals(2, r.weakGlobalReferencesCreated());
         assertEquals(0, r.globalReferencesCreated());
 
         JniCalls.Recording disposal = JniCalls.record(made[0]::dispose);
-        assertEquals(1, disposal.weakGlobalReferencesDeleted());
+        assertEquals(2, disposal.weakGlobalReferencesDeleted());
         assertEquals(0, disposal.globalReferencesDeleted());
         assertEquals(0, disposal.weakGlobalReferencesCreated() + disposal.globalReferencesCreated());
     }

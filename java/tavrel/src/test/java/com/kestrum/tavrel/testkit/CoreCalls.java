@@ -57,13 +57,14 @@ public final class CoreCalls {
         return "Set" + kind + "ArrayRegion(0, " + length + ")";
     }
 
-    /** {@code ObjectHelper::getManagedObject(env, className, address)} for a non-zero address. */
+    /**
+     * {@code ObjectHelper::getManagedObject(env, className, address)} for a non-zero address, once
+     * the class of that name has been resolved (by an earlier call): one Java call with the class.
+     */
     public static List<String> managedObject(String dottedClassName) {
-        return List.of("NewStringUTF(\"" + dottedClassName + "\")",
-                "CallStaticObjectMethodV(Lcom/kestrum/corvel/misc/ManagedObjects;, "
-                        + "getManagedObject(Ljava/lang/String;J)Ljava/lang/Object;)",
-                "ExceptionCheck() -> false",
-                "DeleteLocalRef()");
+        return List.of("CallStaticObjectMethodV(Lcom/kestrum/corvel/misc/ManagedObjects;, "
+                        + "getManagedObject(Ljava/lang/Class;J)Ljava/lang/Object;)",
+                "ExceptionCheck() -> false");
     }
 
     /** {@code StringHelper::fromNativeString} of ASCII text: a new Java string. */

@@ -22,4 +22,10 @@ public final class Toolkit {
 
     /** The data (action-method index of node types) of the named type, -1 when unknown. */
     public static native int typeData(String typeName);
+
+    /**
+     * The Java object that the binding core gives native code for the address, as an instance of
+     * the dotted class name ({@code ObjectHelper::getManagedObject}).
+     */
+    public static native Object managedObject(String dottedClassName, long address);
 }

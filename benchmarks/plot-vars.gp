@@ -1,0 +1,3 @@
+njdk = 2
+nvectors = 5
+ndatasets = 9

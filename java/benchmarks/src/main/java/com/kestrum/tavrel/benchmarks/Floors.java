@@ -1,0 +1,86 @@
+package com.kestrum.tavrel.benchmarks;
+
+import com.kestrum.tavrel.internal.JarInitializer;
+import java.io.File;
+
+/**
+ * The floors of the binding's hot paths: natives of the test-only library
+ * ({@code libtavrel_testkit.so}, never shipped) that make exactly the JNI calls a path cannot do
+ * without, and nothing else. Each benchmark reports its path as a ratio to its floor measured in
+ * the same run.
+ *
+ * <p>The library is found through the system property {@code tavrel.testkit.library}, else in the
+ * folder of {@code kestrum.native.dir} (which {@code make bench} sets to the build tree, so that
+ * the product and the test library come from one folder).
+ */
+public final class Floors {
+    private static final String LIBRARY = "libtavrel_testkit.so";
+
+    /** The path of the test library, as {@link #ensureLoaded()} finds it. */
+    static final String LIBRARY_PATH = libraryPath();
+
+    static {
+        JarInitializer.init();
+        System.load(LIBRARY_PATH);
+        init(ObjectSink.class, BooleanSink.class);
+    }
+
+    /** An object to call the instance floor on. */
+    Floors() {}
+
+    /** Loads the product, then the test library (once). */
+    static void ensureLoaded() {
+        // The static initialiser does the work.
+    }
+
+    private static String libraryPath() {
+        String path = System.getProperty("tavrel.testkit.library");
+        if (path == null) {
+            String folder = System.getProperty("kestrum.native.dir");
+            if (folder == null) {
+                throw new IllegalStateException("The benchmarks need the test library: set kestrum.native.dir to "
+                        + "native/build/lib (make bench does) or tavrel.testkit.library to " + LIBRARY);
+            }
+            path = new File(folder, LIBRARY).getAbsolutePath();
+        }
+        return path;
+    }
+
+    /** The target of the object upcalls: counts them. */
+    public static final class ObjectSink {
+        int calls;
+
+        /** Called from native code. */
+        public void accept(Object argument) {
+            calls++;
+        }
+    }
+
+    /** The target of the boolean upcalls: counts them and accepts values in [0, 1). */
+    public static final class BooleanSink {
+        int asked;
+
+        /** Called from native code. */
+        public boolean accept(int index, float value) {
+            asked++;
+            return value >= 0 && value < 1;
+        }
+    }
+
+    private static native void init(Class<?> objectSink, Class<?> booleanSink);
+
+    /** An empty instance native taking a handle: the shape of every thin getter. */
+    native int emptyGetter(long handle);
+
+    /** The per-vector JNI calls of the vector-object conversion; the sum of the components. */
+    static native float vectorLoop(Object[] vectors);
+
+    /** {@code times} bare upcalls of {@code sink.accept(argument)} through a cached identifier. */
+    static native void objectUpcalls(ObjectSink sink, Object argument, int times);
+
+    /** {@code times} bare upcalls of {@code sink.accept(i, 0.5f)}; the number of true answers. */
+    static native int booleanUpcalls(BooleanSink sink, int times);
+
+    /** Raises {@code times} motion events of the probe, with the cell (0 for none). */
+    static native void raiseMotions(long probe, long cell, int times);
+}
