@@ -4,7 +4,7 @@ import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertInstanceOf;
 
 import static com.kestrum.tavrel.testkit.CoreCalls.GET_ENV;
-import static com.kestrum.tavrel.testkit.CoreCalls.managedObject;
+import static com.kestrum.tavrel.testkit.CoreCalls.registeredPeer;
 import static com.kestrum.tavrel.testkit.CoreCalls.sequence;
 
 import com.kestrum.corvel.actions.SoAction;
@@ -42,7 +42,7 @@ class ElementCallsTest {
 
     /**
      * A forwarded operation: the environment, the peer's local reference, the argument's Java
-     * object, the one Java call, the exception check (or the result's handle), the local
+     * object (a registered peer here, found without a call into Java), the one Java call, the exception check (or the result's handle), the local
      * references deleted.
      */
     @Test
@@ -52,7 +52,7 @@ class ElementCallsTest {
             Elements.matches(h, h);
             List<String> matches = JniCalls.record(() -> Elements.matches(h, h)).calls();
             assertEquals(sequence(GET_ENV, "ExceptionCheck() -> false", "NewLocalRef()",
-                    managedObject("com.kestrum.corvel.elements.SoElement"),
+                    registeredPeer("com.kestrum.corvel.elements.SoElement"),
                     "CallBooleanMethodV(matches(Lcom/kestrum/corvel/elements/SoElement;)Z) -> true",
                     "ExceptionOccurred() -> null", "DeleteLocalRef()", "DeleteLocalRef()"), matches);
             Elements.copyMatchInfo(h);

@@ -67,6 +67,15 @@ public final class CoreCalls {
                 "ExceptionCheck() -> false");
     }
 
+    /**
+     * {@code ObjectHelper::getManagedObject(env, className, address)} for the address of a
+     * registered Java peer of that class: found through the native side's weak reference, with
+     * no call into Java.
+     */
+    public static List<String> registeredPeer(String dottedClassName) {
+        return List.of("NewLocalRef()", "IsInstanceOf(L" + dottedClassName.replace('.', '/') + ";) -> true");
+    }
+
     /** {@code StringHelper::fromNativeString} of ASCII text: a new Java string. */
     public static List<String> newString(String ascii) {
         return List.of("NewStringUTF(\"" + ascii + "\")");
