@@ -78,9 +78,17 @@ public final class MeshViews {
             throw new IllegalArgumentException("no view of " + meshClass.getName());
         }
         Holds.hold(owner);
-        M view;
+        return meshClass.cast(viewOnHold(maker, address, owner));
+    }
+
+    /**
+     * A view made by the maker, for which the caller has just taken a hold on the owner: the
+     * view keeps that hold while it is reachable (released here if the view cannot be made).
+     */
+    private static PbMesh viewOnHold(LongFunction<? extends PbMesh> maker, long address, NativeObject owner) {
+        PbMesh view;
         try {
-            view = meshClass.cast(maker.apply(address));
+            view = maker.apply(address);
         } catch (RuntimeException | Error e) {
             Holds.release(owner);
             throw e;
@@ -157,16 +165,7 @@ public final class MeshViews {
                 throw new IllegalStateException("the hold on the mesh has been released");
             }
             Holds.holdOnceMore(owner);
-            PbMesh made;
-            try {
-                made = VIEWS.get(meshClass).apply(address);
-            } catch (RuntimeException | Error e) {
-                Holds.release(owner);
-                throw e;
-            }
-            CLEANER.register(made, () -> UNHELD.add(owner));
-            OWNERS.put(made, owner);
-            return made;
+            return viewOnHold(VIEWS.get(meshClass), address, owner);
         }
 
         /** Ends the hold (once; later calls do nothing), on the calling thread. */
