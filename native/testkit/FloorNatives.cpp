@@ -79,6 +79,84 @@ JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_booleanUpcalls(
   return accepted;
 }
 
+// The JNI calls that a forwarded call of a Java node's operation with one
+// argument makes around its upcall, with none of the lookups between them
+// (README.md, "JNI call sequences"): per call the environment, the pending-
+// exception check, local references to the weakly held peer and to the weakly
+// held argument (a registered peer), the argument's class check, the upcall,
+// the exception check and the two deletions.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_forwardedSequences(JNIEnv* env, jclass,
+                                                                                   jobject sink, jobject argument,
+                                                                                   jclass argumentClass,
+                                                                                   jint times) {
+  JavaVM* vm = nullptr;
+  env->GetJavaVM(&vm);
+  jweak peerRef = env->NewWeakGlobalRef(sink);
+  jweak argumentRef = env->NewWeakGlobalRef(argument);
+  for (jint i = 0; i < times; ++i) {
+    JNIEnv* e = nullptr;
+    vm->GetEnv(reinterpret_cast<void**>(&e), JNI_VERSION_1_8);
+    if (e->ExceptionCheck()) break;
+    jobject peer = e->NewLocalRef(peerRef);
+    jobject arg = e->NewLocalRef(argumentRef);
+    if (e->IsInstanceOf(arg, argumentClass)) e->CallVoidMethod(peer, objectTarget, arg);
+    jthrowable thrown = e->ExceptionOccurred();
+    e->DeleteLocalRef(arg);
+    e->DeleteLocalRef(peer);
+    if (thrown != nullptr) break;
+  }
+  env->DeleteWeakGlobalRef(argumentRef);
+  env->DeleteWeakGlobalRef(peerRef);
+}
+
+// The same for the cell filter's boolean upcall from two primitives: the
+// environment, the pending-exception check, a local reference to the weakly
+// held peer, the upcall, the exception check and the deletion. Returns the
+// number of true answers.
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_filterSequences(JNIEnv* env, jclass, jobject sink,
+                                                                                jint times) {
+  JavaVM* vm = nullptr;
+  env->GetJavaVM(&vm);
+  jweak peerRef = env->NewWeakGlobalRef(sink);
+  jint accepted = 0;
+  for (jint i = 0; i < times; ++i) {
+    JNIEnv* e = nullptr;
+    vm->GetEnv(reinterpret_cast<void**>(&e), JNI_VERSION_1_8);
+    if (e->ExceptionCheck()) break;
+    jobject peer = e->NewLocalRef(peerRef);
+    accepted += e->CallBooleanMethod(peer, booleanTarget, i, static_cast<jdouble>(0.5f)) != JNI_FALSE;
+    jthrowable thrown = e->ExceptionOccurred();
+    e->DeleteLocalRef(peer);
+    if (thrown != nullptr) break;
+  }
+  env->DeleteWeakGlobalRef(peerRef);
+  return accepted;
+}
+
+// The JNI calls of a callback bridge's event: the environment, the pending-
+// exception check, a local reference to the weakly held callback object, its
+// class and the method looked up by name, the upcall with the two handles, and
+// the two deletions.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_bridgeSequences(JNIEnv* env, jclass, jobject sink,
+                                                                                jlong probe, jlong cell,
+                                                                                jint times) {
+  JavaVM* vm = nullptr;
+  env->GetJavaVM(&vm);
+  jweak stored = env->NewWeakGlobalRef(sink);
+  for (jint i = 0; i < times; ++i) {
+    JNIEnv* e = nullptr;
+    vm->GetEnv(reinterpret_cast<void**>(&e), JNI_VERSION_1_8);
+    if (e->ExceptionCheck()) break;
+    jobject live = e->NewLocalRef(stored);
+    jclass cls = e->GetObjectClass(stored);
+    jmethodID method = e->GetMethodID(cls, "invokeNativ", "(JJ)V");
+    if (method != nullptr) e->CallVoidMethod(stored, method, probe, cell);
+    e->DeleteLocalRef(cls);
+    e->DeleteLocalRef(live);
+  }
+  env->DeleteWeakGlobalRef(stored);
+}
+
 // times motion events of the probe with the cell (0 for none), as the probe
 // raises them during a move.
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_raiseMotions(JNIEnv*, jclass, jlong probe,

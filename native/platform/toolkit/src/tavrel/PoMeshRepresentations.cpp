@@ -45,8 +45,9 @@
 #include <Tavrel/PoStreamSurface.h>
 #include <Tavrel/PoStreamTadpoleMotion.h>
 
-#include <cstdio>
+#include <charconv>
 #include <string>
+#include <type_traits>
 
 // Constructors of the classes made by the binding are journaled; those of the
 // abstract bases are not (they only run as part of a derived object).
@@ -71,10 +72,18 @@ SoField* reportField(SoFieldContainer* kit, const char* name) {
   return kit->addOwnField(name);
 }
 
-void appendNumber(std::string& text, double v) {
+// Numbers of the report fields, separated by spaces: floats as "%.9g" writes
+// them, integers as they are (a render reports up to millions of cells).
+template <class Number>
+void appendNumber(std::string& text, Number v) {
   char buf[32];
-  std::snprintf(buf, sizeof buf, "%s%.9g", text.empty() ? "" : " ", v);
-  text += buf;
+  char* end = buf;
+  if (!text.empty()) *end++ = ' ';
+  if constexpr (std::is_integral_v<Number>)
+    end = std::to_chars(end, buf + sizeof buf, v).ptr;
+  else
+    end = std::to_chars(end, buf + sizeof buf, static_cast<double>(v), std::chars_format::general, 9).ptr;
+  text.append(buf, end);
 }
 }  // namespace
 

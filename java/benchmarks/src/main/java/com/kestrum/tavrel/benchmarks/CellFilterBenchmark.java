@@ -88,6 +88,16 @@ public class CellFilterBenchmark {
         return Floors.booleanUpcalls(sink, CELLS);
     }
 
+    /**
+     * The JNI calls of a forwarded call of the filter around the same upcall: what the render's
+     * sequence costs in JNI alone.
+     */
+    @Benchmark
+    @OperationsPerInvocation(CELLS)
+    public int jniSequenceFloor() {
+        return Floors.filterSequences(sink, CELLS);
+    }
+
     /** The render, which asks the filter about every cell. */
     @Benchmark
     @OperationsPerInvocation(CELLS)

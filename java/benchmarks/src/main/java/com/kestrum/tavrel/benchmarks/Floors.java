@@ -54,6 +54,16 @@ public final class Floors {
         public void accept(Object argument) {
             calls++;
         }
+
+        /**
+         * Called from native code, as a callback bridge calls its Java callback object.
+         *
+         * @param probe a native handle
+         * @param cell a native handle
+         */
+        public void invokeNativ(long probe, long cell) {
+            calls++;
+        }
     }
 
     /** The target of the boolean upcalls: counts them and accepts values in [0, 1). */
@@ -80,6 +90,24 @@ public final class Floors {
 
     /** {@code times} bare upcalls of {@code sink.accept(i, 0.5f)}; the number of true answers. */
     static native int booleanUpcalls(BooleanSink sink, int times);
+
+    /**
+     * {@code times} upcalls of {@code sink.accept(argument)} with the JNI calls a forwarded call of a
+     * Java node makes around its upcall (peer and argument held weakly, the argument's class checked).
+     */
+    static native void forwardedSequences(ObjectSink sink, Object argument, Class<?> argumentClass, int times);
+
+    /**
+     * {@code times} upcalls of {@code sink.accept(i, 0.5f)} with the JNI calls a forwarded call of a
+     * Java cell filter makes around its upcall; the number of true answers.
+     */
+    static native int filterSequences(BooleanSink sink, int times);
+
+    /**
+     * {@code times} upcalls of {@code sink.invokeNativ(probe, cell)} with the JNI calls of a callback
+     * bridge's event (the method looked up by name each time).
+     */
+    static native void bridgeSequences(ObjectSink sink, long probe, long cell, int times);
 
     /** Raises {@code times} motion events of the probe, with the cell (0 for none). */
     static native void raiseMotions(long probe, long cell, int times);

@@ -76,6 +76,16 @@ public class ForwardedCallBenchmark {
         Floors.objectUpcalls(sink, render, NODES);
     }
 
+    /**
+     * The JNI calls of a forwarded call around the same upcall, without its lookups: what the
+     * render's sequence costs in JNI alone.
+     */
+    @Benchmark
+    @OperationsPerInvocation(NODES)
+    public void jniSequenceFloor() {
+        Floors.forwardedSequences(sink, render, SoGLRenderAction.class, NODES);
+    }
+
     /** The render traversal. */
     @Benchmark
     @OperationsPerInvocation(NODES)

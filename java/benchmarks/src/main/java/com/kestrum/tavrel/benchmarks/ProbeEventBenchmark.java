@@ -60,6 +60,16 @@ public class ProbeEventBenchmark {
         Floors.objectUpcalls(sink, probe, EVENTS);
     }
 
+    /**
+     * The JNI calls of the callback bridge around an upcall of {@code invokeNativ} (with nothing
+     * done in Java): what an event costs in JNI alone.
+     */
+    @Benchmark
+    @OperationsPerInvocation(EVENTS)
+    public void jniSequenceFloor() {
+        Floors.bridgeSequences(sink, probeHandle, cellHandle, EVENTS);
+    }
+
     /** Motion events raised by the toolkit's probe, each reaching the listener. */
     @Benchmark
     @OperationsPerInvocation(EVENTS)

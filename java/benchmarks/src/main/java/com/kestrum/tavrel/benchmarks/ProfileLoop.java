@@ -8,7 +8,8 @@ import java.util.Map;
  * {@code perf record -g java -XX:+UnlockDiagnosticVMOptions -XX:+DumpPerfMapAtExit ... ProfileLoop forwarded-call 20}.
  *
  * <p>Arguments: the path ({@code thin-getter}, {@code addVecsSet}, {@code forwarded-call},
- * {@code cell-filter}, {@code probe-event}, or the same with {@code -floor} for its floor) and the
+ * {@code cell-filter}, {@code probe-event}, or the same with {@code -floor} for its floor, and the last three with
+ * {@code -jni} for their JNI calls alone) and the
  * seconds to run (10).
  */
 public final class ProfileLoop {
@@ -32,24 +33,31 @@ public final class ProfileLoop {
             vectors.size = 1_000_000;
             vectors.setUp();
         }, "forwarded-call", forwarded::setUp, "cell-filter", filter::setUp, "probe-event", probe::setUp);
-        Map<String, Runnable> paths = Map.of("thin-getter", thin::getNumNodes, "thin-getter-floor", thin::emptyGetterFloor,
-                "addVecsSet", vectors::addVecsSet, "addVecsSet-floor", vectors::vectorLoopFloor,
-                "forwarded-call", forwarded::renderJavaNodes, "forwarded-call-floor", forwarded::objectUpcallFloor,
-                "cell-filter", filter::renderFilteredMesh, "cell-filter-floor", filter::booleanUpcallFloor,
-                "probe-event", probe::motionEvents, "probe-event-floor", probe::objectUpcallFloor);
+        Map<String, Runnable> paths = Map.ofEntries(Map.entry("thin-getter", thin::getNumNodes),
+                Map.entry("thin-getter-floor", thin::emptyGetterFloor), Map.entry("addVecsSet", vectors::addVecsSet),
+                Map.entry("addVecsSet-floor", vectors::vectorLoopFloor),
+                Map.entry("forwarded-call", forwarded::renderJavaNodes),
+                Map.entry("forwarded-call-floor", forwarded::objectUpcallFloor),
+                Map.entry("forwarded-call-jni", forwarded::jniSequenceFloor),
+                Map.entry("cell-filter", filter::renderFilteredMesh),
+                Map.entry("cell-filter-floor", filter::booleanUpcallFloor),
+                Map.entry("cell-filter-jni", filter::jniSequenceFloor), Map.entry("probe-event", probe::motionEvents),
+                Map.entry("probe-event-floor", probe::objectUpcallFloor),
+                Map.entry("probe-event-jni", probe::jniSequenceFloor));
         Runnable path = paths.get(args[0]);
         if (path == null) {
             throw new IllegalArgumentException("no path " + args[0] + "; paths: " + paths.keySet());
         }
-        setUps.get(args[0].replace("-floor", "")).run();
-        long end = System.nanoTime() + (long) (1e9 * (args.length > 1 ? Double.parseDouble(args[1]) : 10));
+        setUps.get(args[0].replaceFirst("-(floor|jni)$", "")).run();
+        long start = System.nanoTime();
+        long end = start + (long) (1e9 * (args.length > 1 ? Double.parseDouble(args[1]) : 10));
         long rounds = 0;
-        while (System.nanoTime() < end) {
-            for (int i = 0; i < 100; i++) {
-                path.run();
-            }
-            rounds += 100;
+        long now = start;
+        while (now < end) {
+            path.run();
+            rounds++;
+            now = System.nanoTime();
         }
-        System.out.println(args[0] + ": " + rounds + " operations");
+        System.out.printf("%s: %d invocations, %.1f ns each%n", args[0], rounds, (now - start) / (double) rounds);
     }
 }
