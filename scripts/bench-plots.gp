@@ -38,6 +38,7 @@ set style fill solid 0.7 border -1
 set boxwidth 0.9
 set xtics rotate by -35 left noenhanced
 set bmargin 9
+set rmargin 10
 set logscale y
 set yrange [0.1:*]
 set key inside left top
