@@ -1,15 +1,18 @@
 package com.kestrum.tavrel.testkit;
 
 import java.io.IOException;
+import java.io.UncheckedIOException;
 import java.lang.management.ManagementFactory;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.Arrays;
+import java.util.Comparator;
 import java.util.List;
 import java.util.concurrent.TimeUnit;
 import java.util.regex.Pattern;
+import java.util.stream.Stream;
 
 /**
  * Runs the {@code main} of a test class in a child JVM, so that a test of something that could
@@ -20,6 +23,8 @@ import java.util.regex.Pattern;
  * ({@link JniCalls}) when this JVM has it, and this process's environment (so a run under a
  * sanitizer, whose runtime is preloaded through the environment, sanitizes the child too). Its
  * working folder is a new temporary folder, where the JVM writes its error file if it crashes.
+ * The folders of children that exited normally with 0 and printed no JNI warning are deleted
+ * when this JVM exits; the others stay for inspection.
  */
 public final class ChildJvm {
     /** Lines that only a crash or a sanitizer writes. */
@@ -32,7 +37,30 @@ public final class ChildJvm {
         "kestrum.native.dir", "tavrel.testkit.library", "tavrel.jnicalls.agent"
     };
 
+    /** Folders of clean runs, deleted at exit (tests may still read them until then). */
+    private static final List<Path> CLEAN_FOLDERS = new ArrayList<>();
+
+    static {
+        Runtime.getRuntime().addShutdownHook(new Thread(ChildJvm::deleteCleanFolders, "child-folder-cleanup"));
+    }
+
     private ChildJvm() {}
+
+    private static void deleteCleanFolders() {
+        List<Path> folders;
+        synchronized (CLEAN_FOLDERS) {
+            folders = new ArrayList<>(CLEAN_FOLDERS);
+        }
+        for (Path folder : folders) {
+            try (Stream<Path> files = Files.walk(folder)) {
+                for (Path file : files.sorted(Comparator.reverseOrder()).toList()) {
+                    Files.deleteIfExists(file);
+                }
+            } catch (IOException | UncheckedIOException e) {
+                // Left behind: a temporary folder, nothing more.
+            }
+        }
+    }
 
     /** What a child JVM did. */
     public record Result(int exitCode, String output, Path workDir, boolean timedOut) {
@@ -112,7 +140,13 @@ public final class ChildJvm {
             process.waitFor();
         }
         String output = Files.readString(out, StandardCharsets.UTF_8);
-        return new Result(finished ? process.exitValue() : -1, output, workDir, !finished);
+        Result result = new Result(finished ? process.exitValue() : -1, output, workDir, !finished);
+        if (result.exitCode() == 0 && !result.crashed() && !result.jniWarning()) {
+            synchronized (CLEAN_FOLDERS) {
+                CLEAN_FOLDERS.add(workDir);
+            }
+        }
+        return result;
     }
 
     /** Asks a hung child for a thread dump (SIGQUIT), which it prints to its output. */
