@@ -107,7 +107,7 @@ soak: native
 
 # JMH benchmarks (BENCHMARKS.md): each hot path against its floor in the test library, on JDK 17
 # and on PANAMA_JDK. BENCH_OPTS adds JVM options, e.g. -Dbench.include=ThinGetter or
-# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 20 minutes; needs
+# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 25 minutes; needs
 # gnuplot: apt-get install gnuplot-nox); `make bench-quick` prints the ratios (about five).
 BENCH_OPTS ?=
 bench-build: native
