@@ -8,9 +8,9 @@ import java.util.Map;
  * {@code perf record -g java -XX:+UnlockDiagnosticVMOptions -XX:+DumpPerfMapAtExit ... ProfileLoop forwarded-call 20}.
  *
  * <p>Arguments: the path ({@code thin-getter}, {@code addVecsSet}, {@code forwarded-call},
- * {@code cell-filter}, {@code probe-event}, or the same with {@code -floor} for its floor, and the last three with
- * {@code -jni} for their JNI calls alone) and the
- * seconds to run (10).
+ * {@code cell-filter}, {@code probe-event}; each with {@code -floor} for its floor, and the last
+ * three with {@code -jni} for their JNI calls alone) and the seconds to run (10). Prints the time
+ * per invocation of the path.
  */
 public final class ProfileLoop {
     private ProfileLoop() {}
