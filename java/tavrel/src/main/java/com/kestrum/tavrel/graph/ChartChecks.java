@@ -21,24 +21,13 @@ final class ChartChecks {
             }
             return null;
         }
-        if (points.length < numPoints) {
-            throw new IllegalArgumentException(name + " has " + points.length + " elements, " + numPoints + " needed");
-        }
-        for (int i = 0; i < points.length; i++) {
-            if (points[i] == null) {
-                throw new NullPointerException(name + "[" + i + "] is null");
-            }
-        }
-        return points;
+        return Checks.elements(points, numPoints, name);
     }
 
     /** The slices of a pie chart: a count the toolkit's short holds, with that many names and values. */
     static int slices(int numSlices, String[] names, float[] values) {
         Checks.count(numSlices, Short.MAX_VALUE, "numSlices");
-        Checks.notNull(names, "names");
-        if (names.length < numSlices) {
-            throw new IllegalArgumentException("names has " + names.length + " elements, " + numSlices + " needed");
-        }
+        com.kestrum.tavrel.data.Checks.length(names, numSlices, "names");
         Checks.length(values, numSlices, "values");
         return numSlices;
     }

@@ -7,16 +7,14 @@ import com.kestrum.corvel.SbVec3f;
 /**
  * Argument checks made before any native call of this package: the native methods check
  * nothing, so every array the toolkit reads must be present and long enough, and every count
- * must be one the toolkit can use.
+ * must be one the toolkit can use. The checks shared with the meshes are those of
+ * {@link com.kestrum.tavrel.data.Checks}; these are the ones of the graph classes.
  */
 final class Checks {
     private Checks() {}
 
     static <T> T notNull(T value, String name) {
-        if (value == null) {
-            throw new NullPointerException(name + " is null");
-        }
-        return value;
+        return com.kestrum.tavrel.data.Checks.notNull(value, name);
     }
 
     /** A count from 0 to max. */
@@ -32,11 +30,7 @@ final class Checks {
 
     /** A float array of at least `needed` elements. */
     static float[] length(float[] array, long needed, String name) {
-        notNull(array, name);
-        if (array.length < needed) {
-            throw new IllegalArgumentException(name + " has " + array.length + " elements, " + needed + " needed");
-        }
-        return array;
+        return com.kestrum.tavrel.data.Checks.length(array, needed, name);
     }
 
     /**
@@ -44,18 +38,13 @@ final class Checks {
      * conversion reads every element).
      */
     static SbColor[] colors(SbColor[] colors, long needed, String name) {
-        if (colors == null) {
-            return null;
-        }
-        if (colors.length < needed) {
-            throw new IllegalArgumentException(name + " has " + colors.length + " elements, " + needed + " needed");
-        }
-        for (int i = 0; i < colors.length; i++) {
-            if (colors[i] == null) {
-                throw new NullPointerException(name + "[" + i + "] is null");
-            }
-        }
-        return colors;
+        return colors == null ? null : elements(colors, needed, name);
+    }
+
+    /** An object array of at least `needed` elements, none of them null (the conversion reads every one). */
+    static <T> T[] elements(T[] array, long needed, String name) {
+        return com.kestrum.tavrel.data.Checks.noNullElements(com.kestrum.tavrel.data.Checks.length(array, needed, name),
+                name);
     }
 
     /** The three components of a colour, in a new array. */
@@ -70,21 +59,12 @@ final class Checks {
 
     /** Vector objects that are all read: the array and every element non-null. */
     static <T> T[] vectors(T[] vectors, String name) {
-        notNull(vectors, name);
-        for (int i = 0; i < vectors.length; i++) {
-            if (vectors[i] == null) {
-                throw new NullPointerException(name + "[" + i + "] is null");
-            }
-        }
-        return vectors;
+        return elements(vectors, 0, name);
     }
 
     /** Strings of which `needed` are read: at least that many, none of those null. */
     static String[] strings(String[] strings, long needed, String name) {
-        notNull(strings, name);
-        if (strings.length < needed) {
-            throw new IllegalArgumentException(name + " has " + strings.length + " elements, " + needed + " needed");
-        }
+        com.kestrum.tavrel.data.Checks.length(strings, needed, name);
         for (int i = 0; i < needed; i++) {
             if (strings[i] == null) {
                 throw new NullPointerException(name + "[" + i + "] is null");
