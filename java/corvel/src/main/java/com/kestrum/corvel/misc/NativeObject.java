@@ -227,6 +227,24 @@ public abstract class NativeObject implements AutoCloseable {
     }
 
     /**
+     * A native call with a result, on the handles of its receiver and of one argument (0 when
+     * there is none).
+     *
+     * @param <R> the result's type
+     */
+    @FunctionalInterface
+    protected interface HandleFunction<R> {
+        /**
+         * Calls the native method with the receiver's handle and the argument's.
+         *
+         * @param handle the receiver's handle
+         * @param argument the argument's handle, 0 for none
+         * @return the call's result
+         */
+        R call(long handle, long argument);
+    }
+
+    /**
      * Makes a native call that may call back into Java, on this object and an argument that must
      * be present and live, holding both until it returns.
      *
@@ -235,17 +253,56 @@ public abstract class NativeObject implements AutoCloseable {
      * @param call the native call, given the receiver's handle
      */
     protected final void callWith(NativeObject argument, String name, HandleCall call) {
+        callHolding(argument, name, false, (h, a) -> {
+            call.call(h, a);
+            return null;
+        });
+    }
+
+    /**
+     * Makes a native call that may call back into Java (a traversal, a rebuild, the making of a
+     * Java object by the toolkit), holding this object and its object argument until the call
+     * returns: disposing either from a callback of that call disposes the Java object at once and
+     * lets its native object go only when the call has returned. Every held call goes through
+     * here.
+     *
+     * @param argument the object argument, or null (no argument, or an optional one left out)
+     * @param name the argument's name, for the exceptions' messages
+     * @param optional whether a null argument is allowed (its handle is then 0)
+     * @param call the native call, given the receiver's handle and the argument's
+     * @param <R> the call's result type
+     * @return what the call returns
+     * @throws NullPointerException when a required argument is null
+     * @throws IllegalStateException when this object or the argument has been disposed
+     */
+    protected final <R> R callHolding(NativeObject argument, String name, boolean optional,
+            HandleFunction<R> call) {
         long h = enter();
         try {
+            if (argument == null && optional) {
+                return call.call(h, 0);
+            }
             long a = enter(argument, name);
             try {
-                call.call(h, a);
+                return call.call(h, a);
             } finally {
                 argument.leave();
             }
         } finally {
             leave();
         }
+    }
+
+    /**
+     * As {@link #callHolding}, for a call without an object argument: holds this object alone.
+     *
+     * @param call the native call, given the receiver's handle
+     * @param <R> the call's result type
+     * @return what the call returns
+     * @throws IllegalStateException when this object has been disposed
+     */
+    protected final <R> R callHeld(java.util.function.LongFunction<R> call) {
+        return callHolding(null, null, true, (h, a) -> call.apply(h));
     }
 
     /** Runs the release action (at most once, whoever calls it). */

@@ -190,17 +190,8 @@ public class SoNode extends NativeObject {
      * @return true on success
      */
     public boolean readInstance(SoInput in, short flags) {
-        long h = enter();  // reading may make nodes of Java classes
-        try {
-            long input = enter(in, "in");
-            try {
-                return readInstanceNative(h, input, flags);
-            } finally {
-                leave(in);
-            }
-        } finally {
-            leave();
-        }
+        // Reading may make nodes of Java classes.
+        return callHolding(in, "in", false, (h, input) -> readInstanceNative(h, input, flags));
     }
 
     /**
@@ -260,12 +251,8 @@ public class SoNode extends NativeObject {
      * @return a new node of the same type
      */
     public SoNode copy(boolean copyConnections) {
-        long h = enter();  // the copy of a Java node's type is made by its Java class
-        try {
-            return of(copyNative(h, copyConnections));
-        } finally {
-            leave();
-        }
+        // The copy of a Java node's type is made by its Java class.
+        return callHeld(h -> of(copyNative(h, copyConnections)));
     }
 
     /**

@@ -91,8 +91,7 @@ public class PoAutoCubeAxis extends PoBase {
 
     /** Renders the node with the action (rebuilding it first when it has changed). */
     public void GLRender(SoGLRenderAction action) {
-        long address = handleOf(action, "action");
-        rebuilding(h -> GLRenderImpl(h, address));
+        callWith(action, "action", this::GLRenderImpl);
     }
 
     /**

@@ -436,9 +436,10 @@ public abstract class PoAxis extends PoBase {
      * @param attr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr attr) {
-        long address = handleOrZero(attr, "attr");
-        textAttr = attr;
-        rebuilding(h -> setMiscTextAttrImpl(h, address));
+        rebuilding(attr, "attr", (h, address) -> {
+            textAttr = attr;
+            setMiscTextAttrImpl(h, address);
+        });
     }
 
     /**

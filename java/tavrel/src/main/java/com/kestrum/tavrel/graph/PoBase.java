@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.internal.JarInitializer;
@@ -358,9 +359,10 @@ public abstract class PoBase extends SoBaseKit {
      * @param domain the domain, or null for none
      */
     public void setDomain(PbDomain domain) {
-        long address = handleOrZero(domain, "domain");
-        this.domain = domain;
-        rebuilding(h -> setDomainImpl(h, address));
+        rebuilding(domain, "domain", (h, address) -> {
+            this.domain = domain;
+            setDomainImpl(h, address);
+        });
     }
 
     /**
@@ -462,12 +464,26 @@ public abstract class PoBase extends SoBaseKit {
      * @param call the native call, given the receiver's handle
      */
     protected final void rebuilding(LongConsumer call) {
-        long h = enter();
-        try {
+        callHeld(h -> {
             call.accept(h);
-        } finally {
-            leave();
-        }
+            return null;
+        });
+    }
+
+    /**
+     * As {@link #rebuilding(LongConsumer)}, for a call that also takes an optional object (an
+     * attribute object, say), held as well for the duration of the call.
+     *
+     * @param argument the object argument, or null for none
+     * @param name the argument's name, for the exception's message
+     * @param call the native call, given the receiver's handle and the argument's (0 for null)
+     * @throws IllegalStateException when the node or the argument has been disposed
+     */
+    protected final void rebuilding(NativeObject argument, String name, HandleCall call) {
+        callHolding(argument, name, true, (h, a) -> {
+            call.call(h, a);
+            return null;
+        });
     }
 
     /** A view of a graph node of a class this package does not know. */

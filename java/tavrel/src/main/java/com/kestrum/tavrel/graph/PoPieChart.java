@@ -244,14 +244,10 @@ public abstract class PoPieChart extends PoChart {
      * @param attr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr attr) {
-        long address = handleOrZero(attr, "attr");
-        this.textAttr = attr;
-        long h = enter();
-        try {
+        rebuilding(attr, "attr", (h, address) -> {
+            this.textAttr = attr;
             setMiscTextAttrImpl(h, address);
-        } finally {
-            leave();
-        }
+        });
     }
 
     /**
@@ -270,14 +266,10 @@ public abstract class PoPieChart extends PoChart {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        long address = handleOrZero(format, "format");
-        this.format = format;
-        long h = enter();
-        try {
+        rebuilding(format, "format", (h, address) -> {
+            this.format = format;
             setFormatImpl(h, address);
-        } finally {
-            leave();
-        }
+        });
     }
 
     /**
@@ -297,12 +289,7 @@ public abstract class PoPieChart extends PoChart {
      * @param distance the distance by which the slice moves out
      */
     public void setSliceToTranslate(int slice, float distance) {
-        long h = enter();
-        try {
-            setSliceToTranslateImpl(h, slice, distance);
-        } finally {
-            leave();
-        }
+        rebuilding(h -> setSliceToTranslateImpl(h, slice, distance));
     }
 
     /**

@@ -50,12 +50,7 @@ public class PoPieChartRep extends PoChart {
      * @param distance the distance by which the slice moves out
      */
     public void setSliceToTranslate(int slice, float distance) {
-        long h = enter();
-        try {
-            setSliceToTranslateImpl(h, slice, distance);
-        } finally {
-            leave();
-        }
+        rebuilding(h -> setSliceToTranslateImpl(h, slice, distance));
     }
 
     /**

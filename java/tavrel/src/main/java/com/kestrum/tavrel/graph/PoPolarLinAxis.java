@@ -87,9 +87,10 @@ public class PoPolarLinAxis extends PoPolarAxis {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        long address = handleOrZero(format, "format");
-        this.format = format;
-        rebuilding(h -> setFormatImpl(h, address));
+        rebuilding(format, "format", (h, address) -> {
+            this.format = format;
+            setFormatImpl(h, address);
+        });
     }
 
     /**

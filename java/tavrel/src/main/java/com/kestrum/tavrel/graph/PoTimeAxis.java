@@ -184,9 +184,10 @@ public class PoTimeAxis extends PoAxis {
      * @param mapping the date mapping, or null for none
      */
     public void setDateFormatMapping(PbDateFormatMapping mapping) {
-        long address = handleOrZero(mapping, "mapping");
-        this.mapping = mapping;
-        rebuilding(h -> setDateFormatMappingImpl(h, address));
+        rebuilding(mapping, "mapping", (h, address) -> {
+            this.mapping = mapping;
+            setDateFormatMappingImpl(h, address);
+        });
     }
 
     /**

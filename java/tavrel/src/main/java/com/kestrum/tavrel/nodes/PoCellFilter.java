@@ -12,7 +12,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  *
  * <p>The toolkit behaviour of a cell filter: {@code doAction} traverses its children,
  * {@code write} writes nothing, and {@code acceptCell} has none (a class that does not override
- * it answers with an {@link IllegalAccessException}).
+ * it answers with an {@link UnsupportedOperationException} caused by the toolkit's
+ * {@link IllegalAccessException}).
  */
 public abstract class PoCellFilter extends PoNode {
     static {
@@ -62,9 +63,13 @@ public abstract class PoCellFilter extends PoNode {
      * @param cellIndex the index of the cell
      * @param value the cell's value (its mesh's values set 0, per cell or the mean of its nodes; 0 without one)
      * @return whether the cell of that index, whose value is {@code value}, is accepted
+     * @throws UnsupportedOperationException when the class does not override it (the toolkit's
+     *     refusal, an {@link IllegalAccessException}, is the cause)
+     * @throws IllegalStateException when the filter has been disposed
      */
     public boolean acceptCell(int cellIndex, float value) {
-        return acceptCellImpl(handle(), cellIndex, value);
+        long h = handle();
+        return ToolkitRefusals.unlessRefused("PoCellFilter.acceptCell", () -> acceptCellImpl(h, cellIndex, value));
     }
 
     @Override
@@ -74,7 +79,7 @@ public abstract class PoCellFilter extends PoNode {
 
     @Override
     public void write(SoWriteAction action) {
-        writeImpl(handle(), handleOf(action, "action"));
+        callWith(action, "action", this::writeImpl);
     }
 
     private static native long ctorImpl();
@@ -87,7 +92,7 @@ public abstract class PoCellFilter extends PoNode {
 
     private native void initCustomRenderEngineMode(long handle);
 
-    private native boolean acceptCellImpl(long handle, int cellIndex, float value);
+    private native boolean acceptCellImpl(long handle, int cellIndex, float value) throws IllegalAccessException;
 
     private native void doActionImpl(long handle, long action);
 

@@ -20,9 +20,10 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * override that calls {@code super} gets the toolkit's own behaviour of the node (traversing
  * its children, writing it, ...).
  *
- * <p>{@code doAction} has no toolkit behaviour: a class that does not override it makes every
- * generic action fail with an {@link IllegalArgumentException} caused by an
- * {@link IllegalAccessException}.
+ * <p>{@code doAction} has no toolkit behaviour: called on a class that does not override it, it
+ * throws an {@link UnsupportedOperationException} (caused by the toolkit's
+ * {@link IllegalAccessException}), and every generic action that reaches such a node fails with
+ * an {@link IllegalArgumentException} caused by that exception.
  *
  * <p>Each Java class gets a toolkit type of its own, named by the constructor's
  * {@code typeName} or, by default, after the class's simple name; the first object of the
@@ -89,12 +90,10 @@ public abstract class PoNode extends SoNode {
      * node only when the call has returned.
      */
     final void whileHeld(Runnable call) {
-        enter();
-        try {
+        callHeld(h -> {
             call.run();
-        } finally {
-            leave();
-        }
+            return null;
+        });
     }
 
     /**
@@ -106,9 +105,22 @@ public abstract class PoNode extends SoNode {
         return getClassTypeId();
     }
 
+    /**
+     * The node's part of a traversal by any action. The toolkit's {@code PoNode} has none: a Java
+     * class that does not override this method cannot be traversed by a generic action.
+     *
+     * @param action the action that traverses the node
+     * @throws UnsupportedOperationException when the class does not override it (the toolkit's
+     *     refusal, an {@link IllegalAccessException}, is the cause)
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
     @Override
     public void doAction(SoAction action) {
-        callWith(action, "action", this::doActionImpl);
+        callWith(action, "action", (h, a) -> ToolkitRefusals.unlessRefused("PoNode.doAction", () -> {
+            doActionImpl(h, a);
+            return null;
+        }));
     }
 
     @Override
@@ -166,7 +178,7 @@ public abstract class PoNode extends SoNode {
 
     private native void initCustomRenderEngineMode(long handle);
 
-    private native void doActionImpl(long handle, long action);
+    private native void doActionImpl(long handle, long action) throws IllegalAccessException;
 
     private native void callbackImpl(long handle, long action);
 
