@@ -104,10 +104,6 @@ final class Coverage {
         return CLASSES.contains(c.getName());
     }
 
-    static int classes() {
-        return CLASSES.size();
-    }
-
     static int methods() {
         return METHODS.size();
     }

@@ -161,8 +161,9 @@ public final class Misuse {
         System.out.println("misuse outcomes: " + run.outcomes);
         run.detail.forEach((k, v) -> System.out.println("  " + k + ": " + v));
         Coverage.write(Path.of(Coverage.FILE));
-        System.out.println("misuse reached " + Coverage.classes() + " of " + run.surface.productClasses.size()
-                + " classes, " + Coverage.methods() + " methods");
+        long reached = run.surface.productClasses.stream().filter(Coverage::reached).count();
+        System.out.println("misuse reached " + reached + " of " + run.surface.productClasses.size()
+                + " public classes, " + Coverage.methods() + " methods");
         System.out.println("misuse unclear exceptions: " + Coverage.unclear());
         if (exit == 0 && Coverage.unclear() > 0) {
             exit = 4;
@@ -1442,7 +1443,8 @@ public final class Misuse {
 
     /** Results: objects join the pool; buffers are read (and data sets written) at once; counts are noted. */
     private void takeIn(Object result, int line, Object receiver) {
-        if (result instanceof NativeObject || result != null && !(result instanceof Enum) && Coverage.isProduct(result.getClass())) {
+        if (result instanceof NativeObject || result != null && !(result instanceof Enum)
+                && (Coverage.isProduct(result.getClass()) || surface.classes.contains(result.getClass()))) {
             adopt(result, line);
             if (receiver != null && receiver != result && !parents.containsKey(result)) {
                 parents.put(result, new java.lang.ref.WeakReference<>(receiver));
@@ -1656,15 +1658,8 @@ public final class Misuse {
         if (t.isArray()) {
             return ctx.wellFormed ? wellFormedArray(t.getComponentType(), ctx) : array(t.getComponentType(), ctx);
         }
-        if (t == SbVec3f.class) {
-            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbVec3f(coordinate(ctx), coordinate(ctx),
-                    coordinate(ctx));
-        }
-        if (t == SbVec2f.class) {
-            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbVec2f(coordinate(ctx), coordinate(ctx));
-        }
-        if (t == SbColor.class) {
-            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbColor(nextFloat(), nextFloat(), nextFloat());
+        if (t == SbVec3f.class || t == SbVec2f.class || t == SbColor.class) {
+            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : vector(t, ctx);
         }
         if (t.isEnum()) {
             Object[] constants = t.getEnumConstants();
@@ -1692,6 +1687,28 @@ public final class Misuse {
             return pickAny(t, ctx.wellFormed ? 97 : 85);
         }
         return null;
+    }
+
+    /**
+     * A vector or colour: one in twenty hostile (a subclass whose own field "array" hides the
+     * vector's, see {@link HostileVectors}).
+     */
+    private Object vector(Class<?> t, Ctx ctx) {
+        float x = t == SbColor.class ? nextFloat() : coordinate(ctx);
+        float y = t == SbColor.class ? nextFloat() : coordinate(ctx);
+        float z = t == SbColor.class ? nextFloat() : coordinate(ctx);
+        boolean hostile = rnd.nextInt(20) == 0;
+        int kind = rnd.nextInt(4);
+        if (t == SbVec2f.class) {
+            return hostile ? new HostileVectors.Vec2(x, y, kind) : new SbVec2f(x, y);
+        }
+        if (t == SbColor.class) {
+            return hostile ? new HostileVectors.Color(x, y, z, kind) : new SbColor(x, y, z);
+        }
+        if (hostile) {
+            return kind == 3 ? new HostileVectors.Vec3Ints(x, y, z) : new HostileVectors.Vec3(x, y, z, kind);
+        }
+        return new SbVec3f(x, y, z);
     }
 
     private float coordinate(Ctx ctx) {
@@ -1764,11 +1781,10 @@ public final class Misuse {
             }
             return a;
         }
-        if (component == SbVec3f.class || component == SbVec2f.class) {
+        if (component == SbVec3f.class || component == SbVec2f.class || component == SbColor.class) {
             Object[] a = (Object[]) java.lang.reflect.Array.newInstance(component, clampLength(length));
             for (int i = 0; i < a.length; i++) {
-                a[i] = component == SbVec3f.class ? new SbVec3f(coordinate(ctx), coordinate(ctx), coordinate(ctx))
-                        : new SbVec2f(coordinate(ctx), coordinate(ctx));
+                a[i] = vector(component, ctx);
             }
             return a;
         }
@@ -1827,12 +1843,11 @@ public final class Misuse {
             }
             return a;
         }
-        if (component == SbVec3f.class || component == SbVec2f.class) {
+        if (component == SbVec3f.class || component == SbVec2f.class || component == SbColor.class) {
             Object[] a = (Object[]) java.lang.reflect.Array.newInstance(component, length);
             for (int i = 0; i < length; i++) {
                 if (rnd.nextInt(20) != 0) {
-                    a[i] = component == SbVec3f.class ? new SbVec3f(nextFloat(), nextFloat(), nextFloat())
-                            : new SbVec2f(nextFloat(), nextFloat());
+                    a[i] = vector(component, ctx);
                 }
             }
             return a;

@@ -1,5 +1,10 @@
 package com.kestrum.tavrel.misuse;
 
+import com.kestrum.corvel.SbBox2f;
+import com.kestrum.corvel.SbBox3f;
+import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.SoInput;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
@@ -66,7 +71,7 @@ final class Surface {
             SoAction.class, SoCallbackAction.class, SoDistributeAction.class, SoGLRenderAction.class,
             SoGetBoundingBoxAction.class, SoGetMatrixAction.class, SoGetPrimitiveCountAction.class,
             SoHandleEventAction.class, SoPickAction.class, SoRayPickAction.class, SoSearchAction.class,
-            SoWriteAction.class);
+            SoWriteAction.class, SbVec2f.class, SbVec3f.class, SbColor.class, SbBox2f.class, SbBox3f.class);
 
     /** Java-extended nodes whose overrides misbehave (the product's node bases are abstract). */
     static final List<Class<?>> EXTENSIONS = extensions();
