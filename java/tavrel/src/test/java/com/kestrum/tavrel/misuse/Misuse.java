@@ -50,18 +50,26 @@ import java.util.concurrent.FutureTask;
  * {@code Misuse <seed> <calls> <log file>}.
  *
  * <p>Each step constructs an object of a random class of the {@link Surface}, calls a random
- * public method of a random object (or a static one), disposes or drops an object, builds and
- * traverses a small scene graph, or raises events as the toolkit does. Arguments are hostile:
- * null, empty and short arrays, negative, zero and extreme counts and indices, NaN and
- * infinities, disposed objects, objects of sibling classes and views. Some calls are handed to
- * another Java thread and waited for. Listeners and Java-extended nodes ({@link HostileNode},
- * {@link HostileFilter}) make further calls from inside their callbacks, dispose the object
- * they are called for or others, return hostile values and throw.
+ * public method of a random object (or a static one), disposes or drops an object, builds,
+ * traverses and renders a scene that mixes every kind of node, raises events as the toolkit
+ * does, enables hostile element types on the actions, rebuilds a graph node with listeners,
+ * sweeps the views of an object past their owner, or runs two threads at once ({@link #lanes}).
+ * Round robins over the classes without a successful call yet make every class reached
+ * ({@link Coverage}). Arguments are hostile: null, empty and short arrays, negative, zero and
+ * extreme counts and indices, NaN and infinities, disposed objects, objects of sibling classes,
+ * views, hostile vectors. Some calls are handed to another Java thread and waited for.
+ * Listeners and Java-extended nodes and elements ({@link HostileNode}, {@link HostileFilter},
+ * {@link HostileElements}) make further calls from inside their callbacks, dispose the object
+ * they are called for, their arguments or those of the call that caused them, call the element
+ * classes with the state they are given, keep what they are given, return hostile values and
+ * throw.
  *
- * <p>Every call may return or throw a Java exception. The run fails only by dying (a crash, a
- * sanitizer report, a JNI warning, a hang), which the parent sees; or, exit code 3, when a call
+ * <p>Every call may return or throw a Java exception. The run fails by dying (a crash, a
+ * sanitizer report, a JNI warning, a hang), which the parent sees; with exit code 3 when a call
  * throws an {@link Error} that a Java caller cannot recover from (out of memory, a class that
- * cannot be initialised). Each call is written to the {@link CallLog} before it is made.
+ * cannot be initialised); with exit code 4 when an exception had no clear message
+ * ({@link Coverage#check}). Each call is written to the {@link CallLog} before it is made; at
+ * the end the child writes the classes and methods it reached ({@link Coverage#FILE}).
  *
  * <p>The test library's natives (raising probe and rebuild events, calling a node's virtual
  * operations) act as the toolkit does, so they get what the toolkit would give: live objects of
