@@ -32,8 +32,9 @@ import java.util.regex.Pattern;
  * outside the JDK) with a null or empty message, or when the JVM made it there: a
  * NullPointerException, ArrayIndexOutOfBoundsException, ClassCastException or
  * NegativeArraySizeException with the JVM's own message, an ArithmeticException or an
- * ArrayStoreException. The causes are looked at too (an override's call of {@code super} that
- * failed reaches the caller as the cause of the wrapping exception).
+ * ArrayStoreException; or a checked exception that the method does not declare. The causes are
+ * looked at too (an override's call of {@code super} that failed reaches the caller as the cause
+ * of the wrapping exception).
  */
 final class Coverage {
     /** The file of reached classes ({@code C name}) and methods ({@code M key}). */
@@ -157,9 +158,17 @@ final class Coverage {
      * kind in full) when it is unclear. Returns true when it was.
      */
     static boolean check(String call, Throwable thrown) {
+        return check(call, thrown, null);
+    }
+
+    /**
+     * As {@link #check(String, Throwable)}; a checked exception that the method called does not
+     * declare is unclear too (a caller cannot expect it).
+     */
+    static boolean check(String call, Throwable thrown, Executable called) {
         Set<Throwable> seen = Collections.newSetFromMap(new IdentityHashMap<>());
         for (Throwable t = thrown; t != null && seen.add(t); t = t.getCause()) {
-            String why = unclearReason(t);
+            String why = t == thrown && undeclared(t, called) ? "undeclared checked exception" : unclearReason(t);
             if (why != null) {
                 int n = UNCLEAR_COUNT.incrementAndGet();
                 StackTraceElement top = firstOutsideJdk(t);
@@ -181,6 +190,18 @@ final class Coverage {
             }
         }
         return false;
+    }
+
+    private static boolean undeclared(Throwable t, Executable called) {
+        if (called == null || t instanceof RuntimeException || t instanceof Error) {
+            return false;
+        }
+        for (Class<?> declared : called.getExceptionTypes()) {
+            if (declared.isInstance(t)) {
+                return false;
+            }
+        }
+        return true;
     }
 
     private static String unclearReason(Throwable t) {

@@ -67,6 +67,17 @@ class CoverageTest {
     }
 
     @Test
+    void undeclaredCheckedExceptionsAreUnclear() throws Exception {
+        java.lang.reflect.Method apply = com.kestrum.corvel.actions.SoAction.class.getMethod("apply",
+                com.kestrum.corvel.nodes.SoNode.class);
+        java.lang.reflect.Method write = com.kestrum.corvel.actions.SoGLRenderAction.class.getMethod("writeSvg",
+                java.nio.file.Path.class);
+        Throwable checked = thrownAt(new IllegalAccessException("Call of a pure virtual method"), PRODUCT);
+        assertTrue(Coverage.check("apply", checked, apply));
+        assertFalse(Coverage.check("writeSvg", thrownAt(new java.io.IOException("no folder"), CORE), write));
+    }
+
+    @Test
     void surfaceHoldsEveryPublicClassButTheInternalOnes() {
         Set<String> names = new Surface().productClasses.stream().map(Class::getName).collect(Collectors.toSet());
         // every package, nested enumerations, records and listener interfaces included

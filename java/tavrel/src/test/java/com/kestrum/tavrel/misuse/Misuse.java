@@ -1419,7 +1419,7 @@ public final class Misuse {
             return null;
         } catch (Throwable t) {
             outcome(outcomeKey, t.getClass().getSimpleName());
-            if (Coverage.check(name + " (log line " + line + ", " + thread() + ")", t)) {
+            if (Coverage.check(name + " (log line " + line + ", " + thread() + ")", t, executable)) {
                 log.write(thread(), depth, "# unclear exception: " + t);
             }
             return null;
@@ -1586,6 +1586,7 @@ public final class Misuse {
         /** How float arrays follow the counts: 0 the first count, 1 their product, 2 one count each. */
         final int lengthRule = rnd.nextInt(3);
         final List<Integer> ints = new ArrayList<>();
+        final List<Float> floats = new ArrayList<>();
         final List<Integer> sizes = new ArrayList<>();
         /** Node and cell counts of the receiving mesh, when the caller asked it for them. */
         int receiverNodes = -1;
@@ -1649,7 +1650,7 @@ public final class Misuse {
             return v;
         }
         if (t == float.class) {
-            return ctx.wellFormed ? rnd.nextInt(41) / 4f - 5f : nextFloat();
+            return ctx.wellFormed ? rnd.nextInt(41) / 4f - 5f : nextFloat(ctx);
         }
         if (t == boolean.class) {
             return rnd.nextBoolean();
@@ -1720,7 +1721,7 @@ public final class Misuse {
     }
 
     private float coordinate(Ctx ctx) {
-        return ctx.wellFormed ? rnd.nextInt(41) / 8f - 1f : nextFloat();
+        return ctx.wellFormed ? rnd.nextInt(41) / 8f - 1f : nextFloat(ctx);
     }
 
     /** An array that fits the counts of the call or of the receiving mesh. */
@@ -1923,6 +1924,19 @@ public final class Misuse {
             return rnd.nextBoolean() ? Integer.MAX_VALUE : Integer.MIN_VALUE;
         }
         return rnd.nextInt(130) - 65;
+    }
+
+    /**
+     * A hostile float of a call: one in six times one the call already has (equal ends, a span of
+     * zero far from the origin), else any.
+     */
+    private float nextFloat(Ctx ctx) {
+        if (!ctx.floats.isEmpty() && rnd.nextInt(6) == 0) {
+            return ctx.floats.get(rnd.nextInt(ctx.floats.size()));
+        }
+        float f = nextFloat();
+        ctx.floats.add(f);
+        return f;
     }
 
     private float nextFloat() {
