@@ -1,8 +1,6 @@
 package com.kestrum.tavrel;
 
 import static org.junit.jupiter.api.Assertions.assertEquals;
-import static org.junit.jupiter.api.Assertions.assertFalse;
-import static org.junit.jupiter.api.Assertions.assertNotNull;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.corvel.SbColor;
@@ -27,14 +25,12 @@ import com.kestrum.tavrel.graph.PoPieChart3D;
 import com.kestrum.tavrel.graph.PoPointsFieldBars;
 import com.kestrum.tavrel.graph.PoValuedMarkerField;
 import com.kestrum.tavrel.nodes.PoRegularCartesianGrid2D;
-import com.kestrum.tavrel.testkit.ChildJvm;
+import com.kestrum.tavrel.testkit.ChildCases;
 import java.lang.reflect.Array;
 import java.lang.reflect.Field;
 import java.util.Arrays;
 import java.util.List;
-import java.util.Map;
 import java.util.function.Consumer;
-import java.util.stream.Collectors;
 import java.util.stream.Stream;
 import org.junit.jupiter.api.BeforeAll;
 import org.junit.jupiter.params.ParameterizedTest;
@@ -214,33 +210,20 @@ class VectorArgumentsTest {
         field.set(vector, array);
     }
 
-    /** In the child: every case, one line each: "case NAME KIND: accepted" or ": refused CLASS: MESSAGE". */
-    public static void main(String[] args) throws Exception {
+    /** In the child: every case, one line each. */
+    public static void main(String[] args) {
         for (Method m : methods()) {
             for (Kind kind : Kind.values()) {
-                String outcome;
-                try {
-                    m.call().accept(vectors(m.type(), kind));
-                    outcome = "accepted";
-                } catch (RuntimeException e) {
-                    outcome = "refused " + e.getClass().getSimpleName() + ": " + e.getMessage();
-                }
-                System.out.println("case " + m.name() + " " + kind + ": " + outcome);
-                System.out.flush();
+                ChildCases.report(m.name() + " " + kind, () -> m.call().accept(vectors(m.type(), kind)));
             }
         }
-        System.out.println("all cases done");
     }
 
-    private static ChildJvm.Result child;
-    private static Map<String, String> outcomes;
+    private static ChildCases.Outcomes outcomes;
 
     @BeforeAll
     static void runTheCasesInAChildJvm() throws Exception {
-        child = ChildJvm.run(VectorArgumentsTest.class, List.of(), 180);
-        outcomes = child.output().lines().filter(l -> l.startsWith("case "))
-                .collect(Collectors.toMap(l -> l.substring(0, l.indexOf(": ")), l -> l.substring(l.indexOf(": ") + 2),
-                        (a, b) -> a));
+        outcomes = ChildCases.run(VectorArgumentsTest.class, 180);
     }
 
     static Stream<Arguments> cases() {
@@ -250,15 +233,12 @@ class VectorArgumentsTest {
     @ParameterizedTest(name = "{0} {1}")
     @MethodSource("cases")
     void refusesWhatTheConversionCannotRead(String name, Kind kind, Method method) {
-        assertFalse(child.crashed(), child::describe);
-        assertFalse(child.jniWarning(), child::describe);
-        String outcome = outcomes.get("case " + name + " " + kind);
-        assertNotNull(outcome, () -> "no outcome for this case: " + child.describe());
+        String outcome = outcomes.of(name + " " + kind);
         if (kind.index < 0) {
             assertEquals("accepted", outcome);
         } else {
-            assertTrue(outcome.startsWith("refused IllegalArgumentException: " + method.argument() + "[" + kind.index
-                    + "] "), outcome);
+            assertTrue(outcome.startsWith("IllegalArgumentException: " + method.argument() + "[" + kind.index + "] "),
+                    outcome);
         }
     }
 }
