@@ -91,8 +91,6 @@ class VectorArgumentsTest {
         SHADOW_AT_0(0),
         /** Only subclasses, whose own fields are null. */
         SHADOWS_WITH_NULL_FIELDS(0),
-        /** A subclass at index 0 whose own field is one float. */
-        SHADOW_WITH_SHORT_FIELD_AT_0(0),
         /** A vector of the class itself whose array has been set to null (by reflection) at index 1. */
         NULL_ARRAY_AT_1(1),
         /** A vector of the class itself whose array has been replaced by one float at index 2. */
@@ -191,7 +189,6 @@ class VectorArgumentsTest {
         switch (kind) {
             case SHADOW_AT_0 -> v[0] = shadow(type, new float[components]);
             case SHADOWS_WITH_NULL_FIELDS -> Arrays.setAll(v, i -> shadow(type, null));
-            case SHADOW_WITH_SHORT_FIELD_AT_0 -> v[0] = shadow(type, new float[1]);
             case NULL_ARRAY_AT_1 -> setArray(v[1], type, null);
             case SHORT_ARRAY_AT_2 -> setArray(v[2], type, new float[1]);
             case SHADOW_AFTER_BASE -> v[1] = shadow(type, null);
