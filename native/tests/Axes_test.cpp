@@ -10,8 +10,18 @@
 #include <Tavrel/PoTavrel.h>
 #include <Tavrel/PoTimeAxis.h>
 
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
 #include <cmath>
+#include <csignal>
+#include <cstdio>
+#include <fstream>
+#include <new>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -42,6 +52,80 @@ TEST(PoLinearAxis, SettingsThatWouldMakeMoreThan65535GraduationsMakeNone) {
   EXPECT_TRUE((labelsOf<PoLinearAxis>(SbVec3f(0, 0, 0), 70000.0f, PoCartesianAxis::XY, 0.0f, 0.0f, 1.0f).empty()));
   EXPECT_EQ((labelsOf<PoLinearAxis>(SbVec3f(0, 0, 0), 65534.0f, PoCartesianAxis::XY, 0.0f, 0.0f, 1.0f).size()),
             65535u);
+}
+
+namespace {
+// Runs labels() in a child process with at most 1 GiB more address space than this process has,
+// and for at most 30 seconds; returns the labels joined by spaces, or what ended the child ("out
+// of memory", "timed out", ...). A graduation loop that never ends runs the
+// child out of memory or time instead of this test program.
+template <class F>
+std::string labelsInAChild(F labels) {
+  int out[2];
+  if (pipe(out) != 0) return "no pipe";
+  const pid_t pid = fork();
+  if (pid == 0) {
+    close(out[0]);
+    unsigned long pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    const rlim_t limit = static_cast<rlim_t>(pages) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + (rlim_t{1} << 30);
+    const rlimit memory{limit, limit};
+    const rlimit seconds{60, 60};
+    setrlimit(RLIMIT_AS, &memory);
+    setrlimit(RLIMIT_CPU, &seconds);
+    // The child leaves by _exit only: never back into the test program.
+    try {
+      std::string text;
+      for (const std::string& label : labels()) text += (text.empty() ? "" : " ") + label;
+      _exit(write(out[1], text.data(), text.size()) < 0 ? 2 : 0);
+    } catch (const std::bad_alloc&) {
+      _exit(3);
+    } catch (...) {
+      _exit(4);
+    }
+  }
+  close(out[1]);
+  if (pid < 0) {
+    close(out[0]);
+    return "no child";
+  }
+  int status = 0;
+  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (waitpid(pid, &status, WNOHANG) == 0) {
+    if (std::chrono::steady_clock::now() > deadline) {
+      kill(pid, SIGKILL);
+      waitpid(pid, &status, 0);
+      close(out[0]);
+      return "timed out";
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  std::string text;
+  char buffer[256];
+  for (ssize_t n; (n = read(out[0], buffer, sizeof buffer)) > 0;) text.append(buffer, static_cast<std::size_t>(n));
+  close(out[0]);
+  if (WIFSIGNALED(status)) return "signal " + std::to_string(WTERMSIG(status));
+  if (WIFEXITED(status) && WEXITSTATUS(status) == 3) return "out of memory";
+  if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) return "exit " + std::to_string(WEXITSTATUS(status));
+  return text;
+}
+}  // namespace
+
+TEST(PoLinearAxis, AZeroLengthAxisFarFromTheOriginHasItsOneGraduation) {
+  // Past 2^53 adding 1 to a double changes nothing: the graduations are counted with an integer.
+  EXPECT_EQ(labelsInAChild([] {
+              return labelsOf<PoLinearAxis>(SbVec3f(1e20f, 0, 0), 1e20f, PoCartesianAxis::XY, 0.0f, 0.0f, 1.0f);
+            }),
+            "1e+20");
+  EXPECT_EQ(labelsInAChild([] {
+              return labelsOf<PoLinearAxis>(SbVec3f(0, -1e20f, 0), -1e20f, PoCartesianAxis::YX, 0.0f, 0.0f, 1.0f);
+            }),
+            "-1e+20");
+  // The same with a step so small that the graduation's index is past 2^53.
+  EXPECT_EQ(labelsInAChild([] {
+              return labelsOf<PoLinearAxis>(SbVec3f(1, 0, 0), 1.0f, PoCartesianAxis::XY, 0.0f, 0.0f, 1e-17f);
+            }),
+            "1");
 }
 
 TEST(PoLogAxis, TenPowersAreDecimalsFromMinus3To4AndPowersBeyond) {

@@ -53,6 +53,23 @@ const double kTolerance = 1e-6;
 
 SbString textOrEmpty(const char* text) { return SbString(text == nullptr ? "" : text); }
 
+// Calls f(k) for each whole number k from first to last (whole numbers themselves), none when
+// there would be more than kMaxGraduations of them or the bounds are not finite. The loop counts
+// with an integer: far from 0 (past 2^53) adding 1 to a double leaves it unchanged, so a loop
+// stepping a double would never end. A k that rounds to the one before it is skipped.
+template <class F>
+void forEachWhole(double first, double last, F&& f) {
+  if (!(last - first < kMaxGraduations)) return;
+  const unsigned count = last < first ? 0u : static_cast<unsigned>(last - first) + 1u;
+  double previous = 0.0;
+  for (unsigned i = 0; i < count; ++i) {
+    const double k = first + static_cast<double>(i);
+    if (i > 0 && k == previous) continue;
+    previous = k;
+    f(k);
+  }
+}
+
 // The digits 1 to 9 of a decade list, in value order; {1} when none.
 std::vector<unsigned short> digitsOf(const std::vector<unsigned short>& list) {
   std::vector<unsigned short> digits;
@@ -256,11 +273,13 @@ double PoAxis::automaticStep(double start, double end) {
   const double span = std::fabs(end - start);
   if (!(span > 0.0) || !std::isfinite(span)) return 1.0;
   double power = std::pow(10.0, std::floor(std::log10(span / 10.0)));
-  for (;;) {
+  if (!(power > 0.0) || !std::isfinite(power)) return 1.0;
+  // power is at most a tenth of the span, and more than a hundredth: two decades at most.
+  for (int decade = 0; decade < 3; ++decade, power *= 10.0) {
     for (double m : {1.0, 2.0, 5.0})
       if (m * power >= span / 10.0 * (1 - kTolerance)) return m * power;
-    power *= 10.0;
   }
+  return power;
 }
 
 void PoAxis::linearGraduations(double start, double end, double step, const PbNumericDisplayFormat* format,
@@ -269,11 +288,10 @@ void PoAxis::linearGraduations(double start, double end, double step, const PbNu
   if (!(step > 0.0)) step = automaticStep(start, end);
   const double lo = std::min(start, end), hi = std::max(start, end);
   const double first = std::ceil(lo / step - kTolerance), last = std::floor(hi / step + kTolerance);
-  if (!(last - first < kMaxGraduations)) return;
-  for (double k = first; k <= last; k += 1.0) {
+  forEachWhole(first, last, [&](double k) {
     const double value = k * step + 0.0;  // no negative zero
     out.push_back(Graduation{value, label(value, format)});
-  }
+  });
   if (end < start) std::reverse(out.begin(), out.end());
 }
 
@@ -283,13 +301,13 @@ void PoAxis::logGraduations(double start, double end, const std::vector<unsigned
   const double lo = std::min(start, end), hi = std::max(start, end);
   const double firstK = std::floor(lo), lastK = std::floor(hi + kTolerance);
   if (!((lastK - firstK + 1) * static_cast<double>(digits.size()) <= kMaxGraduations)) return;
-  for (double k = firstK; k <= lastK; k += 1.0) {
+  forEachWhole(firstK, lastK, [&](double k) {
     for (unsigned short d : digits) {
       const double exponent = k + std::log10(static_cast<double>(d));
       if (exponent < lo - kTolerance || exponent > hi + kTolerance) continue;
       out.push_back(Graduation{std::pow(10.0, exponent), logLabel(d, static_cast<long>(k))});
     }
-  }
+  });
   if (end < start) std::reverse(out.begin(), out.end());
 }
 
@@ -638,7 +656,7 @@ double PoAngularAxis::axisLength() const { return std::fabs(radius); }
 void PoAngularAxis::makeGraduations(std::vector<Graduation>& out) const {
   if (!std::isfinite(firstAngle)) return;
   const double st = angleStep > 0.0f && angleStep <= 360.0f ? angleStep : 30.0;
-  for (double k = 0; k * st < 360.0 * (1 - kTolerance) && out.size() < kMaxGraduations + 1; k += 1.0) {
+  for (unsigned k = 0; k <= kMaxGraduations && k * st < 360.0 * (1 - kTolerance); ++k) {
     const double angle = firstAngle + k * st;
     double shown = std::fmod(angle, 360.0);
     if (shown < 0) shown += 360.0;
@@ -716,11 +734,10 @@ void PoTimeAxis::makeGraduations(std::vector<Graduation>& out) const {
   const double unit = hi - lo >= 86400.0 ? 86400.0 : 3600.0;
   const SbString format = mapping != nullptr ? mapping->getFormat() : SbString("%Y-%m-%d");
   const double first = std::ceil(lo / unit), last = std::floor(hi / unit);
-  if (!(last - first < kMaxGraduations)) return;
-  for (double k = first; k <= last; k += 1.0) {
+  forEachWhole(first, last, [&](double k) {
     const double seconds = k * unit;
     out.push_back(Graduation{coordinate(seconds), PbDateFormatMapping::writeDate(format, seconds)});
-  }
+  });
   if (s2 < s1) std::reverse(out.begin(), out.end());
 }
 

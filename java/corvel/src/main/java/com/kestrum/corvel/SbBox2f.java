@@ -1,5 +1,6 @@
 package com.kestrum.corvel;
 
+import com.kestrum.corvel.misc.Arguments;
 import java.util.Arrays;
 
 /**
@@ -26,9 +27,10 @@ public final class SbBox2f {
      *
      * @param min the corner of the smallest coordinates
      * @param max the corner of the largest coordinates
+     * @throws NullPointerException when min or max is null
      */
     public SbBox2f(SbVec2f min, SbVec2f max) {
-        this(min.getX(), min.getY(), max.getX(), max.getY());
+        this(Arguments.notNull(min, "min").getX(), min.getY(), Arguments.notNull(max, "max").getX(), max.getY());
     }
 
     /**
@@ -36,11 +38,11 @@ public final class SbBox2f {
      *
      * @param values the values
      * @return the box of the first four floats: xmin, ymin, xmax, ymax
+     * @throws NullPointerException when values is null
+     * @throws IllegalArgumentException when values has fewer than four elements
      */
     public static SbBox2f fromValue(float[] values) {
-        if (values.length < 4) {
-            throw new IllegalArgumentException("a 2D box has 4 floats, not " + values.length);
-        }
+        Arguments.length(values, 4, "values");
         return new SbBox2f(values[0], values[1], values[2], values[3]);
     }
 

@@ -1,5 +1,6 @@
 package com.kestrum.corvel;
 
+import com.kestrum.corvel.misc.Arguments;
 import java.util.Arrays;
 
 /**
@@ -29,9 +30,11 @@ public final class SbBox3f {
      *
      * @param min the corner of the smallest coordinates
      * @param max the corner of the largest coordinates
+     * @throws NullPointerException when min or max is null
      */
     public SbBox3f(SbVec3f min, SbVec3f max) {
-        this(min.getX(), min.getY(), min.getZ(), max.getX(), max.getY(), max.getZ());
+        this(Arguments.notNull(min, "min").getX(), min.getY(), min.getZ(), Arguments.notNull(max, "max").getX(),
+                max.getY(), max.getZ());
     }
 
     /**
@@ -39,11 +42,11 @@ public final class SbBox3f {
      *
      * @param values the values
      * @return the box of the first six floats: xmin, ymin, zmin, xmax, ymax, zmax
+     * @throws NullPointerException when values is null
+     * @throws IllegalArgumentException when values has fewer than six elements
      */
     public static SbBox3f fromValue(float[] values) {
-        if (values.length < 6) {
-            throw new IllegalArgumentException("a 3D box has 6 floats, not " + values.length);
-        }
+        Arguments.length(values, 6, "values");
         return new SbBox3f(values[0], values[1], values[2], values[3], values[4], values[5]);
     }
 

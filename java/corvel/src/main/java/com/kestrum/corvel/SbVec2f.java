@@ -1,5 +1,6 @@
 package com.kestrum.corvel;
 
+import com.kestrum.corvel.misc.Arguments;
 import java.util.Arrays;
 
 /** A two-component float vector (x, y). */
@@ -26,9 +27,10 @@ public class SbVec2f {
      * A copy of another vector.
      *
      * @param other the vector to copy
+     * @throws NullPointerException when other is null
      */
     public SbVec2f(SbVec2f other) {
-        this(other.array[0], other.array[1]);
+        this(Arguments.notNull(other, "other").array[0], other.array[1]);
     }
 
     /**

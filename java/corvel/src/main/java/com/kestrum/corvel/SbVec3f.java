@@ -1,5 +1,6 @@
 package com.kestrum.corvel;
 
+import com.kestrum.corvel.misc.Arguments;
 import java.util.Arrays;
 
 /** A three-component float vector (x, y, z). */
@@ -27,18 +28,21 @@ public class SbVec3f {
      * A vector of the first three elements of the array.
      *
      * @param xyz x, y and z in its first three elements
+     * @throws NullPointerException when xyz is null
+     * @throws IllegalArgumentException when xyz has fewer than three elements
      */
     public SbVec3f(float[] xyz) {
-        this(xyz[0], xyz[1], xyz[2]);
+        this(Arguments.length(xyz, 3, "xyz")[0], xyz[1], xyz[2]);
     }
 
     /**
      * A copy of another vector.
      *
      * @param other the vector to copy
+     * @throws NullPointerException when other is null
      */
     public SbVec3f(SbVec3f other) {
-        this(other.array[0], other.array[1], other.array[2]);
+        this(Arguments.notNull(other, "other").array[0], other.array[1], other.array[2]);
     }
 
     /**

@@ -1,5 +1,6 @@
 package com.kestrum.corvel;
 
+import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
@@ -37,10 +38,7 @@ public class SoInput extends NativeObject {
     }
 
     private static long[] newInput(String text) {
-        if (text == null) {
-            throw new NullPointerException("text is null");
-        }
-        return new long[] {newNative(text)};
+        return new long[] {newNative(Arguments.notNull(text, "text"))};
     }
 
     private static native long newNative(String text);

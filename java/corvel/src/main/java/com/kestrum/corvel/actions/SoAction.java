@@ -1,5 +1,6 @@
 package com.kestrum.corvel.actions;
 
+import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
@@ -46,7 +47,7 @@ public class SoAction extends NativeObject {
     }
 
     private static long[] newAction(String javaClassName) {
-        long handle = newActionNative(javaClassName);
+        long handle = newActionNative(Arguments.notNull(javaClassName, "javaClassName"));
         if (handle == 0) {
             throw new IllegalArgumentException("No toolkit action named " + javaClassName);
         }
@@ -95,10 +96,7 @@ public class SoAction extends NativeObject {
      * @throws NullPointerException when typeName is null
      */
     public static boolean enableElement(String typeName, int stackIndex) {
-        if (typeName == null) {
-            throw new NullPointerException("typeName is null");
-        }
-        return enableElementNative(typeName, stackIndex);
+        return enableElementNative(Arguments.notNull(typeName, "typeName"), stackIndex);
     }
 
     /**

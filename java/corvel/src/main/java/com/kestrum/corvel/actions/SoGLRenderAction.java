@@ -1,5 +1,6 @@
 package com.kestrum.corvel.actions;
 
+import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.ManagedObjects;
 import java.io.IOException;
 import java.nio.charset.StandardCharsets;
@@ -53,9 +54,10 @@ public class SoGLRenderAction extends SoAction {
      *
      * @param file the file to write
      * @throws java.io.IOException when the file cannot be written
+     * @throws NullPointerException when file is null
      */
     public void writeSvg(Path file) throws IOException {
-        Files.writeString(file, toSvg(), StandardCharsets.UTF_8);
+        Files.writeString(Arguments.notNull(file, "file"), toSvg(), StandardCharsets.UTF_8);
     }
 
     private static native String toSvgNative(long handle);

@@ -1,5 +1,6 @@
 package com.kestrum.corvel.elements;
 
+import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
@@ -40,7 +41,7 @@ public class SoElement extends NativeObject {
      *     later, when the object takes the element over); shared with the release action
      */
     protected SoElement(long handle, AtomicBoolean owns) {
-        super(handle, releaseIfOwned(handle, owns));
+        super(handle, releaseIfOwned(handle, Arguments.notNull(owns, "owns")));
         this.owns = owns;
     }
 

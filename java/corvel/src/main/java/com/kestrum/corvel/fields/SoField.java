@@ -1,5 +1,6 @@
 package com.kestrum.corvel.fields;
 
+import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
@@ -85,9 +86,7 @@ public class SoField extends NativeObject {
      * @param value the field's new value as text
      */
     public void setValue(String value) {
-        if (value == null) {
-            throw new NullPointerException("value is null");
-        }
+        Arguments.notNull(value, "value");
         setValueNative(handle(), value);
     }
 

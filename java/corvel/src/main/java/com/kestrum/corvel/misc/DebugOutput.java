@@ -29,9 +29,10 @@ public final class DebugOutput {
      * Sends the debug lines where the mode says, from the next line on.
      *
      * @param mode where the lines go
+     * @throws NullPointerException when mode is null
      */
     public static void setMode(Mode mode) {
-        setModeNative(mode.ordinal());
+        setModeNative(Arguments.notNull(mode, "mode").ordinal());
     }
 
     /**

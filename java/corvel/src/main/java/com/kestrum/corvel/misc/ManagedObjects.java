@@ -79,6 +79,7 @@ public final class ManagedObjects {
      * @param keepAlive whether the Java object is held strongly until it is disposed
      */
     public static void registerPeer(long address, Object peer, boolean keepAlive) {
+        Arguments.notNull(peer, "peer");
         dropCollected();
         PEERS.compute(address, (a, old) -> {
             rememberPeerNative(address, peer);
@@ -153,6 +154,7 @@ public final class ManagedObjects {
      *     registered peer, else a new wrapper; null for address 0 or when the class has no wrapper
      */
     public static Object find(Class<?> wanted, long address) {
+        Arguments.notNull(wanted, "wanted");
         if (address == 0) {
             return null;
         }
@@ -176,6 +178,7 @@ public final class ManagedObjects {
      *     registered wrapper, else null
      */
     public static Object get(String dottedClassName, long address) {
+        Arguments.notNull(dottedClassName, "dottedClassName");
         try {
             return getManagedObject(dottedClassName, address);
         } catch (ClassNotFoundException e) {
@@ -190,7 +193,7 @@ public final class ManagedObjects {
      * @param factory makes the view from the native address
      */
     public static void registerWrapper(String dottedClassName, LongFunction<?> factory) {
-        WRAPPERS.put(dottedClassName, factory);
+        WRAPPERS.put(Arguments.notNull(dottedClassName, "dottedClassName"), Arguments.notNull(factory, "factory"));
     }
 
     /**
@@ -201,7 +204,7 @@ public final class ManagedObjects {
      * @param factory makes a new object of the type
      */
     public static void registerType(String typeName, Supplier<? extends NativeObject> factory) {
-        TYPES.put(typeName, factory);
+        TYPES.put(Arguments.notNull(typeName, "typeName"), Arguments.notNull(factory, "factory"));
     }
 
     /**
@@ -211,7 +214,7 @@ public final class ManagedObjects {
      * @return whether a Java class has registered a factory for the toolkit type of that name
      */
     public static boolean isTypeRegistered(String typeName) {
-        return TYPES.containsKey(typeName);
+        return TYPES.containsKey(Arguments.notNull(typeName, "typeName"));
     }
 
     /**

@@ -42,8 +42,15 @@ public final class NativeLibraries {
      * @throws UnsatisfiedLinkError when a library is neither in the folder named by
      *     {@value #DIRECTORY_PROPERTY} nor on the class path, or cannot be loaded
      * @throws UncheckedIOException when a library cannot be copied out of the jar
+     * @throws NullPointerException when an argument or a name is null
      */
     public static synchronized void load(Class<?> anchor, String resourceFolder, String... names) {
+        Arguments.notNull(anchor, "anchor");
+        Arguments.notNull(resourceFolder, "resourceFolder");
+        Arguments.notNull(names, "names");
+        for (int i = 0; i < names.length; i++) {
+            Arguments.notNull(names[i], "names[" + i + "]");
+        }
         String directory = System.getProperty(DIRECTORY_PROPERTY);
         for (String name : names) {
             if (LOADED.contains(name)) {

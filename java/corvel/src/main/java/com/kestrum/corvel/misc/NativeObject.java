@@ -78,6 +78,7 @@ public abstract class NativeObject implements AutoCloseable {
      * @return a release action that calls {@code release} with the handle (and refers to no Java object), e.g
      */
     protected static Runnable releaseWith(java.util.function.LongConsumer release, long handle) {
+        Arguments.notNull(release, "release");
         return () -> release.accept(handle);
     }
 
@@ -193,6 +194,7 @@ public abstract class NativeObject implements AutoCloseable {
      * @param held the object, held already
      */
     protected static void holdAgain(NativeObject held) {
+        Arguments.notNull(held, "held");
         HOLDS.getAndAdd(held, 2);
     }
 
@@ -211,7 +213,7 @@ public abstract class NativeObject implements AutoCloseable {
      * @param argument the object argument, or null
      */
     protected static void leave(NativeObject argument) {
-        argument.leave();
+        Arguments.notNull(argument, "argument").leave();
     }
 
     /** A native call on the handles of its receiver and of one argument. */
@@ -253,6 +255,7 @@ public abstract class NativeObject implements AutoCloseable {
      * @param call the native call, given the receiver's handle
      */
     protected final void callWith(NativeObject argument, String name, HandleCall call) {
+        Arguments.notNull(call, "call");
         callHolding(argument, name, false, (h, a) -> {
             call.call(h, a);
             return null;

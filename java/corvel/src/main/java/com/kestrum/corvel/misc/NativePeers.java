@@ -22,9 +22,7 @@ public final class NativePeers {
         if (address == 0) {
             throw new IllegalArgumentException("address is 0");
         }
-        if (peer == null) {
-            throw new NullPointerException("peer");
-        }
+        Arguments.notNull(peer, "peer");
         bindPeerNative(address, peer);
     }
 

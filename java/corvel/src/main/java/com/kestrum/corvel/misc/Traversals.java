@@ -67,8 +67,10 @@ public final class Traversals {
      * @param view the view of a native object that lives no longer than the traversal
      * @param <T> the view's class
      * @return the view
+     * @throws NullPointerException when view is null
      */
     public static <T extends NativeObject> T own(T view) {
+        Arguments.notNull(view, "view");
         Scope scope = SCOPES.get().peek();
         if (scope == null) {
             view.dispose();

@@ -14,6 +14,7 @@ import com.kestrum.corvel.actions.SoRayPickAction;
 import com.kestrum.corvel.actions.SoSearchAction;
 import com.kestrum.corvel.actions.SoWriteAction;
 import com.kestrum.corvel.fields.SoField;
+import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
@@ -111,7 +112,7 @@ public class SoNode extends NativeObject {
      *     from a file: the Java object registered for it (a node of a Java class) or a new view
      */
     public static SoNode createInstance(String typeName) {
-        return of(createInstanceNative(nameOf(typeName)));
+        return of(createInstanceNative(Arguments.notNull(typeName, "typeName")));
     }
 
     /**
@@ -132,7 +133,7 @@ public class SoNode extends NativeObject {
      *     that no type has
      */
     public boolean isOfType(String typeName) {
-        return isOfTypeNative(handle(), nameOf(typeName));
+        return isOfTypeNative(handle(), Arguments.notNull(typeName, "typeName"));
     }
 
     /**
@@ -167,9 +168,7 @@ public class SoNode extends NativeObject {
      * @throws NullPointerException when name is null
      */
     public void setName(String name) {
-        if (name == null) {
-            throw new NullPointerException("name is null");
-        }
+        Arguments.notNull(name, "name");
         setNameNative(handle(), name);
     }
 
@@ -201,7 +200,7 @@ public class SoNode extends NativeObject {
      * @return the node's field of that name, or null
      */
     public SoField getField(String name) {
-        return field(getFieldNative(handle(), nameOf(name)));
+        return field(getFieldNative(handle(), Arguments.notNull(name, "name")));
     }
 
     /**
@@ -212,7 +211,7 @@ public class SoNode extends NativeObject {
      * @throws NullPointerException when name is null
      */
     public SoField getEventIn(String name) {
-        return field(getEventInNative(handle(), nameOf(name)));
+        return field(getEventInNative(handle(), Arguments.notNull(name, "name")));
     }
 
     /**
@@ -223,7 +222,7 @@ public class SoNode extends NativeObject {
      * @throws NullPointerException when name is null
      */
     public SoField getEventOut(String name) {
-        return field(getEventOutNative(handle(), nameOf(name)));
+        return field(getEventOutNative(handle(), Arguments.notNull(name, "name")));
     }
 
     /**
@@ -484,13 +483,6 @@ public class SoNode extends NativeObject {
      */
     public RenderModes getRenderEngineMode() {
         return RenderModes.fromValue(getRenderEngineModeNative(handle()));
-    }
-
-    private static String nameOf(String name) {
-        if (name == null) {
-            throw new NullPointerException("name is null");
-        }
-        return name;
     }
 
     private static SoField field(long handle) {

@@ -1,5 +1,8 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.corvel.SbVec3f;
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
 import java.nio.FloatBuffer;
@@ -92,6 +95,42 @@ public final class Checks {
             }
         }
         return array;
+    }
+
+    /**
+     * 2D vectors that the native conversion reads, every element of the array: see
+     * {@link VectorArrays#check}.
+     *
+     * @param vectors the vectors (not null)
+     * @param name the argument's name, for the exceptions
+     * @return vectors
+     */
+    public static SbVec2f[] vectors(SbVec2f[] vectors, String name) {
+        return VectorArrays.check(vectors, SbVec2f.class, name);
+    }
+
+    /**
+     * 3D vectors that the native conversion reads, every element of the array: see
+     * {@link VectorArrays#check}.
+     *
+     * @param vectors the vectors (not null)
+     * @param name the argument's name, for the exceptions
+     * @return vectors
+     */
+    public static SbVec3f[] vectors(SbVec3f[] vectors, String name) {
+        return VectorArrays.check(vectors, SbVec3f.class, name);
+    }
+
+    /**
+     * Colours that the native conversion reads, every element of the array: see
+     * {@link VectorArrays#check}.
+     *
+     * @param colors the colours (not null)
+     * @param name the argument's name, for the exceptions
+     * @return colors
+     */
+    public static SbColor[] vectors(SbColor[] colors, String name) {
+        return VectorArrays.check(colors, SbColor.class, name);
     }
 
     public static int index(int index, int size, String name) {

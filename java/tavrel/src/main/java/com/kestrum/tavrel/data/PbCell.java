@@ -296,7 +296,7 @@ public class PbCell extends NativeObject {
     }
 
     private SbVec3f[] checkVectors(SbVec3f[] vectors) {
-        return Checks.noNullElements(Checks.length(vectors, valueSpan(), "vectors"), "vectors");
+        return Checks.vectors(Checks.length(vectors, valueSpan(), "vectors"), "vectors");
     }
 
     /** The node indices of the cell, read once (a valid cell does not change). */

@@ -244,7 +244,7 @@ public abstract class PbMesh extends NativeObject {
     public void addVecsSet(int set, SbVec3f[] vectors, String name) {
         long h = handle();
         if (vectors != null) {
-            Checks.noNullElements(Checks.length(vectors, getNumNodesImpl(h), "vectors"), "vectors");
+            Checks.vectors(Checks.length(vectors, getNumNodesImpl(h), "vectors"), "vectors");
         }
         Checks.notNull(name, "name");
         addVecsSetImpl(h, set, vectors, name);

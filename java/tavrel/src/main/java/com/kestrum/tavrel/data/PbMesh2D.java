@@ -60,7 +60,7 @@ public abstract class PbMesh2D extends PbMesh {
     public void addVecsSet(int set, SbVec2f[] vectors, String name) {
         long h = handle();
         if (vectors != null) {
-            Checks.noNullElements(Checks.length(vectors, getNumNodes(), "vectors"), "vectors");
+            Checks.vectors(Checks.length(vectors, getNumNodes(), "vectors"), "vectors");
         }
         Checks.notNull(name, "name");
         addVecsSetImpl(h, set, vectors, name);
@@ -96,7 +96,7 @@ public abstract class PbMesh2D extends PbMesh {
             Checks.index(nodes[i], numNodes, "nodes[" + i + "]");
         }
         if (vectors != null && vectors.length > 0) {
-            Checks.noNullElements(Checks.length(vectors, count, "vectors"), "vectors");
+            Checks.vectors(Checks.length(vectors, count, "vectors"), "vectors");
         }
         return JavaViews.find(PbMesh2D.class, getFaultMeshImpl1(h, count, nodes, vectors), null);
     }

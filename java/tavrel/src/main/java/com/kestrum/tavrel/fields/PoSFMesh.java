@@ -205,7 +205,7 @@ public abstract class PoSFMesh extends SoField {
     public void addVecsSet(int set, SbVec3f[] vectors, String name) {
         long h = handle();
         if (vectors != null && vectors.length > 0) {
-            Checks.noNullElements(Checks.length(vectors, value().getNumNodes(), "vectors"), "vectors");
+            Checks.vectors(Checks.length(vectors, value().getNumNodes(), "vectors"), "vectors");
         }
         Checks.notNull(name, "name");
         addVecsSetImpl(h, set, vectors, name);

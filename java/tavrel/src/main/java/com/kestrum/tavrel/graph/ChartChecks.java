@@ -1,5 +1,8 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.corvel.SbVec3f;
+
 /** Argument checks of the shapes and pie charts, made before any native call. */
 final class ChartChecks {
     private ChartChecks() {}
@@ -10,18 +13,29 @@ final class ChartChecks {
     }
 
     /**
-     * The points of an arrow: at least numPoints of them, none null (the conversion reads every
-     * element); null only when numPoints is 0.
+     * The points of an arrow: at least numPoints of them, every one a vector the conversion can
+     * read (it reads every element); null only when numPoints is 0.
      */
-    static Object[] vectors(Object[] points, int numPoints, String name) {
+    static SbVec2f[] vectors(SbVec2f[] points, int numPoints, String name) {
+        return points(points, numPoints, name) ? Checks.vectors(points, name) : null;
+    }
+
+    /** As {@link #vectors(SbVec2f[], int, String)} for 3D points. */
+    static SbVec3f[] vectors(SbVec3f[] points, int numPoints, String name) {
+        return points(points, numPoints, name) ? Checks.vectors(points, name) : null;
+    }
+
+    /** Whether there are points to check: refuses a negative count, a null array for a count above 0, a short array. */
+    private static boolean points(Object[] points, int numPoints, String name) {
         count(numPoints, "numPoints");
         if (points == null) {
             if (numPoints > 0) {
                 throw new NullPointerException(name + " is null");
             }
-            return null;
+            return false;
         }
-        return Checks.elements(points, numPoints, name);
+        com.kestrum.tavrel.data.Checks.length(points, numPoints, name);
+        return true;
     }
 
     /** The slices of a pie chart: a count the toolkit's short holds, with that many names and values. */

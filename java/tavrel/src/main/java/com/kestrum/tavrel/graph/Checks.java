@@ -34,17 +34,13 @@ final class Checks {
     }
 
     /**
-     * Colours the toolkit reads `needed` of: null, or at least that many, none of them null (the
-     * conversion reads every element).
+     * Colours the toolkit reads `needed` of: null, or at least that many, every one of them a
+     * colour the conversion can read (it reads every element).
      */
     static SbColor[] colors(SbColor[] colors, long needed, String name) {
-        return colors == null ? null : elements(colors, needed, name);
-    }
-
-    /** An object array of at least `needed` elements, none of them null (the conversion reads every one). */
-    static <T> T[] elements(T[] array, long needed, String name) {
-        return com.kestrum.tavrel.data.Checks.noNullElements(com.kestrum.tavrel.data.Checks.length(array, needed, name),
-                name);
+        return colors == null ? null
+                : com.kestrum.tavrel.data.Checks.vectors(com.kestrum.tavrel.data.Checks.length(colors, needed, name),
+                        name);
     }
 
     /** The three components of a colour, in a new array. */
@@ -57,9 +53,14 @@ final class Checks {
         return notNull(color, name).toArray();
     }
 
-    /** Vector objects that are all read: the array and every element non-null. */
-    static <T> T[] vectors(T[] vectors, String name) {
-        return elements(vectors, 0, name);
+    /** 2D points that are all read: the array, and every element a vector the conversion can read. */
+    static SbVec2f[] vectors(SbVec2f[] vectors, String name) {
+        return com.kestrum.tavrel.data.Checks.vectors(notNull(vectors, name), name);
+    }
+
+    /** 3D points that are all read: the array, and every element a vector the conversion can read. */
+    static SbVec3f[] vectors(SbVec3f[] vectors, String name) {
+        return com.kestrum.tavrel.data.Checks.vectors(notNull(vectors, name), name);
     }
 
     /** Strings of which `needed` are read: at least that many, none of those null. */

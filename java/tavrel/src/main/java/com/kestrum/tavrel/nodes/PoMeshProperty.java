@@ -154,7 +154,7 @@ public abstract class PoMeshProperty extends SoNode {
     public void addVecsSet(int set, SbVec3f[] vectors, String name) {
         long h = handle();
         if (vectors != null && vectors.length > 0) {
-            Checks.noNullElements(Checks.length(vectors, getMesh().getNumNodes(), "vectors"), "vectors");
+            Checks.vectors(Checks.length(vectors, getMesh().getNumNodes(), "vectors"), "vectors");
         }
         Checks.notNull(name, "name");
         addVecsSetImpl(h, set, vectors, name);
