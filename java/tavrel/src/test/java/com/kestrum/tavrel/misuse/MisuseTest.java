@@ -67,7 +67,7 @@ class MisuseTest {
     private static MisuseRuns.Outcome check(long seed) {
         MisuseRuns.Outcome o = MisuseRuns.run(seed, CALLS, TIME_LIMIT_SECONDS);
         System.out.println("misuse seed " + seed + ": " + o.callsMade() + " calls, " + o.kind() + ", "
-                + o.reachedClasses().size() + " classes reached");
+                + MisuseRuns.Reach.of(List.of(o)).classes().size() + " public classes reached");
         return o;
     }
 }
