@@ -1244,9 +1244,9 @@ public final class Misuse {
                 related.add(a);
                 // Kept for later, whatever it is: nodes, meshes, cells, but also the traversal's
                 // state, elements and action, which stop working when the traversal ends. Not
-                // the actions that the test library makes for one call of a node's operation
-                // (Nodes.invoke, on its stack), which the toolkit never hands out.
-                if (!(testLibraryCall && a instanceof SoAction)) {
+                // the actions and inputs that the test library makes for one call of a node's
+                // operation (Nodes.invoke, on its stack), which the toolkit never hands out.
+                if (!(testLibraryCall && (a instanceof SoAction || a instanceof com.kestrum.corvel.SoInput))) {
                     adopt(a, line);
                 }
             }
