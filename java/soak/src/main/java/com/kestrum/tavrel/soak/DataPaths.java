@@ -86,7 +86,7 @@ final class DataPaths {
         return vectors;
     }
 
-    private static void check(boolean condition, String what) {
+    static void check(boolean condition, String what) {
         if (!condition) {
             throw new IllegalStateException(what);
         }

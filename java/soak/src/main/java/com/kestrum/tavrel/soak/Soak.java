@@ -48,7 +48,12 @@ public final class Soak {
             new SoakPath("attribute-objects", DataPaths::attributeObjects),
             new SoakPath("axes", DataPaths::axes),
             new SoakPath("pie-charts", DataPaths::pieCharts),
-            new SoakPath("charts-from-arrays", DataPaths::chartsFromArrays));
+            new SoakPath("charts-from-arrays", DataPaths::chartsFromArrays),
+            new SoakPath("graph-axes", GraphPaths::axes),
+            new SoakPath("graph-charts", GraphPaths::charts),
+            new SoakPath("graph-legends", GraphPaths::legends),
+            new SoakPath("graph-shapes", GraphPaths::shapes),
+            new SoakPath("java-elements", ElementPaths::javaElements));
 
     static final long RSS_LIMIT = 4L << 20;
     static final long HEAP_LIMIT = 1L << 20;
