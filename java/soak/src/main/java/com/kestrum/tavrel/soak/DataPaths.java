@@ -86,7 +86,7 @@ final class DataPaths {
         return vectors;
     }
 
-    private static void check(boolean condition, String what) {
+    static void check(boolean condition, String what) {
         if (!condition) {
             throw new IllegalStateException(what);
         }
@@ -308,10 +308,10 @@ final class DataPaths {
 
     /**
      * A data mapping, an isovalue list, a domain and an interval cell filter made as property nodes,
-     * the list and the domain set, traversed before a representation of a mesh made once (render
-     * and callback in turn), the list read back (copy and direct buffer), all disposed. The
-     * nodes' fields are left alone: a field's Java object is the binding core's, and reading
-     * fields in a loop grows the heap by its own measure (see README).
+     * changed through their fields and methods, traversed before a representation of a mesh made
+     * once (render and callback in turn), read back (the list as a copy and a direct buffer, a
+     * field of the representation by name) and disposed. The field views are dropped, not
+     * disposed, so the mapping's and the filter's native nodes live until their views are collected.
      */
     static Loop propertyNodeTraversals() {
         PbRegularCartesianGrid2D mesh = grid();
@@ -327,7 +327,9 @@ final class DataPaths {
                         PoDomain domain = new PoDomain();
                         PoIntervalCellFilter filter = new PoIntervalCellFilter();
                         SoGroup root = new SoGroup()) {
+                    mapping.getField("value2").setValue(Integer.toString(CELLS));
                     isovalues.setRegularIsoList(0f, CELLS, 1 + (i & 7));
+                    filter.getField("max").setValue(Integer.toString(CELLS / 2));
                     domain.setValues(new SbVec2f(0, 0), new SbVec2f(4, 4), PoDomain.BoundingBoxTypes.ASIS);
                     root.addChild(mapping);
                     root.addChild(isovalues);
@@ -337,6 +339,7 @@ final class DataPaths {
                     actions[i & 1].apply(root);
                     check(isovalues.getIsoList().values().length == 1 + (i & 7), "isovalues read back");
                     check(isovalues.getDirectIsoList().remaining() == 1 + (i & 7), "isovalues shown");
+                    check(!filled.getField("isovalues").get().isEmpty(), "the representation had the isovalues");
                 }
             }
 

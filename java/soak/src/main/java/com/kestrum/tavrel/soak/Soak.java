@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.soak;
 
 import com.kestrum.tavrel.soak.DataPaths.Loop;
+import com.sun.management.HotSpotDiagnosticMXBean;
 import java.io.IOException;
 import java.lang.management.ManagementFactory;
 import java.nio.file.Files;
@@ -27,7 +28,10 @@ import java.util.function.Supplier;
  *
  * <p>The JVM runs with a fixed, pre-touched heap ({@code -Xms} = {@code -Xmx},
  * {@code -XX:+AlwaysPreTouch}; see the Makefile), so that the heap's own pages do not count as
- * growth of resident memory. Settings (system properties): {@code soak.iterations} (1000000),
+ * growth of resident memory, and with the serial collector compacting the whole heap at every
+ * full collection ({@code -XX:MarkSweepAlwaysCompactCount=1}), so that the heap measured after
+ * one holds live objects only (see {@link #heapMeasureProblem}); a sample collects until the
+ * heap stops shrinking, so that what cleaners release after a collection is gone too. Settings (system properties): {@code soak.iterations} (1000000),
  * {@code soak.paths} (names separated by commas; all by default).
  */
 public final class Soak {
@@ -48,11 +52,20 @@ public final class Soak {
             new SoakPath("attribute-objects", DataPaths::attributeObjects),
             new SoakPath("axes", DataPaths::axes),
             new SoakPath("pie-charts", DataPaths::pieCharts),
-            new SoakPath("charts-from-arrays", DataPaths::chartsFromArrays));
+            new SoakPath("charts-from-arrays", DataPaths::chartsFromArrays),
+            new SoakPath("graph-axes", GraphPaths::axes),
+            new SoakPath("graph-charts", GraphPaths::charts),
+            new SoakPath("graph-legends", GraphPaths::legends),
+            new SoakPath("graph-shapes", GraphPaths::shapes),
+            new SoakPath("java-elements", ElementPaths::javaElements),
+            new SoakPath("fields-by-name", ViewPaths::fieldsByName),
+            new SoakPath("views", ViewPaths::views));
 
     static final long RSS_LIMIT = 4L << 20;
     static final long HEAP_LIMIT = 1L << 20;
     private static final int SAMPLES = 10;
+    /** A collection that frees less than this leaves the heap settled. */
+    private static final long SETTLED = 64 << 10;
 
     private Soak() {}
 
@@ -67,6 +80,11 @@ public final class Soak {
     }
 
     public static void main(String[] args) throws Exception {
+        String problem = heapMeasureProblem();
+        if (problem != null) {
+            System.err.println("soak: " + problem);
+            System.exit(2);
+        }
         int iterations = Integer.getInteger("soak.iterations", 1_000_000);
         List<String> selected = Arrays.asList(System.getProperty("soak.paths", "").split(","));
         System.out.printf(Locale.ROOT, "Soak: %,d iterations per path, the first tenth as warm-up; a path fails when"
@@ -130,13 +148,47 @@ public final class Soak {
         return (System.nanoTime() - t0) / 1e9;
     }
 
-    /** Collects (twice, so that what the first collection let a cleaner release is gone too) and measures. */
+    /**
+     * Collects until the heap in use stops shrinking (each collection lets the cleaners release
+     * what the previous one found unreachable, and their own records go at the next one; at
+     * most ten collections), then measures.
+     */
     static Sample sample() throws InterruptedException {
-        System.gc();
-        Thread.sleep(20);
-        System.gc();
-        long heap = ManagementFactory.getMemoryMXBean().getHeapMemoryUsage().getUsed();
+        long heap = Long.MAX_VALUE;
+        for (int k = 0; k < 10; k++) {
+            System.gc();
+            Thread.sleep(20);
+            long used = ManagementFactory.getMemoryMXBean().getHeapMemoryUsage().getUsed();
+            boolean settled = heap - used < SETTLED;
+            heap = Math.min(heap, used);
+            if (settled) {
+                break;
+            }
+        }
         return new Sample(rss(), heap);
+    }
+
+    /**
+     * Why this JVM cannot measure the heap, or null: the heap after a full collection counts
+     * only live objects when every full collection compacts the whole heap. The serial
+     * collector's full collection otherwise leaves dead objects in place (up to
+     * {@code MarkSweepDeadRatio}, 5 % of the old generation) except every
+     * {@code MarkSweepAlwaysCompactCount}th time (4), so the heap measured after it jumps
+     * between two levels by several MiB whenever many short-lived objects die in the old
+     * generation (views with a cleaning action, for instance), which looks like growth.
+     */
+    static String heapMeasureProblem() {
+        HotSpotDiagnosticMXBean vm = ManagementFactory.getPlatformMXBean(HotSpotDiagnosticMXBean.class);
+        try {
+            if (!vm.getVMOption("UseSerialGC").getValue().equals("true")
+                    || !vm.getVMOption("MarkSweepAlwaysCompactCount").getValue().equals("1")) {
+                return "run the soak with -XX:+UseSerialGC -XX:MarkSweepAlwaysCompactCount=1 (see the Makefile):"
+                        + " only then does the heap after a full collection count live objects alone";
+            }
+        } catch (IllegalArgumentException e) {
+            return "this JVM has no option " + e.getMessage() + "; the soak needs HotSpot's serial collector";
+        }
+        return null;
     }
 
     /** VmRSS of this process, in bytes. */
