@@ -1028,12 +1028,16 @@ public final class Misuse {
         invoke(receiver, e, args);
     }
 
-    /** The public getters of a class that return objects of the library (or arrays of them). */
+    /**
+     * The public getters of a class that return objects of the library or direct buffers (or
+     * arrays of them); the buffers are read at once ({@link #takeIn}).
+     */
     private List<Method> getters(Class<?> type) {
         List<Method> out = new ArrayList<>();
         for (Method m : surface.methodsOf(type)) {
             Class<?> r = m.getReturnType().isArray() ? m.getReturnType().getComponentType() : m.getReturnType();
-            if (NativeObject.class.isAssignableFrom(r) && m.getParameterCount() <= 2 && !m.getName().equals("copy")) {
+            if ((NativeObject.class.isAssignableFrom(r) || java.nio.Buffer.class.isAssignableFrom(r))
+                    && m.getParameterCount() <= 2 && !m.getName().equals("copy")) {
                 out.add(m);
             }
         }
