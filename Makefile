@@ -124,7 +124,9 @@ bench-quick: bench-build
 
 # Random misuse of the public API in child JVMs, one after the other (README.md, "Misuse runs"):
 # CALLS calls in all, CALLS_PER_JVM per child JVM, seeds from SEED (random when empty). A failed
-# child is reported with its seed, its last calls and the JVM's error file. FUZZ_LIBS and
+# child is reported with its seed, its last calls and the JVM's error file. It ends with the
+# figures (calls, children, crashes, sanitizer reports, JNI warnings, hangs, unclear exceptions,
+# classes and methods reached) and fails when a public class had no successful call. FUZZ_LIBS and
 # FUZZ_ENV run it against other native libraries, e.g. a sanitizer build with its runtime
 # preloaded.
 CALLS         ?= 200000

@@ -101,6 +101,9 @@ final class CallLog implements AutoCloseable {
         if (c.isSynthetic() || c.isAnonymousClass()) {
             return "lambda";
         }
+        if (c.getEnclosingClass() == HostileElements.class) {
+            return "Hostile" + c.getSimpleName() + "Element";
+        }
         return c.getSimpleName();
     }
 

@@ -5,10 +5,16 @@ import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.corvel.misc.SoState;
+import com.kestrum.corvel.elements.SoElement;
+import com.kestrum.corvel.actions.SoGLRenderAction;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.corvel.nodes.SoSeparator;
 import com.kestrum.tavrel.data.PbCell;
+import com.kestrum.tavrel.graph.PbDomain;
+import com.kestrum.tavrel.graph.PoBase;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.data.PoMesh;
 import com.kestrum.tavrel.data.PoMeshProbePoint;
@@ -22,6 +28,7 @@ import java.lang.reflect.Constructor;
 import java.lang.reflect.Executable;
 import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
+import java.lang.reflect.Proxy;
 import java.nio.FloatBuffer;
 import java.nio.file.Path;
 import java.util.ArrayList;
@@ -43,18 +50,26 @@ import java.util.concurrent.FutureTask;
  * {@code Misuse <seed> <calls> <log file>}.
  *
  * <p>Each step constructs an object of a random class of the {@link Surface}, calls a random
- * public method of a random object (or a static one), disposes or drops an object, builds and
- * traverses a small scene graph, or raises events as the toolkit does. Arguments are hostile:
- * null, empty and short arrays, negative, zero and extreme counts and indices, NaN and
- * infinities, disposed objects, objects of sibling classes and views. Some calls are handed to
- * another Java thread and waited for. Listeners and Java-extended nodes ({@link HostileNode},
- * {@link HostileFilter}) make further calls from inside their callbacks, dispose the object
- * they are called for or others, return hostile values and throw.
+ * public method of a random object (or a static one), disposes or drops an object, builds,
+ * traverses and renders a scene that mixes every kind of node, raises events as the toolkit
+ * does, enables hostile element types on the actions, rebuilds a graph node with listeners,
+ * sweeps the views of an object past their owner, or runs two threads at once ({@link #lanes}).
+ * Round robins over the classes without a successful call yet make every class reached
+ * ({@link Coverage}). Arguments are hostile: null, empty and short arrays, negative, zero and
+ * extreme counts and indices, NaN and infinities, disposed objects, objects of sibling classes,
+ * views, hostile vectors. Some calls are handed to another Java thread and waited for.
+ * Listeners and Java-extended nodes and elements ({@link HostileNode}, {@link HostileFilter},
+ * {@link HostileElements}) make further calls from inside their callbacks, dispose the object
+ * they are called for, their arguments or those of the call that caused them, call the element
+ * classes with the state they are given, keep what they are given, return hostile values and
+ * throw.
  *
- * <p>Every call may return or throw a Java exception. The run fails only by dying (a crash, a
- * sanitizer report, a JNI warning, a hang), which the parent sees; or, exit code 3, when a call
+ * <p>Every call may return or throw a Java exception. The run fails by dying (a crash, a
+ * sanitizer report, a JNI warning, a hang), which the parent sees; with exit code 3 when a call
  * throws an {@link Error} that a Java caller cannot recover from (out of memory, a class that
- * cannot be initialised). Each call is written to the {@link CallLog} before it is made.
+ * cannot be initialised); with exit code 4 when an exception had no clear message
+ * ({@link Coverage#check}). Each call is written to the {@link CallLog} before it is made; at
+ * the end the child writes the classes and methods it reached ({@link Coverage#FILE}).
  *
  * <p>The test library's natives (raising probe and rebuild events, calling a node's virtual
  * operations) act as the toolkit does, so they get what the toolkit would give: live objects of
@@ -64,8 +79,12 @@ import java.util.concurrent.FutureTask;
  * between the events of a move).
  */
 public final class Misuse {
-    /** The run of this process; hooks of listeners and nodes reach it. */
+    /** The run of this process; hooks of listeners and nodes reach it (see {@link #instance}). */
     static volatile Misuse current;
+    /** The run of a lane thread ({@link #lanes}), which has objects of its own. */
+    private static final ThreadLocal<Misuse> LANE = new ThreadLocal<>();
+    /** The surface, found once per process. */
+    private static volatile Surface sharedSurface;
 
     private static final int POOL_CAPACITY = 150;
     private static final int MAX_DEPTH = 3;
@@ -84,12 +103,24 @@ public final class Misuse {
     private final long seed;
     private final int limit;
     private final CallLog log;
-    private final Surface surface = new Surface();
+    private final Surface surface;
     private final List<Object> pool = new ArrayList<>();
     private final List<Integer> counts = new ArrayList<>(List.of(1, 3, 4, 8));
     /** Children added to groups, by native address, to keep the graphs acyclic. */
     private final Map<Long, List<Long>> children = new HashMap<>();
-    private final ExecutorService worker = Executors.newSingleThreadExecutor(r -> new Thread(r, "worker"));
+    private ExecutorService worker;
+    /** A lane's run: its own objects and log, on its own thread, beside the other lane. */
+    private final boolean lane;
+    /** The logs of the lanes (one per lane thread), opened by the first lanes step. */
+    private CallLog[] laneLogs;
+    /** The calls in progress on this run (receiver and arguments), innermost last. */
+    private final List<Object[]> inProgress = new ArrayList<>();
+    /** Inside a test-library call of a node's operation, whose action lives on the library's stack. */
+    private boolean testLibraryCall;
+    /** Where the round robins over classes without a successful call stand. */
+    private int constructCursor;
+    private int staticCursor;
+    private int reachCursor;
     private final Map<String, Integer> outcomes = new TreeMap<>();
     /** The object each object came from (the receiver of the call that returned it). */
     private final Map<Object, java.lang.ref.WeakReference<Object>> parents = new java.util.WeakHashMap<>();
@@ -101,20 +132,35 @@ public final class Misuse {
     private int depth;
     private Throwable failure;
 
-    private Misuse(long seed, int limit, Path logFile) {
+    private Misuse(long seed, int limit, CallLog log, boolean lane) {
         this.seed = seed;
         this.rnd = new Random(seed);
         this.limit = limit;
-        this.log = new CallLog(logFile);
+        this.log = log;
+        this.lane = lane;
+        if (sharedSurface == null) {
+            sharedSurface = new Surface();
+        }
+        this.surface = sharedSurface;
         this.operations = Nodes.operationNames();
         Arrays.sort(operations);
+        // Each seed starts its round robins elsewhere, so that short children share the classes.
+        this.constructCursor = (int) Math.floorMod(seed * 7919, Math.max(1, surface.constructible.size()));
+        this.staticCursor = (int) Math.floorMod(seed * 104729, Math.max(1, surface.withStatics.size()));
+        this.reachCursor = (int) Math.floorMod(seed * 1299709, Math.max(1, surface.productClasses.size()));
+    }
+
+    /** The run that a callback on this thread belongs to: the lane's, else the process's. */
+    static Misuse instance() {
+        Misuse lane = LANE.get();
+        return lane != null ? lane : current;
     }
 
     public static void main(String[] args) throws Exception {
         long seed = Long.parseLong(args[0]);
         int limit = Integer.parseInt(args[1]);
         TestLibrary.ensureLoaded();
-        Misuse run = new Misuse(seed, limit, Path.of(args[2]));
+        Misuse run = new Misuse(seed, limit, new CallLog(Path.of(args[2])), false);
         current = run;
         long start = System.nanoTime();
         int exit = run.run();
@@ -122,13 +168,26 @@ public final class Misuse {
                 + (System.nanoTime() - start) / 1_000_000 + " ms");
         System.out.println("misuse outcomes: " + run.outcomes);
         run.detail.forEach((k, v) -> System.out.println("  " + k + ": " + v));
-        System.out.println(exit == 0 ? "misuse finished" : "misuse FAILED: " + run.failure);
+        Coverage.write(Path.of(Coverage.FILE));
+        long reached = run.surface.productClasses.stream().filter(Coverage::reached).count();
+        System.out.println("misuse reached " + reached + " of " + run.surface.productClasses.size()
+                + " public classes, " + Coverage.methods() + " methods");
+        System.out.println("misuse unclear exceptions: " + Coverage.unclear());
+        if (exit == 0 && Coverage.unclear() > 0) {
+            exit = 4;
+        }
+        System.out.println(exit == 0 ? "misuse finished" : exit == 4 ? "misuse FAILED: unclear exceptions"
+                : "misuse FAILED: " + run.failure);
         System.out.flush();
         Runtime.getRuntime().halt(exit);
     }
 
     private int run() {
         log.write(Thread.currentThread().getName(), 0, "# seed " + seed + ", " + limit + " calls");
+        if (rnd.nextBoolean()) {
+            // The first use of the Java node and element classes, on two threads at once.
+            lanes();
+        }
         while (calls < limit && failure == null) {
             step(true);
         }
@@ -143,32 +202,51 @@ public final class Misuse {
 
     /** One step; a top-level one may run on another thread and may collect garbage. */
     private void step(boolean topLevel) {
-        int r = rnd.nextInt(100);
-        if (r < 19) {
+        if (rnd.nextInt(100) < 15 && reachStep(topLevel)) {
+            return;
+        }
+        int r = rnd.nextInt(1000);
+        if (r < 170) {
             onSomeThread(topLevel, this::construct);
-        } else if (r < 64) {
-            Object receiver = pickAny(Object.class, 90);
+        } else if (r < 570) {
+            Object receiver = rnd.nextInt(3) == 0 ? pickUnreached() : pickAny(Object.class, 90);
             if (receiver != null) {
                 onSomeThread(topLevel, () -> callRandomMethod(receiver));
             }
-        } else if (r < 70) {
-            onSomeThread(topLevel, this::callStatic);
-        } else if (r < 75) {
+        } else if (r < 630) {
+            if (!lane) {
+                onSomeThread(topLevel, this::callStatic);
+            }
+        } else if (r < 680) {
             NativeObject o = pickAny(NativeObject.class, 95);
             if (o != null) {
                 onSomeThread(topLevel, () -> call(o, "dispose", o::dispose));
             }
-        } else if (r < 84) {
+        } else if (r < 760) {
             scene();
-        } else if (r < 93) {
+        } else if (r < 840) {
             toolkitEvent();
-        } else if (r < 95) {
+        } else if (r < 860) {
             mutateMesh(null);
-        } else if (r < 98) {
+        } else if (r < 890) {
             orphan(topLevel);
-        } else if (r < 99) {
+        } else if (r < 900) {
             drop();
-        } else if (topLevel && rnd.nextInt(10) == 0) {
+        } else if (r < 920) {
+            if (!lane) {
+                enableElements();
+            }
+        } else if (r < 950) {
+            graphRebuild();
+        } else if (r < 965) {
+            viewSweep(topLevel);
+        } else if (r < 985) {
+            callElementStatics(null);
+        } else if (r < 990) {
+            if (topLevel && !lane) {
+                lanes();
+            }
+        } else if (topLevel && !lane && rnd.nextInt(10) == 0) {
             collectGarbage();
         }
     }
@@ -219,8 +297,15 @@ public final class Misuse {
     /** Runs on this thread, or hands to the worker or to a new thread and waits. */
     private void onSomeThread(boolean topLevel, Runnable body) {
         int r = rnd.nextInt(100);
+        if (lane) {
+            body.run();
+            return;
+        }
         try {
             if (topLevel && r < 8) {
+                if (worker == null) {
+                    worker = Executors.newSingleThreadExecutor(t -> new Thread(t, "worker"));
+                }
                 worker.submit(body).get();
             } else if (r < 12) {
                 FutureTask<Void> task = new FutureTask<>(body, null);
@@ -238,14 +323,120 @@ public final class Misuse {
         }
     }
 
+    /**
+     * A constructor: half the time of the next class in a round robin over the classes that have
+     * had no successful call yet (all of them once each has had one), with arguments well formed
+     * three times in four, so that a short run reaches every class.
+     */
     private void construct() {
-        Constructor<?> c = surface.constructors.get(rnd.nextInt(surface.constructors.size()));
-        invoke(null, c, arguments(c, null));
+        Constructor<?> c;
+        boolean wellFormed = false;
+        if (rnd.nextBoolean()) {
+            Class<?> k = nextInRoundRobin(surface.constructible, true);
+            List<Constructor<?>> ctors = surface.constructorsByClass.get(k);
+            c = ctors.get(rnd.nextInt(ctors.size()));
+            wellFormed = rnd.nextInt(4) != 0;
+        } else {
+            c = surface.constructors.get(rnd.nextInt(surface.constructors.size()));
+        }
+        invoke(null, c, arguments(c, null, wellFormed));
     }
 
+    /** A static method, half the time of the next class without a successful call. */
     private void callStatic() {
-        Method m = surface.staticMethods.get(rnd.nextInt(surface.staticMethods.size()));
-        invoke(null, m, arguments(m, null));
+        Method m;
+        boolean wellFormed = false;
+        if (rnd.nextBoolean()) {
+            Class<?> k = nextInRoundRobin(surface.withStatics, false);
+            List<Method> ms = surface.staticsByClass.get(k);
+            m = ms.get(rnd.nextInt(ms.size()));
+            wellFormed = rnd.nextInt(4) != 0;
+        } else {
+            m = surface.staticMethods.get(rnd.nextInt(surface.staticMethods.size()));
+        }
+        invoke(null, m, arguments(m, null, wellFormed));
+    }
+
+    /**
+     * A call for the next public class (in a round robin that starts where the seed says) that
+     * has had no successful call yet: a constructor, a static method (one without arguments half
+     * the time: an enumeration's {@code values()}), or a method of an object of it in the pool; its
+     * arguments well formed. False when every class has had one, or when the class has none of
+     * these (an abstract class or interface, reached through its subclasses and implementations).
+     */
+    private boolean reachStep(boolean topLevel) {
+        List<Class<?>> all = surface.productClasses;
+        for (int i = 0; i < all.size(); i++) {
+            Class<?> k = all.get((reachCursor + i) % all.size());
+            if (Coverage.reached(k)) {
+                continue;
+            }
+            reachCursor = (reachCursor + i + 1) % all.size();
+            List<Constructor<?>> ctors = surface.constructorsByClass.get(k);
+            List<Method> statics = surface.staticsByClass.get(k);
+            Object receiver = pickLive(k);
+            if (ctors != null && (statics == null || rnd.nextBoolean())) {
+                Constructor<?> c = ctors.get(rnd.nextInt(ctors.size()));
+                onSomeThread(topLevel, () -> invoke(null, c, arguments(c, null, true)));
+            } else if (statics != null) {
+                List<Method> plain = new ArrayList<>();
+                for (Method m : statics) {
+                    if (m.getParameterCount() == 0) {
+                        plain.add(m);
+                    }
+                }
+                List<Method> from = !plain.isEmpty() && rnd.nextBoolean() ? plain : statics;
+                Method m = from.get(rnd.nextInt(from.size()));
+                onSomeThread(topLevel, () -> invoke(null, m, arguments(m, null, true)));
+            } else if (receiver != null) {
+                List<Method> methods = surface.methodsOf(receiver.getClass());
+                if (methods.isEmpty()) {
+                    continue;
+                }
+                Method m = methods.get(rnd.nextInt(methods.size()));
+                onSomeThread(topLevel, () -> invoke(receiver, m, arguments(m, receiver, true)));
+            } else {
+                continue;
+            }
+            return true;
+        }
+        return false;
+    }
+
+    private Class<?> nextInRoundRobin(List<Class<?>> classes, boolean constructing) {
+        int cursor = constructing ? constructCursor : staticCursor;
+        int n = classes.size();
+        int chosen = cursor % n;
+        for (int i = 0; i < n; i++) {
+            int at = (cursor + i) % n;
+            if (!Coverage.reached(classes.get(at)) && Coverage.isProduct(classes.get(at))) {
+                chosen = at;
+                break;
+            }
+        }
+        if (constructing) {
+            constructCursor = chosen + 1;
+        } else {
+            staticCursor = chosen + 1;
+        }
+        return classes.get(chosen);
+    }
+
+    /** A pool object of a class (or superclass) that has had no successful call yet; null if none. */
+    private Object pickUnreached() {
+        List<Object> fitting = new ArrayList<>();
+        for (Object o : pool) {
+            if (o instanceof NativeObject && ((NativeObject) o).isDisposed()) {
+                continue;
+            }
+            for (Class<?> c = o.getClass(); c != null; c = c.getSuperclass()) {
+                if (Coverage.isProduct(c) && !Coverage.reached(c)) {
+                    fitting.add(o);
+                    break;
+                }
+            }
+        }
+        return fitting.isEmpty() ? pickAny(Object.class, 90) : fitting.get(rnd.nextInt(fitting.size()));
     }
 
     private void callRandomMethod(Object receiver) {
@@ -309,12 +500,16 @@ public final class Misuse {
             }
         }
         SoGroup root = group;
-        int n = rnd.nextInt(4);
+        int n = rnd.nextInt(4) + (rnd.nextInt(4) == 0 ? 4 : 0);
         for (int i = 0; i < n; i++) {
-            SoNode child = sceneChild();
+            SoNode child = sceneChild(0);
             if (child != null) {
                 addChild(root, child);
             }
+        }
+        if (rnd.nextInt(3) == 0) {
+            render(root);
+            return;
         }
         SoAction action = pickLive(SoAction.class);
         if (action == null || rnd.nextInt(3) == 0) {
@@ -345,8 +540,50 @@ public final class Misuse {
         onSomeThread(depth == 0, () -> call(a, "apply", () -> a.apply(target), target));
     }
 
-    private SoNode sceneChild() {
-        switch (rnd.nextInt(6)) {
+    /**
+     * A node for a scene: a Java filter or node, a probe, any node of the pool, a representation
+     * with a mesh, a mesh node, a property node, a graph node, or a separator holding a few of
+     * these (everything mixed in one scene).
+     */
+    private SoNode sceneChild(int level) {
+        switch (rnd.nextInt(11)) {
+            case 6:
+                return madeNode(com.kestrum.tavrel.nodes.PoMeshProperty.class);
+            case 7: {
+                // A property node: a node of the nodes package that is neither a Java node nor a mesh node.
+                List<Constructor<?>> fitting = new ArrayList<>();
+                for (Constructor<?> c : surface.constructors) {
+                    Class<?> k = c.getDeclaringClass();
+                    if (k.getPackageName().equals("com.kestrum.tavrel.nodes") && SoNode.class.isAssignableFrom(k)
+                            && !com.kestrum.tavrel.nodes.PoMeshProperty.class.isAssignableFrom(k)) {
+                        fitting.add(c);
+                    }
+                }
+                if (fitting.isEmpty()) {
+                    return null;
+                }
+                Constructor<?> c = fitting.get(rnd.nextInt(fitting.size()));
+                Object made = invoke(null, c, arguments(c, null, true));
+                return made instanceof SoNode ? (SoNode) made : null;
+            }
+            case 8:
+                return madeNode(PoBase.class);
+            case 9: {
+                if (level >= 2) {
+                    return null;
+                }
+                SoGroup sep = (SoGroup) call(null, "new SoSeparator", SoSeparator::new);
+                if (sep != null) {
+                    int k = 1 + rnd.nextInt(3);
+                    for (int i = 0; i < k; i++) {
+                        SoNode child = sceneChild(level + 1);
+                        if (child != null) {
+                            addChild(sep, child);
+                        }
+                    }
+                }
+                return sep;
+            }
             case 0:
                 return liveOrNew(HostileFilter.class);
             case 1:
@@ -374,6 +611,17 @@ public final class Misuse {
                 return rep;
             }
         }
+    }
+
+    /** A live node of the type from the pool, or a new one made with well-formed arguments. */
+    private SoNode madeNode(Class<? extends SoNode> type) {
+        SoNode o = pickLive(type);
+        if (o != null && rnd.nextBoolean()) {
+            return o;
+        }
+        Constructor<?> c = randomConstructorOf(type, true);
+        Object made = c == null ? null : invoke(null, c, arguments(c, null, true));
+        return made instanceof SoNode ? (SoNode) made : null;
     }
 
     /** A mesh, a position inside it (a node of it) or anywhere, and listeners. */
@@ -472,7 +720,8 @@ public final class Misuse {
                     events[i] = rnd.nextInt(4);
                     cells[i] = events.length == 1 ? cell : 0;
                 }
-                int kind = rnd.nextInt(3);
+                // A lane raises no events on native threads: those reach the process's run.
+                int kind = lane ? 2 * rnd.nextInt(2) : rnd.nextInt(3);
                 String what = kind == 0 ? "Probes.raise" : kind == 1 ? "Probes.raiseOnNativeThread" : "Probes.moveTo";
                 float x = nextFloat();
                 call(probe, what, () -> {
@@ -494,7 +743,8 @@ public final class Misuse {
             }
             case 2: {
                 PoRebuildCB cb = pickLive(PoRebuildCB.class);
-                SoBaseKit kit = pickLive(SoBaseKit.class);
+                // The toolkit raises rebuild events for graph nodes only.
+                SoBaseKit kit = pickLive(PoBase.class);
                 if (cb == null) {
                     PoRebuildCB.Listener listener = rebuildListener();
                     call(null, "new PoRebuildCB", () -> new PoRebuildCB(listener), listener);
@@ -528,9 +778,12 @@ public final class Misuse {
                 long h = node.getNativeResourceHandleInternal();
                 call(node, "Nodes.invoke", () -> {
                     Nodes.ref(h);
+                    boolean outer = testLibraryCall;
+                    testLibraryCall = true;
                     try {
                         Nodes.invoke(h, op);
                     } finally {
+                        testLibraryCall = outer;
                         Nodes.unref(h);
                     }
                     return null;
@@ -556,24 +809,406 @@ public final class Misuse {
         return cell == null ? 0 : cell.getNativeResourceHandleInternal();
     }
 
+
+    // --- elements, graphs, views, threads -------------------------------------------------------
+
+    /**
+     * Makes the traversal states make a hostile Java element for one element class from now on,
+     * or the toolkit's element again.
+     */
+    private void enableElements() {
+        Class<? extends SoElement> hostile = HostileElements.ALL.get(rnd.nextInt(HostileElements.ALL.size()));
+        if (rnd.nextInt(3) != 0) {
+            Constructor<?> c = randomConstructorOf(hostile);
+            Object made = c == null ? null : invoke(null, c, new Object[0]);
+            if (!(made instanceof SoElement)) {
+                return;
+            }
+            SoElement e = (SoElement) made;
+            Object type = call(e, "getTypeName", e::getTypeName);
+            Object index = call(e, "getStackIndex", e::getStackIndex);
+            if (type instanceof String && index instanceof Integer) {
+                call(null, "SoAction.enableElement", () -> SoAction.enableElement((String) type, (Integer) index),
+                        type, index);
+            }
+            if (rnd.nextBoolean()) {
+                call(e, "dispose", e::dispose);
+            }
+        } else {
+            Class<?> toolkit = hostile.getSuperclass();
+            try {
+                Method name = toolkit.getMethod("getClassTypeName");
+                Method index = toolkit.getMethod("getClassStackIndex");
+                Object type = invoke(null, name, new Object[0]);
+                Object i = invoke(null, index, new Object[0]);
+                if (type instanceof String && i instanceof Integer) {
+                    call(null, "SoAction.enableElement", () -> SoAction.enableElement((String) type, (Integer) i),
+                            type, i);
+                }
+            } catch (NoSuchMethodException e) {
+                throw new IllegalStateException(toolkit + " has no getClassTypeName or getClassStackIndex", e);
+            }
+        }
+    }
+
+    /**
+     * Static methods of the element classes (set, get, the profile's queries): with the state a
+     * callback was given (or one kept from an earlier traversal, finished), the other arguments
+     * well formed or hostile.
+     */
+    private void callElementStatics(SoState given) {
+        SoState state = given != null ? given : pickAny(SoState.class, 50);
+        int n = 1 + rnd.nextInt(3);
+        for (int i = 0; i < n && calls < limit; i++) {
+            List<Method> fitting = new ArrayList<>();
+            for (Method m : surface.staticMethods) {
+                if (m.getDeclaringClass().getPackageName().equals("com.kestrum.tavrel.elements")
+                        && Arrays.asList(m.getParameterTypes()).contains(SoState.class)) {
+                    fitting.add(m);
+                }
+            }
+            if (fitting.isEmpty()) {
+                return;
+            }
+            Method m = fitting.get(rnd.nextInt(fitting.size()));
+            Object[] args = arguments(m, null, rnd.nextBoolean());
+            Class<?>[] types = m.getParameterTypes();
+            for (int k = 0; k < types.length; k++) {
+                if (types[k] == SoState.class && rnd.nextInt(10) != 0) {
+                    args[k] = state;
+                }
+            }
+            invoke(null, m, args);
+        }
+    }
+
+    /**
+     * A graph node with rebuild listeners and callback objects (which may dispose the node, the
+     * action, the domain being set, ...), then rebuilt: directly, by a change, or by a traversal.
+     */
+    private void graphRebuild() {
+        PoBase node = pickLive(PoBase.class);
+        if (node == null || rnd.nextInt(3) == 0) {
+            Constructor<?> c = randomConstructorOf(PoBase.class, true);
+            Object made = c == null ? null : invoke(null, c, arguments(c, null, true));
+            node = made instanceof PoBase ? (PoBase) made : null;
+        }
+        if (node == null) {
+            return;
+        }
+        for (Method m : surface.methodsOf(node.getClass())) {
+            if (m.getName().startsWith("add") && m.getName().contains("Rebuild") && rnd.nextInt(3) != 0) {
+                invoke(node, m, arguments(m, node, true));
+            }
+        }
+        PoBase n = node;
+        switch (rnd.nextInt(5)) {
+            case 0:
+                call(n, "rebuild", n::rebuild);
+                break;
+            case 1:
+                call(n, "touchKit", n::touchKit);
+                break;
+            case 2: {
+                PbDomain d = pickAny(PbDomain.class, 90);
+                call(n, "setDomain", () -> n.setDomain(d), d);
+                break;
+            }
+            default: {
+                call(n, "setUpdateMethod", () -> n.setUpdateMethod(PoBase.UpdateMethodTypes.UPDATEMETHODONACTION),
+                        PoBase.UpdateMethodTypes.UPDATEMETHODONACTION);
+                call(n, "touchKit", n::touchKit);
+                SoGroup root = (SoGroup) call(null, "new SoSeparator", SoSeparator::new);
+                if (root != null) {
+                    addChild(root, n);
+                    render(root);
+                }
+                break;
+            }
+        }
+    }
+
+    /**
+     * Views kept past their owners: every public getter of a live object that returns an object
+     * of the library is called; the owner is disposed, or dropped and collected; new objects of
+     * the same classes are made so that freed memory is reused; then every method of each view is
+     * called, and each view is given back as an argument to the methods and constructors that
+     * take its class (set, setMesh, constructors, ...).
+     *
+     * <p>Direct buffers are read at once, while their owner lives: reading one after its owner,
+     * set or list is gone is the caller's documented obligation (README, "Ownership"), not a
+     * misuse the library must survive.
+     */
+    private void viewSweep(boolean topLevel) {
+        NativeObject owner = null;
+        for (int tries = 0; tries < 3 && owner == null; tries++) {
+            NativeObject o = rnd.nextBoolean() ? pickLive(NativeObject.class) : null;
+            if (o == null) {
+                Constructor<?> c = randomConstructorOf(NativeObject.class, true);
+                Object made = c == null ? null : invoke(null, c, arguments(c, null, true));
+                o = made instanceof NativeObject ? (NativeObject) made : null;
+            }
+            if (o != null && !o.isDisposed() && !getters(o.getClass()).isEmpty()) {
+                owner = o;
+            }
+        }
+        if (owner == null) {
+            return;
+        }
+        List<Object> views = new ArrayList<>();
+        for (Method g : getters(owner.getClass())) {
+            Object v = invoke(owner, g, arguments(g, owner, true));
+            if (v instanceof NativeObject && v != owner) {
+                views.add(v);
+            } else if (v instanceof Object[]) {
+                for (Object e : (Object[]) v) {
+                    if (e instanceof NativeObject) {
+                        views.add(e);
+                    }
+                }
+            }
+        }
+        if (views.isEmpty()) {
+            return;
+        }
+        Class<?> kind = owner.getClass();
+        if (topLevel && !lane && rnd.nextBoolean()) {
+            pool.remove(owner);
+            log.write(thread(), depth, "# drop " + log.render(owner));
+            owner = null;
+            collectGarbage();
+        } else {
+            NativeObject o = owner;
+            call(o, "dispose", o::dispose);
+        }
+        List<Class<?>> kinds = new ArrayList<>(List.of(kind));
+        for (Object v : views) {
+            kinds.add(v.getClass());
+        }
+        for (Class<?> k : kinds) {
+            List<Constructor<?>> ctors = surface.constructorsByClass.get(k);
+            if (ctors != null && calls < limit) {
+                Constructor<?> c = ctors.get(rnd.nextInt(ctors.size()));
+                invoke(null, c, arguments(c, null, true));
+            }
+        }
+        for (Object v : views) {
+            for (Method m : surface.methodsOf(v.getClass())) {
+                if (calls >= limit) {
+                    return;
+                }
+                if (!m.getName().equals("dispose") && !m.getName().equals("close")) {
+                    invoke(v, m, arguments(m, v));
+                }
+            }
+            List<Executable> takers = surface.acceptorsOf(v.getClass());
+            for (int i = 0; i < 3 && !takers.isEmpty() && calls < limit; i++) {
+                giveBack(v, takers.get(rnd.nextInt(takers.size())));
+            }
+        }
+    }
+
+    /** Calls an executable that takes the view's class, with the view as that argument. */
+    private void giveBack(Object view, Executable e) {
+        Object receiver = null;
+        if (e instanceof Method && !java.lang.reflect.Modifier.isStatic(e.getModifiers())) {
+            receiver = pickLive(e.getDeclaringClass());
+            if (receiver == null) {
+                return;
+            }
+        }
+        Object[] args = arguments(e, receiver, true);
+        Class<?>[] types = e.getParameterTypes();
+        for (int k = 0; k < types.length; k++) {
+            if (types[k] != Object.class && types[k].isInstance(view)) {
+                args[k] = view;
+                break;
+            }
+        }
+        invoke(receiver, e, args);
+    }
+
+    /**
+     * The public getters of a class that return objects of the library or direct buffers (or
+     * arrays of them); the buffers are read at once ({@link #takeIn}).
+     */
+    private List<Method> getters(Class<?> type) {
+        List<Method> out = new ArrayList<>();
+        for (Method m : surface.methodsOf(type)) {
+            Class<?> r = m.getReturnType().isArray() ? m.getReturnType().getComponentType() : m.getReturnType();
+            if ((NativeObject.class.isAssignableFrom(r) || java.nio.Buffer.class.isAssignableFrom(r))
+                    && m.getParameterCount() <= 2 && !m.getName().equals("copy")) {
+                out.add(m);
+            }
+        }
+        return out;
+    }
+
+    /**
+     * Renders a scene to the picture (and sometimes writes it to a file), or applies another
+     * action to it.
+     */
+    private void render(SoNode root) {
+        SoAction action = rnd.nextInt(3) == 0 ? pickLive(SoAction.class) : null;
+        if (action == null) {
+            action = (SoAction) call(null, "new SoGLRenderAction", SoGLRenderAction::new);
+        }
+        if (action == null) {
+            return;
+        }
+        SoAction a = action;
+        call(a, "apply", () -> a.apply(root), root);
+        if (a instanceof SoGLRenderAction && !a.isDisposed()) {
+            SoGLRenderAction gl = (SoGLRenderAction) a;
+            if (rnd.nextBoolean()) {
+                call(gl, "toSvg", gl::toSvg);
+            } else {
+                Path file = Path.of("scene.svg");
+                call(gl, "writeSvg", () -> {
+                    gl.writeSvg(file);
+                    return null;
+                }, file);
+            }
+        }
+    }
+
+    /**
+     * Two threads at once, each with a run of its own (its own objects, seed and log), so that no
+     * object is used by both: first each makes an object of the same hostile element class and
+     * the Java node and filter (at the start of a child, the first use of those classes, whose
+     * registration races), renders a scene, then makes a few dozen steps.
+     */
+    private void lanes() {
+        if (lane || depth > 0 || calls >= limit) {
+            return;
+        }
+        long laneSeed = rnd.nextLong();
+        int laneCalls = 20 + rnd.nextInt(60);
+        int firstUse = rnd.nextInt(HostileElements.ALL.size());
+        if (laneLogs == null) {
+            laneLogs = new CallLog[] {new CallLog(Path.of("calls-lane-0.log")), new CallLog(Path.of("calls-lane-1.log"))};
+        }
+        log.write(thread(), depth, "# lanes: seeds " + laneSeed + " and " + (laneSeed + 1) + ", " + laneCalls
+                + " calls each (calls-lane-0.log, calls-lane-1.log)");
+        Misuse[] runs = new Misuse[2];
+        Thread[] threads = new Thread[2];
+        java.util.concurrent.CountDownLatch start = new java.util.concurrent.CountDownLatch(1);
+        for (int i = 0; i < 2; i++) {
+            Misuse run = new Misuse(laneSeed + i, laneCalls, laneLogs[i], true);
+            runs[i] = run;
+            threads[i] = new Thread(() -> {
+                LANE.set(run);
+                try {
+                    start.await();
+                    run.runLane(firstUse);
+                } catch (InterruptedException e) {
+                    Thread.currentThread().interrupt();
+                } finally {
+                    LANE.remove();
+                }
+            }, "lane-" + i);
+            threads[i].start();
+        }
+        start.countDown();
+        for (Thread t : threads) {
+            try {
+                t.join();
+            } catch (InterruptedException e) {
+                throw new IllegalStateException(e);
+            }
+        }
+        for (Misuse run : runs) {
+            calls += run.calls;
+            if (failure == null && run.failure != null) {
+                failure = run.failure;
+            }
+        }
+    }
+
+    private void runLane(int firstUse) {
+        log.write(thread(), 0, "# lane seed " + seed + ", " + limit + " calls");
+        Class<?> element = HostileElements.ALL.get(firstUse);
+        for (Class<?> c : List.of(element, HostileNode.class, HostileFilter.class)) {
+            Constructor<?> k = randomConstructorOf(c);
+            if (k != null) {
+                invoke(null, k, new Object[0]);
+            }
+        }
+        scene();
+        while (calls < limit && failure == null) {
+            step(true);
+        }
+    }
+
     // --- callbacks --------------------------------------------------------------------------
 
     private PoProbeCB.Listener probeListener() {
-        return (probe, cell, cellHandle, userData) -> {
-            Misuse m = current;
-            if (m != null) {
-                m.callback("listener", probe, new Object[] {probe, cell, cellHandle, userData}, true);
-            }
-        };
+        return (PoProbeCB.Listener) listener(PoProbeCB.Listener.class);
     }
 
     private PoRebuildCB.Listener rebuildListener() {
-        return (node, nodeHandle, userData) -> {
-            Misuse m = current;
-            if (m != null) {
-                m.callback("rebuild listener", node, new Object[] {node, nodeHandle, userData}, true);
+        return (PoRebuildCB.Listener) listener(PoRebuildCB.Listener.class);
+    }
+
+    /**
+     * An implementation of a product interface (the listeners, and any that lands later): each
+     * call is a callback of the run, which may dispose its arguments, make further calls and
+     * throw; a method with a result returns a hostile value or the neutral one.
+     */
+    private static Object listener(Class<?> iface) {
+        return Proxy.newProxyInstance(iface.getClassLoader(), new Class<?>[] {iface}, (proxy, method, args) -> {
+            if (method.getDeclaringClass() == Object.class) {
+                switch (method.getName()) {
+                    case "equals":
+                        return proxy == args[0];
+                    case "hashCode":
+                        return System.identityHashCode(proxy);
+                    default:
+                        return "listener " + iface.getSimpleName();
+                }
             }
-        };
+            Object[] a = args == null ? new Object[0] : args;
+            Misuse m = instance();
+            Object result = null;
+            if (m != null) {
+                Object self = a.length > 0 ? a[0] : null;
+                Decision d = m.callback(iface.getSimpleName() + "." + method.getName(), self, a, true);
+                if (d == Decision.HOSTILE_VALUE && method.getReturnType() != void.class
+                        && !method.getReturnType().isPrimitive()) {
+                    result = m.hostileValue(method.getReturnType(), self);
+                }
+            }
+            Coverage.listenerReturned(iface, method.getName());
+            return result != null || !method.getReturnType().isPrimitive() ? result : neutral(method.getReturnType());
+        });
+    }
+
+    private static Object neutral(Class<?> primitive) {
+        if (primitive == boolean.class) {
+            return false;
+        }
+        if (primitive == void.class) {
+            return null;
+        }
+        if (primitive == float.class) {
+            return 0f;
+        }
+        if (primitive == double.class) {
+            return 0d;
+        }
+        if (primitive == long.class) {
+            return 0L;
+        }
+        if (primitive == char.class) {
+            return (char) 0;
+        }
+        if (primitive == short.class) {
+            return (short) 0;
+        }
+        if (primitive == byte.class) {
+            return (byte) 0;
+        }
+        return 0;
     }
 
     /** What an override does after the misuse run has had its way. */
@@ -581,14 +1216,14 @@ public final class Misuse {
 
     /** Called first by each override of {@link HostileNode} and {@link HostileFilter}: true to call super. */
     static boolean enter(Object self, String op, Object... args) {
-        Misuse m = current;
+        Misuse m = instance();
         return m == null || m.callback(op, self, args, false) == Decision.SUPER;
     }
 
     /** An override with a result: the toolkit's (super), or a hostile one. */
     static <T> T value(Object self, String op, Class<T> type, java.util.function.Supplier<T> superCall,
             Object... args) {
-        Misuse m = current;
+        Misuse m = instance();
         if (m == null || m.callback(op, self, args, false) == Decision.SUPER) {
             return superCall.get();
         }
@@ -606,18 +1241,36 @@ public final class Misuse {
         if (self != null) {
             related.add(self);
         }
+        SoState state = null;
+        SoAction action = null;
         for (Object a : args) {
             if (a instanceof NativeObject) {
                 related.add(a);
-                // Nodes, meshes and cells handed to a callback may be kept for later; the
-                // toolkit's actions, states and inputs live for the call only.
-                if (a instanceof SoNode || a instanceof PbMesh || a instanceof PbCell) {
+                // Kept for later, whatever it is: nodes, meshes, cells, but also the traversal's
+                // state, elements and action, which stop working when the traversal ends. Not
+                // the actions and inputs that the test library makes for one call of a node's
+                // operation (Nodes.invoke, on its stack), which the toolkit never hands out.
+                if (!(testLibraryCall && (a instanceof SoAction || a instanceof com.kestrum.corvel.SoInput))) {
                     adopt(a, line);
                 }
+            }
+            if (a instanceof SoState) {
+                state = (SoState) a;
+            } else if (a instanceof SoAction) {
+                action = (SoAction) a;
             }
         }
         if (self instanceof NativeObject) {
             adopt(self, line);
+        }
+        // The receiver and arguments of the call that caused this callback (an apply's action
+        // and node, a setDomain's domain): the callback may dispose them too.
+        if (!inProgress.isEmpty()) {
+            for (Object o : inProgress.get(inProgress.size() - 1)) {
+                if (o instanceof NativeObject && !related.contains(o)) {
+                    related.add(o);
+                }
+            }
         }
         log.write(thread(), depth, "~ " + log.render(self) + "." + op + "(" + renderAll(args) + ")");
         boolean quiet = op.equals("acceptCell") || op.equals("getRenderEngineMode");
@@ -635,6 +1288,17 @@ public final class Misuse {
                 Object o = related.get(rnd.nextInt(related.size()));
                 if (o instanceof NativeObject) {
                     call(o, "dispose", ((NativeObject) o)::dispose);
+                }
+            }
+            if ((state != null || action != null) && rnd.nextInt(100) < 30 / scale) {
+                SoState s = state;
+                if (s == null && !action.isDisposed()) {
+                    SoAction a = action;
+                    Object got = call(a, "getState", a::getState);
+                    s = got instanceof SoState ? (SoState) got : null;
+                }
+                if (s != null) {
+                    callElementStatics(s);
                 }
             }
             if (self instanceof PoMesh && rnd.nextInt(100) < 15 / scale) {
@@ -670,7 +1334,7 @@ public final class Misuse {
             return (T) Boolean.valueOf(rnd.nextBoolean());
         }
         if (type == Integer.class) {
-            return (T) Integer.valueOf(nextInt(new Ctx()));
+            return (T) Integer.valueOf(nextInt(new Ctx(false)));
         }
         if (type == String.class) {
             return (T) nextString();
@@ -703,13 +1367,13 @@ public final class Misuse {
             } catch (InvocationTargetException ex) {
                 throw ex.getCause();
             }
-        }, outcomeKey(e));
+        }, outcomeKey(e), e);
     }
 
     /** A direct call, logged and made like a reflective one. */
     private Object call(Object receiver, String method, Callable<?> body, Object... args) {
         String name = receiver == null ? method : log.render(receiver) + "." + method;
-        return perform(receiver, name, args, () -> body.call(), method);
+        return perform(receiver, name, args, () -> body.call(), method, null);
     }
 
     private Object call(Object receiver, String method, Runnable body, Object... args) {
@@ -724,13 +1388,28 @@ public final class Misuse {
         Object run() throws Throwable;
     }
 
-    private Object perform(Object receiver, String name, Object[] args, Body body, String outcomeKey) {
+    /**
+     * Logs and makes a call; records what it reached (a call that returned) and checks what it
+     * threw ({@link Coverage#check}). The call's receiver and arguments are known to the callbacks
+     * it causes meanwhile, which may dispose them.
+     */
+    private Object perform(Object receiver, String name, Object[] args, Body body, String outcomeKey,
+            Executable executable) {
         int line = log.write(thread(), depth, name + "(" + renderAll(args) + ")");
         calls++;
+        Object[] frame = new Object[args.length + 1];
+        frame[0] = receiver;
+        System.arraycopy(args, 0, frame, 1, args.length);
+        inProgress.add(frame);
         try {
             Object result = body.run();
             outcome(outcomeKey, "returned");
-            takeIn(result, line, receiver);
+            if (executable != null) {
+                Coverage.returned(receiver, executable);
+            } else {
+                Coverage.returned(receiver, outcomeKey);
+            }
+            takeIn(result, line, receiver != null ? receiver : firstObject(args));
             return result;
         } catch (VirtualMachineError | LinkageError e) {
             if (e instanceof UnsatisfiedLinkError) {
@@ -744,8 +1423,23 @@ public final class Misuse {
             return null;
         } catch (Throwable t) {
             outcome(outcomeKey, t.getClass().getSimpleName());
+            if (Coverage.check(name + " (log line " + line + ", " + thread() + ")", t, executable)) {
+                log.write(thread(), depth, "# unclear exception: " + t);
+            }
             return null;
+        } finally {
+            inProgress.remove(inProgress.size() - 1);
         }
+    }
+
+    /** The first object argument of a static call: what a returned view is taken from. */
+    private static Object firstObject(Object[] args) {
+        for (Object a : args) {
+            if (a instanceof NativeObject) {
+                return a;
+            }
+        }
+        return null;
     }
 
     private static String outcomeKey(Executable e) {
@@ -761,7 +1455,8 @@ public final class Misuse {
 
     /** Results: objects join the pool; buffers are read (and data sets written) at once; counts are noted. */
     private void takeIn(Object result, int line, Object receiver) {
-        if (result instanceof NativeObject) {
+        if (result instanceof NativeObject || result != null && !(result instanceof Enum)
+                && (Coverage.isProduct(result.getClass()) || surface.classes.contains(result.getClass()))) {
             adopt(result, line);
             if (receiver != null && receiver != result && !parents.containsKey(result)) {
                 parents.put(result, new java.lang.ref.WeakReference<>(receiver));
@@ -847,7 +1542,7 @@ public final class Misuse {
     private <T> T pickLive(Class<T> type) {
         List<T> live = new ArrayList<>();
         for (Object o : pool) {
-            if (type.isInstance(o) && !((NativeObject) o).isDisposed()) {
+            if (type.isInstance(o) && !(o instanceof NativeObject && ((NativeObject) o).isDisposed())) {
                 live.add(type.cast(o));
             }
         }
@@ -864,9 +1559,14 @@ public final class Misuse {
     }
 
     private Constructor<?> randomConstructorOf(Class<?> type) {
+        return randomConstructorOf(type, false);
+    }
+
+    /** A constructor of a class of the type: without arguments, or any. */
+    private Constructor<?> randomConstructorOf(Class<?> type, boolean anyArguments) {
         List<Constructor<?>> fitting = new ArrayList<>();
         for (Constructor<?> c : surface.constructors) {
-            if (type.isAssignableFrom(c.getDeclaringClass()) && c.getParameterCount() == 0) {
+            if (type.isAssignableFrom(c.getDeclaringClass()) && (anyArguments || c.getParameterCount() == 0)) {
                 fitting.add(c);
             }
         }
@@ -882,10 +1582,15 @@ public final class Misuse {
      * reach deep into the toolkit. The other half are hostile throughout.
      */
     private final class Ctx {
-        final boolean wellFormed = rnd.nextBoolean();
+        final boolean wellFormed;
+        Ctx(boolean wellFormed) {
+            this.wellFormed = wellFormed;
+        }
+
         /** How float arrays follow the counts: 0 the first count, 1 their product, 2 one count each. */
         final int lengthRule = rnd.nextInt(3);
         final List<Integer> ints = new ArrayList<>();
+        final List<Float> floats = new ArrayList<>();
         final List<Integer> sizes = new ArrayList<>();
         /** Node and cell counts of the receiving mesh, when the caller asked it for them. */
         int receiverNodes = -1;
@@ -903,7 +1608,12 @@ public final class Misuse {
     private int lastCells = -1;
 
     private Object[] arguments(Executable e, Object receiver) {
-        Ctx ctx = new Ctx();
+        return arguments(e, receiver, false);
+    }
+
+    /** The arguments of a call; all well formed when asked, else half the time. */
+    private Object[] arguments(Executable e, Object receiver, boolean wellFormed) {
+        Ctx ctx = new Ctx(wellFormed || rnd.nextBoolean());
         if (receiver instanceof PbMesh) {
             ctx.receiverNodes = lastNodes;
             ctx.receiverCells = lastCells;
@@ -944,7 +1654,7 @@ public final class Misuse {
             return v;
         }
         if (t == float.class) {
-            return ctx.wellFormed ? rnd.nextInt(41) / 4f - 5f : nextFloat();
+            return ctx.wellFormed ? rnd.nextInt(41) / 4f - 5f : nextFloat(ctx);
         }
         if (t == boolean.class) {
             return rnd.nextBoolean();
@@ -961,25 +1671,20 @@ public final class Misuse {
         if (t.isArray()) {
             return ctx.wellFormed ? wellFormedArray(t.getComponentType(), ctx) : array(t.getComponentType(), ctx);
         }
-        if (t == SbVec3f.class) {
-            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbVec3f(coordinate(ctx), coordinate(ctx),
-                    coordinate(ctx));
-        }
-        if (t == SbVec2f.class) {
-            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbVec2f(coordinate(ctx), coordinate(ctx));
-        }
-        if (t == SbColor.class) {
-            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : new SbColor(nextFloat(), nextFloat(), nextFloat());
+        if (t == SbVec3f.class || t == SbVec2f.class || t == SbColor.class) {
+            return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : vector(t, ctx);
         }
         if (t.isEnum()) {
             Object[] constants = t.getEnumConstants();
             return !ctx.wellFormed && rnd.nextInt(8) == 0 ? null : constants[rnd.nextInt(constants.length)];
         }
-        if (t == PoProbeCB.Listener.class) {
-            return rnd.nextInt(6) == 0 ? null : probeListener();
+        if (t.isInterface() && Coverage.isProduct(t)) {
+            return rnd.nextInt(6) == 0 ? null : listener(t);
         }
-        if (t == PoRebuildCB.Listener.class) {
-            return rnd.nextInt(6) == 0 ? null : rebuildListener();
+        if (t == Path.class) {
+            // A file of the child's folder, one in a folder that does not exist, the folder itself.
+            String[] paths = {"scene.svg", "missing/folder/scene.svg", ".", "scene.svg"};
+            return !ctx.wellFormed && rnd.nextInt(6) == 0 ? null : Path.of(paths[rnd.nextInt(ctx.wellFormed ? 1 : 4)]);
         }
         if (t == java.util.function.IntSupplier.class) {
             int v = nextInt(ctx);
@@ -997,8 +1702,30 @@ public final class Misuse {
         return null;
     }
 
+    /**
+     * A vector or colour: one in twenty hostile (a subclass whose own field "array" hides the
+     * vector's, see {@link HostileVectors}).
+     */
+    private Object vector(Class<?> t, Ctx ctx) {
+        float x = t == SbColor.class ? nextFloat() : coordinate(ctx);
+        float y = t == SbColor.class ? nextFloat() : coordinate(ctx);
+        float z = t == SbColor.class ? nextFloat() : coordinate(ctx);
+        boolean hostile = rnd.nextInt(20) == 0;
+        int kind = rnd.nextInt(4);
+        if (t == SbVec2f.class) {
+            return hostile ? new HostileVectors.Vec2(x, y, kind) : new SbVec2f(x, y);
+        }
+        if (t == SbColor.class) {
+            return hostile ? new HostileVectors.Color(x, y, z, kind) : new SbColor(x, y, z);
+        }
+        if (hostile) {
+            return kind == 3 ? new HostileVectors.Vec3Ints(x, y, z) : new HostileVectors.Vec3(x, y, z, kind);
+        }
+        return new SbVec3f(x, y, z);
+    }
+
     private float coordinate(Ctx ctx) {
-        return ctx.wellFormed ? rnd.nextInt(41) / 8f - 1f : nextFloat();
+        return ctx.wellFormed ? rnd.nextInt(41) / 8f - 1f : nextFloat(ctx);
     }
 
     /** An array that fits the counts of the call or of the receiving mesh. */
@@ -1067,11 +1794,10 @@ public final class Misuse {
             }
             return a;
         }
-        if (component == SbVec3f.class || component == SbVec2f.class) {
+        if (component == SbVec3f.class || component == SbVec2f.class || component == SbColor.class) {
             Object[] a = (Object[]) java.lang.reflect.Array.newInstance(component, clampLength(length));
             for (int i = 0; i < a.length; i++) {
-                a[i] = component == SbVec3f.class ? new SbVec3f(coordinate(ctx), coordinate(ctx), coordinate(ctx))
-                        : new SbVec2f(coordinate(ctx), coordinate(ctx));
+                a[i] = vector(component, ctx);
             }
             return a;
         }
@@ -1130,12 +1856,11 @@ public final class Misuse {
             }
             return a;
         }
-        if (component == SbVec3f.class || component == SbVec2f.class) {
+        if (component == SbVec3f.class || component == SbVec2f.class || component == SbColor.class) {
             Object[] a = (Object[]) java.lang.reflect.Array.newInstance(component, length);
             for (int i = 0; i < length; i++) {
                 if (rnd.nextInt(20) != 0) {
-                    a[i] = component == SbVec3f.class ? new SbVec3f(nextFloat(), nextFloat(), nextFloat())
-                            : new SbVec2f(nextFloat(), nextFloat());
+                    a[i] = vector(component, ctx);
                 }
             }
             return a;
@@ -1203,6 +1928,19 @@ public final class Misuse {
             return rnd.nextBoolean() ? Integer.MAX_VALUE : Integer.MIN_VALUE;
         }
         return rnd.nextInt(130) - 65;
+    }
+
+    /**
+     * A hostile float of a call: one in six times one the call already has (equal ends, a span of
+     * zero far from the origin), else any.
+     */
+    private float nextFloat(Ctx ctx) {
+        if (!ctx.floats.isEmpty() && rnd.nextInt(6) == 0) {
+            return ctx.floats.get(rnd.nextInt(ctx.floats.size()));
+        }
+        float f = nextFloat();
+        ctx.floats.add(f);
+        return f;
     }
 
     private float nextFloat() {

@@ -27,6 +27,8 @@ public final class MisuseRuns {
     private static final Pattern SANITIZER = Pattern.compile(
             "ERROR: AddressSanitizer|ERROR: LeakSanitizer|runtime error: |UndefinedBehaviorSanitizer");
     private static final Pattern SUMMARY = Pattern.compile("misuse seed -?\\d+: (\\d+) calls");
+    private static final Pattern UNCLEAR_COUNT = Pattern.compile("misuse unclear exceptions: (\\d+)");
+    private static final String JNI_WARNING = "WARNING in native method";
     private static final int LAST_CALLS = 40;
 
     private MisuseRuns() {}
@@ -56,6 +58,9 @@ public final class MisuseRuns {
             if (result.jniWarning()) {
                 return "JNI warning";
             }
+            if (result.output().contains(Coverage.UNCLEAR)) {
+                return "unclear exception";
+            }
             return failed() ? "exit code " + result.exitCode() : "ok";
         }
 
@@ -68,12 +73,28 @@ public final class MisuseRuns {
             return (int) logLines().stream().filter(MisuseRuns::isCall).count();
         }
 
+        /** The product classes and methods with a successful call in this child. */
+        java.util.Set<String> reachedClasses() {
+            return Coverage.read(result.workDir().resolve(Coverage.FILE), "C ");
+        }
+
+        java.util.Set<String> reachedMethods() {
+            return Coverage.read(result.workDir().resolve(Coverage.FILE), "M ");
+        }
+
+        /** Exceptions without a clear message that the child saw (from its summary). */
+        int unclearExceptions() {
+            Matcher m = UNCLEAR_COUNT.matcher(result.output());
+            return m.find() ? Integer.parseInt(m.group(1)) : 0;
+        }
+
+        /** JNI warnings printed by the child. */
+        int jniWarnings() {
+            return result.output().split(JNI_WARNING, -1).length - 1;
+        }
+
         List<String> logLines() {
-            try {
-                return Files.exists(log()) ? Files.readAllLines(log(), StandardCharsets.UTF_8) : List.of();
-            } catch (IOException e) {
-                throw new UncheckedIOException(e);
-            }
+            return readLines(log());
         }
 
         /** The seed, how to repeat the run, its last calls, the JVM's error file and output. */
@@ -86,6 +107,17 @@ public final class MisuseRuns {
             b.append("call log ").append(log()).append(", last lines:\n");
             for (String line : lines.subList(Math.max(0, lines.size() - LAST_CALLS), lines.size())) {
                 b.append("  ").append(line).append('\n');
+            }
+            for (String lane : List.of("calls-lane-0.log", "calls-lane-1.log")) {
+                Path file = result.workDir().resolve(lane);
+                if (Files.exists(file)) {
+                    List<String> laneLines = readLines(file);
+                    b.append("lane log ").append(file).append(", last lines:\n");
+                    for (String line : laneLines.subList(Math.max(0, laneLines.size() - LAST_CALLS / 2),
+                            laneLines.size())) {
+                        b.append("  ").append(line).append('\n');
+                    }
+                }
             }
             Path err = result.errorFile();
             if (err != null) {
@@ -106,6 +138,44 @@ public final class MisuseRuns {
         } catch (InterruptedException e) {
             Thread.currentThread().interrupt();
             throw new IllegalStateException(e);
+        }
+    }
+
+    private static List<String> readLines(Path file) {
+        try {
+            return Files.exists(file) ? Files.readAllLines(file, StandardCharsets.UTF_8) : List.of();
+        } catch (IOException e) {
+            throw new UncheckedIOException(e);
+        }
+    }
+
+    /** What a set of children reached together, against the public classes the run must reach. */
+    record Reach(java.util.Set<String> classes, java.util.Set<String> methods, List<String> unreached) {
+        static Reach of(List<Outcome> outcomes) {
+            java.util.Set<String> classes = new java.util.TreeSet<>();
+            java.util.Set<String> methods = new java.util.TreeSet<>();
+            for (Outcome o : outcomes) {
+                classes.addAll(o.reachedClasses());
+                methods.addAll(o.reachedMethods());
+            }
+            List<String> unreached = new ArrayList<>();
+            java.util.Set<String> product = new java.util.TreeSet<>();
+            for (Class<?> c : new Surface().productClasses) {
+                product.add(c.getName());
+                if (!classes.contains(c.getName())) {
+                    unreached.add(c.getName());
+                }
+            }
+            classes.retainAll(product);
+            return new Reach(classes, methods, unreached);
+        }
+
+        String describe() {
+            return "reached " + classes.size() + " of " + (classes.size() + unreached.size()) + " public classes and "
+                    + methods.size() + " methods" + (unreached.isEmpty() ? ""
+                    : "; never reached (" + unreached.size() + "): " + String.join(", ",
+                            unreached.subList(0, Math.min(unreached.size(), 40)))
+                            + (unreached.size() > 40 ? ", ..." : ""));
         }
     }
 
@@ -142,7 +212,10 @@ public final class MisuseRuns {
         return b.toString();
     }
 
-    /** {@code make fuzz}: runs the calls in child JVMs in turn and prints the figures. */
+    /**
+     * {@code make fuzz}: runs the calls in child JVMs in turn and prints the figures; fails when a
+     * child failed or when a public class had no successful call in any child.
+     */
     public static void main(String[] args) {
         int calls = Integer.parseInt(args[0]);
         long seed = args.length > 1 && !args[1].isEmpty() ? Long.parseLong(args[1])
@@ -151,6 +224,7 @@ public final class MisuseRuns {
         long start = System.nanoTime();
         int made = 0;
         int children = 0;
+        List<Outcome> outcomes = new ArrayList<>();
         List<Outcome> failures = new ArrayList<>();
         System.out.println("misuse: " + calls + " calls, " + perChild + " per child JVM, seeds from " + seed);
         while (made < calls) {
@@ -158,6 +232,7 @@ public final class MisuseRuns {
             int n = Math.min(perChild, calls - made);
             long t0 = System.nanoTime();
             Outcome o = run(childSeed, n, 120 + n / 100);
+            outcomes.add(o);
             children++;
             made += Math.max(1, o.callsMade());
             System.out.printf("child JVM %d, seed %d: %d calls, %.1f s, %s%n", children, childSeed, o.callsMade(),
@@ -174,9 +249,15 @@ public final class MisuseRuns {
         long hangs = failures.stream().filter(o -> o.kind().equals("hang")).count();
         long sanitizer = failures.stream().filter(o -> o.kind().equals("sanitizer report")).count();
         long crashes = failures.stream().filter(o -> o.kind().equals("crash")).count();
-        System.out.printf("misuse: %d calls in %d child JVMs, %d crashes, %d sanitizer reports, %d hangs, "
-                + "%d other failures, %.0f s%n", made, children, crashes, sanitizer, hangs,
-                failures.size() - crashes - sanitizer - hangs, (System.nanoTime() - start) / 1e9);
-        System.exit(failures.isEmpty() ? 0 : 1);
+        int warnings = outcomes.stream().mapToInt(Outcome::jniWarnings).sum();
+        int unclear = outcomes.stream().mapToInt(Outcome::unclearExceptions).sum();
+        long other = failures.stream().filter(o -> !List.of("hang", "sanitizer report", "crash", "JNI warning",
+                "unclear exception").contains(o.kind())).count();
+        Reach reach = Reach.of(outcomes);
+        System.out.printf("misuse: %d calls in %d child JVMs, %d crashes, %d sanitizer reports, %d JNI warnings, "
+                + "%d hangs, %d unclear exceptions, %d other failures, %.0f s%n", made, children, crashes, sanitizer,
+                warnings, hangs, unclear, other, (System.nanoTime() - start) / 1e9);
+        System.out.println("misuse: " + reach.describe());
+        System.exit(failures.isEmpty() && reach.unreached().isEmpty() ? 0 : 1);
     }
 }

@@ -1,5 +1,10 @@
 package com.kestrum.tavrel.misuse;
 
+import com.kestrum.corvel.SbBox2f;
+import com.kestrum.corvel.SbBox3f;
+import com.kestrum.corvel.SbColor;
+import com.kestrum.corvel.SbVec2f;
+import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.SoInput;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
@@ -35,6 +40,7 @@ import java.nio.file.Path;
 import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.Comparator;
+import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Map;
 import java.util.TreeSet;
@@ -44,20 +50,20 @@ import java.util.stream.Collectors;
 
 /**
  * The public API the misuse run drives: every public class of the product's packages (found on
- * the class path, so a class joins when it lands), the binding core's classes that they take as
- * arguments, and this package's Java-extended nodes. Constructors and methods are sorted by
+ * the class path, so a class joins when it lands; all of {@code com.kestrum.tavrel} and below but
+ * the package {@code internal} and the argument checks {@code data.Checks}), the binding core's
+ * classes that they take as arguments, and this package's Java-extended nodes and elements. Constructors and methods are sorted by
  * signature, so that a seed always makes the same choices.
  */
 final class Surface {
-    /** The product's packages; every public class in them is driven. */
-    static final List<String> PACKAGES = List.of(
-            "com.kestrum.tavrel",
-            "com.kestrum.tavrel.data",
-            "com.kestrum.tavrel.nodes",
-            "com.kestrum.tavrel.misc.callbacks",
-            "com.kestrum.tavrel.graph",
-            "com.kestrum.tavrel.elements",
-            "com.kestrum.tavrel.internal");
+    /** The product's packages: every public class of these and of their subpackages is driven. */
+    static final String PRODUCT = "com.kestrum.tavrel";
+    /** Not part of the API: the binding's own package, public for the product's packages only. */
+    static final String INTERNAL = "com.kestrum.tavrel.internal";
+    /** The driver's own packages (tests), under the product's name. */
+    private static final List<String> TEST_PACKAGES = List.of("com.kestrum.tavrel.misuse.", "com.kestrum.tavrel.testkit.");
+    /** Public classes that are not API: the argument checks shared by the product's packages. */
+    private static final List<String> NOT_API = List.of("com.kestrum.tavrel.data.Checks");
 
     /** The binding core's classes that the product's methods take or return. */
     static final List<Class<?>> BINDING_CORE = List.of(
@@ -65,10 +71,16 @@ final class Surface {
             SoAction.class, SoCallbackAction.class, SoDistributeAction.class, SoGLRenderAction.class,
             SoGetBoundingBoxAction.class, SoGetMatrixAction.class, SoGetPrimitiveCountAction.class,
             SoHandleEventAction.class, SoPickAction.class, SoRayPickAction.class, SoSearchAction.class,
-            SoWriteAction.class);
+            SoWriteAction.class, SbVec2f.class, SbVec3f.class, SbColor.class, SbBox2f.class, SbBox3f.class);
 
     /** Java-extended nodes whose overrides misbehave (the product's node bases are abstract). */
-    static final List<Class<?>> EXTENSIONS = List.of(HostileNode.class, HostileFilter.class, HostileElement.class);
+    static final List<Class<?>> EXTENSIONS = extensions();
+
+    private static List<Class<?>> extensions() {
+        List<Class<?>> all = new ArrayList<>(List.of(HostileNode.class, HostileFilter.class));
+        all.addAll(HostileElements.ALL);
+        return List.copyOf(all);
+    }
 
     /**
      * What is deliberately never called, and why. Everything else public is.
@@ -104,12 +116,23 @@ final class Surface {
     }
 
     final List<Class<?>> classes;
+    /** The product's public classes, which the run must all reach. */
+    final List<Class<?>> productClasses;
     final List<Constructor<?>> constructors;
     final List<Method> staticMethods;
+    /** The constructors and static methods of each class, and the classes that have any. */
+    final Map<Class<?>, List<Constructor<?>>> constructorsByClass = new LinkedHashMap<>();
+    final Map<Class<?>, List<Method>> staticsByClass = new LinkedHashMap<>();
+    final List<Class<?>> constructible;
+    final List<Class<?>> withStatics;
     private final Map<Class<?>, List<Method>> instanceMethods = new ConcurrentHashMap<>();
+    private final Map<Class<?>, List<Executable>> acceptors = new ConcurrentHashMap<>();
 
     Surface() {
-        List<Class<?>> all = new ArrayList<>(discover());
+        List<Class<?>> product = new ArrayList<>(discover());
+        product.sort(Comparator.comparing(Class::getName));
+        productClasses = List.copyOf(product);
+        List<Class<?>> all = new ArrayList<>(product);
         all.addAll(BINDING_CORE);
         all.addAll(EXTENSIONS);
         all.sort(Comparator.comparing(Class::getName));
@@ -117,7 +140,7 @@ final class Surface {
         List<Constructor<?>> ctors = new ArrayList<>();
         List<Method> statics = new ArrayList<>();
         for (Class<?> c : classes) {
-            if (NativeObject.class.isAssignableFrom(c) && !Modifier.isAbstract(c.getModifiers())) {
+            if (!Modifier.isAbstract(c.getModifiers()) && !c.isEnum()) {
                 for (Constructor<?> k : c.getConstructors()) {
                     if (!excluded(k)) {
                         ctors.add(k);
@@ -125,7 +148,8 @@ final class Surface {
                 }
             }
             for (Method m : c.getDeclaredMethods()) {
-                if (Modifier.isStatic(m.getModifiers()) && Modifier.isPublic(m.getModifiers()) && !excluded(m)) {
+                if (Modifier.isStatic(m.getModifiers()) && Modifier.isPublic(m.getModifiers()) && !m.isSynthetic()
+                        && !excluded(m)) {
                     statics.add(m);
                 }
             }
@@ -134,6 +158,58 @@ final class Surface {
         statics.sort(Comparator.comparing(Method::toGenericString));
         constructors = List.copyOf(ctors);
         staticMethods = List.copyOf(statics);
+        for (Constructor<?> k : constructors) {
+            constructorsByClass.computeIfAbsent(k.getDeclaringClass(), x -> new ArrayList<>()).add(k);
+        }
+        for (Method m : staticMethods) {
+            staticsByClass.computeIfAbsent(m.getDeclaringClass(), x -> new ArrayList<>()).add(m);
+        }
+        constructible = List.copyOf(constructorsByClass.keySet());
+        withStatics = List.copyOf(staticsByClass.keySet());
+    }
+
+    /** A product class name that the run must reach (not internal, not a test class, not Checks). */
+    static boolean isProductClassName(String name) {
+        String outer = name.contains("$") ? name.substring(0, name.indexOf('$')) : name;
+        return name.startsWith(PRODUCT + ".") && !name.startsWith(INTERNAL + ".") && !isTestClassName(name)
+                && !NOT_API.contains(outer);
+    }
+
+    /** A frame of the product's or the binding core's code (where an exception must be deliberate). */
+    static boolean isProductFrame(String className) {
+        return className.startsWith("com.kestrum.") && !isTestClassName(className);
+    }
+
+    private static boolean isTestClassName(String name) {
+        return TEST_PACKAGES.stream().anyMatch(name::startsWith);
+    }
+
+    /**
+     * The constructors, static methods and instance methods of the driven classes that take an
+     * object of the class as one of their arguments (other than as a plain {@code Object}).
+     */
+    List<Executable> acceptorsOf(Class<?> type) {
+        return acceptors.computeIfAbsent(type, t -> {
+            List<Executable> out = new ArrayList<>();
+            List<Executable> candidates = new ArrayList<>(constructors);
+            candidates.addAll(staticMethods);
+            for (Class<?> c : classes) {
+                for (Method m : methodsOf(c)) {
+                    if (m.getDeclaringClass() == c) {
+                        candidates.add(m);
+                    }
+                }
+            }
+            for (Executable e : candidates) {
+                for (Class<?> p : e.getParameterTypes()) {
+                    if (p != Object.class && p.isAssignableFrom(t)) {
+                        out.add(e);
+                        break;
+                    }
+                }
+            }
+            return List.copyOf(out);
+        });
     }
 
     /** The public instance methods of a receiver's class, sorted. */
@@ -170,7 +246,7 @@ final class Surface {
         for (String name : names) {
             try {
                 Class<?> c = Class.forName(name, false, Surface.class.getClassLoader());
-                if (Modifier.isPublic(c.getModifiers()) && !c.isSynthetic() && !c.isAnonymousClass()) {
+                if (isPublicApi(c)) {
                     found.add(c);
                 }
             } catch (ClassNotFoundException e) {
@@ -183,14 +259,25 @@ final class Surface {
         return found;
     }
 
+    /** Public, and reachable by name: every class enclosing it public too. */
+    private static boolean isPublicApi(Class<?> c) {
+        if (c.isSynthetic() || c.isAnonymousClass() || c.isLocalClass()) {
+            return false;
+        }
+        for (Class<?> k = c; k != null; k = k.getEnclosingClass()) {
+            if (!Modifier.isPublic(k.getModifiers())) {
+                return false;
+            }
+        }
+        return true;
+    }
+
     private static void addClassName(TreeSet<String> names, String path) {
         if (!path.endsWith(".class")) {
             return;
         }
         String name = path.substring(0, path.length() - ".class".length()).replace('/', '.').replace('\\', '.');
-        int dot = name.lastIndexOf('.');
-        String pkg = dot < 0 ? "" : name.substring(0, dot);
-        if (PACKAGES.contains(pkg)) {
+        if (isProductClassName(name)) {
             names.add(name);
         }
     }
