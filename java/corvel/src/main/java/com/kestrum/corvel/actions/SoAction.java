@@ -7,6 +7,7 @@ import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
+import java.util.function.LongFunction;
 
 /**
  * A traversal of a scene graph. Applying an action to a node calls the node's operation of the
@@ -15,12 +16,32 @@ import com.kestrum.corvel.nodes.SoNode;
  *
  * <p>An action made in Java is owned by its Java object and freed when it is disposed; while it
  * lives, nodes that the action traverses receive this very Java object. Actions made by the
- * toolkit reach Java as views that do not own them.
+ * toolkit, and an action whose Java object has been disposed during its own traversal, reach
+ * Java as views that do not own them; a view handed out during a traversal stops working
+ * ({@link IllegalStateException}) when that traversal's apply returns.
  */
 public class SoAction extends NativeObject {
     static {
         CorvelNative.ensureLoaded();
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoAction", SoAction::new);
+        registerViews("com.kestrum.corvel.actions.SoAction", SoAction::new);
+    }
+
+    /**
+     * Registers the views of an action class: the Java objects of native actions that the
+     * toolkit hands to Java without a live Java object registered for them (the action of a
+     * traversal whose own Java object an override has disposed, an action the toolkit made). A
+     * view made during a traversal stops working when the traversal's apply returns
+     * ({@link Traversals#own}), since the action may be freed then; one made outside a traversal
+     * stays usable.
+     *
+     * @param dottedClassName the class's name
+     * @param make makes a view of the action at an address
+     */
+    static void registerViews(String dottedClassName, LongFunction<? extends SoAction> make) {
+        ManagedObjects.registerWrapper(dottedClassName, address -> {
+            SoAction view = make.apply(address);
+            return Traversals.isActive() ? Traversals.own(view) : view;
+        });
     }
 
     /**

@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Traverses the scene graph and calls back at each node. */
 public class SoCallbackAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoCallbackAction", SoCallbackAction::new);
+        registerViews("com.kestrum.corvel.actions.SoCallbackAction", SoCallbackAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Distributes a scene graph. */
 public class SoDistributeAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoDistributeAction", SoDistributeAction::new);
+        registerViews("com.kestrum.corvel.actions.SoDistributeAction", SoDistributeAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -1,7 +1,6 @@
 package com.kestrum.corvel.actions;
 
 import com.kestrum.corvel.misc.Arguments;
-import com.kestrum.corvel.misc.ManagedObjects;
 import java.io.IOException;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
@@ -14,7 +13,7 @@ import java.nio.file.Path;
  */
 public class SoGLRenderAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGLRenderAction", SoGLRenderAction::new);
+        registerViews("com.kestrum.corvel.actions.SoGLRenderAction", SoGLRenderAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Computes the bounding box of a scene graph. */
 public class SoGetBoundingBoxAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGetBoundingBoxAction", SoGetBoundingBoxAction::new);
+        registerViews("com.kestrum.corvel.actions.SoGetBoundingBoxAction", SoGetBoundingBoxAction::new);
     }
 
     /** A new action, owned by this object. */

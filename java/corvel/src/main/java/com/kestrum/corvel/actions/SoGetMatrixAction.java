@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Computes the transformation matrix of a node. */
 public class SoGetMatrixAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGetMatrixAction", SoGetMatrixAction::new);
+        registerViews("com.kestrum.corvel.actions.SoGetMatrixAction", SoGetMatrixAction::new);
     }
 
     /** A new action, owned by this object. */

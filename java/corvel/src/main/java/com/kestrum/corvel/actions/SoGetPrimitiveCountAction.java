@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Counts the primitives of a scene graph. */
 public class SoGetPrimitiveCountAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoGetPrimitiveCountAction", SoGetPrimitiveCountAction::new);
+        registerViews("com.kestrum.corvel.actions.SoGetPrimitiveCountAction", SoGetPrimitiveCountAction::new);
     }
 
     /** A new action, owned by this object. */

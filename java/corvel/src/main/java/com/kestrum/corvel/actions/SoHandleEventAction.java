@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Hands an event to the nodes of a scene graph. */
 public class SoHandleEventAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoHandleEventAction", SoHandleEventAction::new);
+        registerViews("com.kestrum.corvel.actions.SoHandleEventAction", SoHandleEventAction::new);
     }
 
     /** A new action, owned by this object. */

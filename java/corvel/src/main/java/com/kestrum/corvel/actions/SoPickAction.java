@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Base of the picking actions. */
 public class SoPickAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoPickAction", SoPickAction::new);
+        registerViews("com.kestrum.corvel.actions.SoPickAction", SoPickAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Picks along a ray. */
 public class SoRayPickAction extends SoPickAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoRayPickAction", SoRayPickAction::new);
+        registerViews("com.kestrum.corvel.actions.SoRayPickAction", SoRayPickAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Searches a scene graph. */
 public class SoSearchAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoSearchAction", SoSearchAction::new);
+        registerViews("com.kestrum.corvel.actions.SoSearchAction", SoSearchAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -1,11 +1,10 @@
 package com.kestrum.corvel.actions;
 
-import com.kestrum.corvel.misc.ManagedObjects;
 
 /** Writes a scene graph as text. */
 public class SoWriteAction extends SoAction {
     static {
-        ManagedObjects.registerWrapper("com.kestrum.corvel.actions.SoWriteAction", SoWriteAction::new);
+        registerViews("com.kestrum.corvel.actions.SoWriteAction", SoWriteAction::new);
     }
 
     /** A new action, owned by this object. */

@@ -3,7 +3,14 @@ package com.kestrum.tavrel.misuse;
 import static org.junit.jupiter.api.Assertions.assertFalse;
 import static org.junit.jupiter.api.Assertions.assertTrue;
 
+import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
+import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.corvel.misc.SoState;
+import com.kestrum.corvel.nodes.SoGroup;
+import com.kestrum.corvel.nodes.SoSeparator;
+import com.kestrum.tavrel.elements.PoDomainElement;
+import com.kestrum.tavrel.nodes.PoDomain;
 import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.PbCell;
@@ -49,7 +56,20 @@ class MisuseRegressionTest {
         PROBE_MESH_CHANGED_BY_AN_EARLIER_EVENT("enter: cell 0 .*\\Rchange: no cell\\Rmotion: no cell\\R"),
         /** The enter-mesh listener gives the probe another mesh: the events that follow carry no cell. */
         PROBE_MESH_REPLACED_BY_AN_EARLIER_EVENT("enter: cell 0 .*\\Rchange: no cell\\Rmotion: no cell\\R"
-                + "cell kept from the enter event: refused\\R");
+                + "cell kept from the enter event: refused\\R"),
+        /**
+         * A node disposes the action that traverses it; a later node of the same traversal is
+         * handed a view of the still-live native action and keeps it past the apply, which frees
+         * the action: the kept view stops working.
+         */
+        ACTION_VIEW_KEPT_PAST_ITS_APPLY("kept action: view, refused\\R"),
+        /**
+         * A node has part of the traversal run on another thread (waiting for it, so that the
+         * calls are serialised); the state makes an element of a Java class there. The element
+         * belongs to the state, not to its Java object, which neither frees it nor outlives the
+         * traversal.
+         */
+        ELEMENT_MADE_BY_A_STATE_ON_ANOTHER_THREAD("element made on the other thread: disposed true\\R");
 
         final Pattern expected;
 
@@ -81,6 +101,12 @@ class MisuseRegressionTest {
                 break;
             case PROBE_MESH_REPLACED_BY_AN_EARLIER_EVENT:
                 probeMeshChangedByAnEarlierEvent(true);
+                break;
+            case ACTION_VIEW_KEPT_PAST_ITS_APPLY:
+                actionViewKeptPastItsApply();
+                break;
+            case ELEMENT_MADE_BY_A_STATE_ON_ANOTHER_THREAD:
+                elementMadeByAStateOnAnotherThread();
                 break;
         }
         System.out.println(DONE);
@@ -149,6 +175,74 @@ class MisuseRegressionTest {
         }
         if (replaceMesh) {
             System.out.println("cell kept from the enter event: " + attempt("", () -> kept[0].getVolume()));
+        }
+    }
+
+    private static void actionViewKeptPastItsApply() {
+        SoGLRenderAction[] kept = new SoGLRenderAction[1];
+        SoGroup root = new SoGroup();
+        root.addChild(new RenderHook(a -> a.dispose()));
+        root.addChild(new RenderHook(a -> kept[0] = a));
+        SoGLRenderAction render = new SoGLRenderAction();
+        render.apply(root);
+        System.out.println("kept action: " + (kept[0] == render ? "the applied one" : "view") + ", "
+                + attempt("", () -> kept[0].apply(root)));
+    }
+
+    private static void elementMadeByAStateOnAnotherThread() {
+        try (KeptDomain registered = new KeptDomain()) {
+            SoAction.enableElement(registered.getTypeName(), registered.getStackIndex());
+        }
+        SoSeparator inner = new SoSeparator();
+        inner.addChild(new PoDomain());
+        SoGroup root = new SoGroup();
+        root.addChild(new RenderHook(a -> {
+            Thread other = new Thread(() -> inner.GLRender(a));
+            other.start();
+            try {
+                other.join();
+            } catch (InterruptedException e) {
+                throw new IllegalStateException(e);
+            }
+        }));
+        try (SoGLRenderAction render = new SoGLRenderAction()) {
+            render.apply(root);
+        } finally {
+            SoAction.enableElement(PoDomainElement.getClassTypeName(), PoDomainElement.getClassStackIndex());
+        }
+        boolean disposed = KeptDomain.kept.isDisposed();
+        KeptDomain.kept = null;
+        for (int i = 0; i < 5; i++) {  // a Java object that owned the freed element would free it again
+            System.gc();
+            System.runFinalization();
+        }
+        System.out.println("element made on the other thread: disposed " + disposed);
+    }
+
+    /** A Java node that hands the render action to a hook. */
+    static final class RenderHook extends PoNode {
+        private final java.util.function.Consumer<SoGLRenderAction> hook;
+
+        RenderHook(java.util.function.Consumer<SoGLRenderAction> hook) {
+            super("RenderHook");
+            this.hook = hook;
+        }
+
+        @Override
+        public void GLRender(SoGLRenderAction action) {
+            hook.accept(action);
+        }
+    }
+
+    /** Keeps the last element of its class that a state pushed. */
+    public static final class KeptDomain extends PoDomainElement {
+        static volatile KeptDomain kept;
+
+        public KeptDomain() {}
+
+        @Override
+        public void push(SoState state) {
+            kept = this;
         }
     }
 
