@@ -3,11 +3,9 @@ package com.kestrum.tavrel.elements;
 import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
-import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 import java.util.concurrent.atomic.AtomicBoolean;
 
 /**
@@ -82,25 +80,33 @@ public abstract class PoMiscTextAttrElement extends SoReplacedElement {
      * @param textAttributes the value, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, PbMiscTextAttr textAttributes) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long v = handleOrZero(textAttributes, "textAttributes");
-        Traversals.hold(textAttributes, "textAttributes");
-        setImpl(s, n, v);
+        ElementCalls.set(state, node, textAttributes, "textAttributes", PoMiscTextAttrElement::setImpl);
     }
 
     /**
      * The text attributes of the traversal.
      *
+     * <p>An object set from Java comes back as the Java object given. One that a property node
+     * set lives in that node: it comes back as a view that works until the traversal ends, and
+     * the node is kept alive until then, whatever becomes of its Java object or of the element;
+     * after the traversal the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}.
+     *
      * @param state the traversal state
      * @return the value last set, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static PbMiscTextAttr get(SoState state) {
-        return JavaViews.find(PbMiscTextAttr.class, getImpl(handleOf(state, "state")), null);
+        return ElementCalls.valueOf(PbMiscTextAttr.class, state, PoMiscTextAttrElement::getImpl);
     }
 
     /**
@@ -112,7 +118,7 @@ public abstract class PoMiscTextAttrElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoMiscTextAttrElement::initImpl);
     }
 
     private static native long ctorImpl();
@@ -130,5 +136,5 @@ public abstract class PoMiscTextAttrElement extends SoReplacedElement {
 
     private static native void setImpl(long state, long node, long value);
 
-    private static native long getImpl(long state);
+    private static native long getImpl(long state, long[] node);
 }
