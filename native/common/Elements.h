@@ -28,6 +28,7 @@
 #include <Tavrel/PoLabelHintsElement.h>
 #include <Tavrel/PoProfileElement.h>
 
+#include <atomic>
 #include <cstring>
 
 namespace tavrel {
@@ -88,11 +89,16 @@ inline void setLabelHints(JNIEnv* env, SoState* state, SoNode* node, jint labelP
                            toFlag(second));
 }
 
-// The stack index of the toolkit element class (fixed once the class is
-// registered, which the element classes' static initialisers do), asked once.
+// The stack index of the toolkit element class: fixed once the class is
+// registered (its get has run by then), so asked until it is known.
 template <class Element>
 inline int classStackIndex() {
-  static const int index = Element::getClassStackIndex();
+  static std::atomic<int> known{-1};
+  int index = known.load(std::memory_order_relaxed);
+  if (index < 0) {
+    index = Element::getClassStackIndex();
+    known.store(index, std::memory_order_relaxed);
+  }
   return index;
 }
 
