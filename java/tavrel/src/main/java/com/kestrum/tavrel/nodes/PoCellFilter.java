@@ -69,12 +69,12 @@ public abstract class PoCellFilter extends PoNode {
 
     @Override
     public void doAction(SoAction action) {
-        callWith(action, "action", this::doActionImpl);
+        traverse(action, this::doActionImpl);
     }
 
     @Override
     public void write(SoWriteAction action) {
-        writeImpl(handle(), handleOf(action, "action"));
+        traverse(action, this::writeImpl);
     }
 
     private static native long ctorImpl();
