@@ -9,12 +9,13 @@
 // pending, so after such a call a method checks for one before any further JNI
 // call (javaFailed) and, when there is one, returns at once with 0 or null,
 // writing no output: only the releases of what it converted before the call
-// follow, which JNI allows with an exception pending.
+// follow, which JNI allows with an exception pending. A getter whose only JNI
+// step is the toolkit call returns the toolkit's result as it is: Java throws
+// the pending exception and never sees the result.
 #pragma once
 
 #include <jni.h>
 
-#include <Corvel/SoReplacedElement.h>
 #include <Corvel/SoState.h>
 #include <CorvelJNI/ArrayHelper.h>
 #include <CorvelJNI/ICustomClass.h>
@@ -28,7 +29,6 @@
 #include <Tavrel/PoLabelHintsElement.h>
 #include <Tavrel/PoProfileElement.h>
 
-#include <atomic>
 #include <cstring>
 
 namespace tavrel {
@@ -87,36 +87,6 @@ inline void setLabelHints(JNIEnv* env, SoState* state, SoNode* node, jint labelP
   PoLabelHintsElement::set(state, node, toEnum<PoLabelHints::LabelPath>(labelPath),
                            toEnum<PoLabelHints::Justification>(justification), utf.toUTFString(), toFlag(first),
                            toFlag(second));
-}
-
-// The stack index of the toolkit element class: fixed once the class is
-// registered (its get has run by then), so asked until it is known.
-template <class Element>
-inline int classStackIndex() {
-  static std::atomic<int> known{-1};
-  int index = known.load(std::memory_order_relaxed);
-  if (index < 0) {
-    index = Element::getClassStackIndex();
-    known.store(index, std::memory_order_relaxed);
-  }
-  return index;
-}
-
-// get(state) of an element whose value lives in the node that set it (a
-// property node's attribute object, a mesh node's mesh): the value's address,
-// and the address of the node that the top element names (0 for none) in
-// element 0 of the output array, so that Java can hold that node while it
-// uses the value. Nothing is written when a Java exception is pending.
-template <class Element, class Value>
-inline jlong valueAndNode(JNIEnv* env, SoState* state, jlongArray node, const Value* (*get)(SoState*)) {
-  const Value* value = get(state);
-  if (javaFailed(env)) return 0;
-  // The top element is there now (get made it); every element of the stack is
-  // a replaced element of the class (or of a Java class derived from it).
-  const SoElement* top = state->getConstElement(classStackIndex<Element>());
-  const jlong named = toHandle(top != nullptr ? static_cast<const SoReplacedElement*>(top)->getNode() : nullptr);
-  env->SetLongArrayRegion(node, 0, 1, &named);
-  return toHandle(value);
 }
 
 // The profile's bounding box: its four floats, in memory order, into elements

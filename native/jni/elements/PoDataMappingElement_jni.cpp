@@ -42,8 +42,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoDataMappingElement_set
   PoDataMappingElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbDataMapping>(value));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoDataMappingElement_getImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoDataMappingElement>(env, tavrel::fromHandle<SoState>(state), node, &PoDataMappingElement::get);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoDataMappingElement_getImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoDataMappingElement::get(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

@@ -42,8 +42,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoDateFormatMappingEleme
   PoDateFormatMappingElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbDateFormatMapping>(value));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoDateFormatMappingElement_getImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoDateFormatMappingElement>(env, tavrel::fromHandle<SoState>(state), node, &PoDateFormatMappingElement::get);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoDateFormatMappingElement_getImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoDateFormatMappingElement::get(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

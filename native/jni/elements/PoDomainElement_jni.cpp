@@ -42,8 +42,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoDomainElement_setImpl(
   PoDomainElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbDomain>(value));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoDomainElement_getImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoDomainElement>(env, tavrel::fromHandle<SoState>(state), node, &PoDomainElement::get);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoDomainElement_getImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoDomainElement::get(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

@@ -42,8 +42,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoIsovaluesListElement_s
   PoIsovaluesListElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbIsovaluesList>(value));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoIsovaluesListElement_getImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoIsovaluesListElement>(env, tavrel::fromHandle<SoState>(state), node, &PoIsovaluesListElement::get);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoIsovaluesListElement_getImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoIsovaluesListElement::get(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

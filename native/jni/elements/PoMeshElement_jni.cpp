@@ -53,20 +53,20 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_setImpl2(J
   PoMeshElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbMesh3D>(mesh));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMeshImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoMeshElement>(env, tavrel::fromHandle<SoState>(state), node, &PoMeshElement::getMesh);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMeshImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoMeshElement::getMesh(tavrel::fromHandle<SoState>(state)));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMesh1DImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoMeshElement>(env, tavrel::fromHandle<SoState>(state), node, &PoMeshElement::getMesh1D);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMesh1DImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoMeshElement::getMesh1D(tavrel::fromHandle<SoState>(state)));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMesh2DImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoMeshElement>(env, tavrel::fromHandle<SoState>(state), node, &PoMeshElement::getMesh2D);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMesh2DImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoMeshElement::getMesh2D(tavrel::fromHandle<SoState>(state)));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMesh3DImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoMeshElement>(env, tavrel::fromHandle<SoState>(state), node, &PoMeshElement::getMesh3D);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMeshElement_getMesh3DImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoMeshElement::getMesh3D(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

@@ -42,8 +42,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoMiscTextAttrElement_se
   PoMiscTextAttrElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbMiscTextAttr>(value));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMiscTextAttrElement_getImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoMiscTextAttrElement>(env, tavrel::fromHandle<SoState>(state), node, &PoMiscTextAttrElement::get);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoMiscTextAttrElement_getImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoMiscTextAttrElement::get(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

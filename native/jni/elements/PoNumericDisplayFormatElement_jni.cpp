@@ -42,8 +42,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_elements_PoNumericDisplayFormatEl
   PoNumericDisplayFormatElement::set(tavrel::fromHandle<SoState>(state), tavrel::fromHandle<SoNode>(node), tavrel::fromHandle<PbNumericDisplayFormat>(value));
 }
 
-JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoNumericDisplayFormatElement_getImpl(JNIEnv* env, jclass, jlong state, jlongArray node) {
-  return tavrel::elements::valueAndNode<PoNumericDisplayFormatElement>(env, tavrel::fromHandle<SoState>(state), node, &PoNumericDisplayFormatElement::get);
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_elements_PoNumericDisplayFormatElement_getImpl(JNIEnv*, jclass, jlong state) {
+  return tavrel::toHandle(PoNumericDisplayFormatElement::get(tavrel::fromHandle<SoState>(state)));
 }
 
 }  // extern "C"

@@ -8,6 +8,7 @@ import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.internal.JavaViews;
 import java.util.function.LongFunction;
+import java.util.function.LongUnaryOperator;
 
 /**
  * The shapes that the static methods of the thirteen element classes share.
@@ -19,11 +20,14 @@ import java.util.function.LongFunction;
  * until the traversal ends, as the state keeps only its address.
  *
  * <p>The values that live inside the node that set the element (a property node's attribute
- * object, a mesh node's mesh) come back as views tied to the traversal: disposed when it ends,
- * while that node is held until then, so that neither the node's Java object being disposed nor
- * the element being given another node frees the value under the view. A Java object already
- * registered for the value (one the caller made, a mesh node's own view of its mesh, a view
- * handed out earlier in the same traversal) is returned as it is.
+ * object, a mesh node's mesh) come back as views tied to the traversal, disposed when its apply
+ * returns. The node that set the element lives at least that long: a node of the scene being
+ * applied is referenced by the scene, whose root the apply holds, and a node traversed by a
+ * direct call ({@code node.callback(action)} from a Java node's override) is held by that call
+ * until the traversal ends. A live Java object already registered for the value (one given to a
+ * set, a mesh node's own view of its mesh, a view returned earlier in the traversal) is returned
+ * as it is. The tied views are refused by whatever keeps a mesh's address beyond the call (see
+ * {@code MeshViews.keepable}).
  *
  * <p>This class extends the element base only to reach the holds of {@link NativeObject}; it has
  * no objects.
@@ -37,15 +41,6 @@ abstract class ElementCalls extends SoReplacedElement {
     @FunctionalInterface
     interface SetCall {
         void call(long state, long node, long value);
-    }
-
-    /**
-     * A native get of a value that lives in a node: its address, and the address of the node
-     * that set it (0 for none) in element 0 of the array.
-     */
-    @FunctionalInterface
-    interface ValueCall {
-        long call(long state, long[] node);
     }
 
     /**
@@ -94,39 +89,29 @@ abstract class ElementCalls extends SoReplacedElement {
     }
 
     /**
-     * The value of an element that lives in the node that set it, as a view tied to the
-     * traversal (see the class); null for none.
+     * The value of an element that lives in the node that set it (see the class): the live Java
+     * object registered for its address, else a view disposed when the traversal ends; null for
+     * none.
+     *
+     * @param call the native get, given the state's handle, giving the value's address
      */
-    static <T extends NativeObject> T valueOf(Class<T> type, SoState state, ValueCall call) {
-        long[] node = new long[1];
-        long address = read(state, s -> call.call(s, node));
+    static <T extends NativeObject> T valueOf(Class<T> type, SoState state, LongUnaryOperator call) {
+        long s = enter(state, "state");
+        long address;
+        try {
+            address = call.applyAsLong(s);
+        } finally {
+            leave(state);
+        }
         if (address == 0) {
             return null;
         }
-        holdUntilTheTraversalEnds(node[0]);
         Object known = ManagedObjects.peerOf(address);
         if (type.isInstance(known) && !((NativeObject) known).isDisposed()) {
             return type.cast(known);
         }
         T made = JavaViews.find(type, address, null);
         return made == null ? null : Traversals.own(made);
-    }
-
-    /**
-     * Keeps the native node at the address (live now: the state's element references it) until
-     * the traversal ends: its registered Java object is held, or a new view of it (which takes a
-     * reference) is disposed then.
-     */
-    private static void holdUntilTheTraversalEnds(long node) {
-        if (node == 0) {
-            return;
-        }
-        SoNode owner = SoNode.of(node);
-        if (owner == ManagedObjects.peerOf(node)) {
-            Traversals.hold(owner, "node");
-        } else {
-            Traversals.own(owner);
-        }
     }
 
     private static long enterOrZero(NativeObject argument, String name) {

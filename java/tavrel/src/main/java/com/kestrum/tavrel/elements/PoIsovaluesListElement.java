@@ -91,11 +91,14 @@ public abstract class PoIsovaluesListElement extends SoReplacedElement {
     /**
      * The isovalue list of the traversal.
      *
-     * <p>An object set from Java comes back as the Java object given. One that a property node
-     * set lives in that node: it comes back as a view that works until the traversal ends, and
-     * the node is kept alive until then, whatever becomes of its Java object or of the element;
-     * after the traversal the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}.
+     * <p>An object that a live Java object stands for comes back as that object (one given to a
+     * set, a view returned earlier in the traversal). Any other (the attribute object of the
+     * property node that set the element, which lives in that node) comes back as a new view
+     * tied to the traversal: it works until the innermost {@code apply} in progress on the
+     * calling thread returns, and its node lives at least that long (the scene references it; a
+     * node traversed by a direct call is held until the traversal ends), whatever becomes of the
+     * node's Java object or of the element. After that the view's methods, and the calls given
+     * it, throw {@link IllegalStateException}.
      *
      * @param state the traversal state
      * @return the value last set, or null
@@ -136,5 +139,5 @@ public abstract class PoIsovaluesListElement extends SoReplacedElement {
 
     private static native void setImpl(long state, long node, long value);
 
-    private static native long getImpl(long state, long[] node);
+    private static native long getImpl(long state);
 }

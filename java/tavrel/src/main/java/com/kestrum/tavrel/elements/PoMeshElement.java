@@ -130,13 +130,18 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, whatever its dimension.
      *
-     * <p>A mesh that a Java object stands for already (one the caller made, a mesh node's own
-     * view from its {@code getMesh}) comes back as that object. Otherwise it comes back as a new
-     * view that works until the traversal ends; the node that set the element (a mesh node,
-     * whose mesh it is) is kept alive until then, whatever becomes of its Java object or of the
-     * element. After the traversal the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. To keep the mesh longer (or give it to a
-     * representation that outlives the traversal), take it from the mesh node ({@code getMesh}).
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
      *
      * @param state the traversal state
      * @return the mesh, or null
@@ -153,13 +158,18 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, when it was set as a 1D mesh.
      *
-     * <p>A mesh that a Java object stands for already (one the caller made, a mesh node's own
-     * view from its {@code getMesh}) comes back as that object. Otherwise it comes back as a new
-     * view that works until the traversal ends; the node that set the element (a mesh node,
-     * whose mesh it is) is kept alive until then, whatever becomes of its Java object or of the
-     * element. After the traversal the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. To keep the mesh longer (or give it to a
-     * representation that outlives the traversal), take it from the mesh node ({@code getMesh}).
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
      *
      * @param state the traversal state
      * @return the mesh, or null
@@ -176,13 +186,18 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, when it was set as a 2D mesh.
      *
-     * <p>A mesh that a Java object stands for already (one the caller made, a mesh node's own
-     * view from its {@code getMesh}) comes back as that object. Otherwise it comes back as a new
-     * view that works until the traversal ends; the node that set the element (a mesh node,
-     * whose mesh it is) is kept alive until then, whatever becomes of its Java object or of the
-     * element. After the traversal the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. To keep the mesh longer (or give it to a
-     * representation that outlives the traversal), take it from the mesh node ({@code getMesh}).
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
      *
      * @param state the traversal state
      * @return the mesh, or null
@@ -199,13 +214,18 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, when it was set as a 3D mesh.
      *
-     * <p>A mesh that a Java object stands for already (one the caller made, a mesh node's own
-     * view from its {@code getMesh}) comes back as that object. Otherwise it comes back as a new
-     * view that works until the traversal ends; the node that set the element (a mesh node,
-     * whose mesh it is) is kept alive until then, whatever becomes of its Java object or of the
-     * element. After the traversal the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. To keep the mesh longer (or give it to a
-     * representation that outlives the traversal), take it from the mesh node ({@code getMesh}).
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
      *
      * @param state the traversal state
      * @return the mesh, or null
@@ -250,11 +270,11 @@ public abstract class PoMeshElement extends SoReplacedElement {
 
     private static native void setImpl2(long state, long node, long mesh);
 
-    private static native long getMeshImpl(long state, long[] node);
+    private static native long getMeshImpl(long state);
 
-    private static native long getMesh1DImpl(long state, long[] node);
+    private static native long getMesh1DImpl(long state);
 
-    private static native long getMesh2DImpl(long state, long[] node);
+    private static native long getMesh2DImpl(long state);
 
-    private static native long getMesh3DImpl(long state, long[] node);
+    private static native long getMesh3DImpl(long state);
 }
