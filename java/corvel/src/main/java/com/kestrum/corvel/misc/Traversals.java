@@ -22,6 +22,12 @@ import java.util.Set;
  */
 public final class Traversals {
     private static final ThreadLocal<Deque<Scope>> SCOPES = ThreadLocal.withInitial(ArrayDeque::new);
+    /**
+     * The views tied to a scope of any thread, until their scope ends (a view may be handed to
+     * another thread meanwhile).
+     */
+    private static final Set<NativeObject> TIED = Collections.synchronizedSet(
+            Collections.newSetFromMap(new IdentityHashMap<>()));
 
     /** What one apply made and holds. */
     private static final class Scope {
@@ -51,6 +57,7 @@ public final class Traversals {
             return;
         }
         for (NativeObject view : scope.views) {
+            TIED.remove(view);
             view.dispose();
         }
         for (NativeObject object : scope.held) {
@@ -84,8 +91,21 @@ public final class Traversals {
             view.dispose();
         } else {
             scope.views.add(view);
+            TIED.add(view);
         }
         return view;
+    }
+
+    /**
+     * Whether the object is a view tied to a traversal that has not ended yet ({@link #own}), on
+     * any thread: it stops working when that traversal ends, so nothing that outlives the
+     * traversal may keep it.
+     *
+     * @param object the object, or null
+     * @return true for a view of a traversal in progress; false for null and for any other object
+     */
+    public static boolean isTiedToTraversal(NativeObject object) {
+        return object != null && TIED.contains(object);
     }
 
     /**
