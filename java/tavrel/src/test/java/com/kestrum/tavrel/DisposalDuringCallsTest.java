@@ -156,7 +156,8 @@ class DisposalDuringCallsTest {
         }
         assertTrue(filter.isDisposed());
         assertEquals(9, filter.asked);
-        assertEquals(2, inside[0], "the test's reference and the traversal state's");
+        assertEquals(3, inside[0], "the test's reference, the traversal state's and the Java object's, which the"
+                + " direct call inside the traversal holds until the traversal ends");
         assertEquals(1, Nodes.refCount(handle));
         Nodes.unref(handle);
     }

@@ -2,26 +2,39 @@ package com.kestrum.corvel.misc;
 
 import java.util.ArrayDeque;
 import java.util.ArrayList;
+import java.util.Collections;
 import java.util.Deque;
+import java.util.IdentityHashMap;
 import java.util.List;
+import java.util.Set;
 
 /**
  * The traversals in progress on the calling thread: one scope per {@code SoAction.apply} (an
  * apply inside another opens a scope inside the outer one). A traversal's state and the
  * elements it makes live only until its apply returns, so their Java views are tied to the
- * scope in which they were made and are disposed when it ends; objects that a traversal uses
- * by address (attribute objects and meshes given to an element) are held until it ends.
+ * scope in which they were made and are disposed when it ends. Objects that a traversal uses
+ * by address (attribute objects and meshes given to an element, nodes that a direct call
+ * inside the traversal lets set an element) are held until the outermost scope of the thread
+ * ends: an inner apply may end before the state that was given them.
  *
  * <p>A view made on a thread without a scope (the state of another thread's traversal, for
  * instance) is disposed at once: its methods throw {@link IllegalStateException}.
  */
 public final class Traversals {
     private static final ThreadLocal<Deque<Scope>> SCOPES = ThreadLocal.withInitial(ArrayDeque::new);
+    /**
+     * The views tied to a scope of any thread, until their scope ends (a view may be handed to
+     * another thread meanwhile).
+     */
+    private static final Set<NativeObject> TIED = Collections.synchronizedSet(
+            Collections.newSetFromMap(new IdentityHashMap<>()));
 
     /** What one apply made and holds. */
     private static final class Scope {
         final List<NativeObject> views = new ArrayList<>();
         final List<NativeObject> held = new ArrayList<>();
+        /** The objects held by {@link #holdWhileTraversing}, once each. */
+        final Set<NativeObject> traversed = Collections.newSetFromMap(new IdentityHashMap<>());
     }
 
     private Traversals() {}
@@ -44,9 +57,13 @@ public final class Traversals {
             return;
         }
         for (NativeObject view : scope.views) {
+            TIED.remove(view);
             view.dispose();
         }
         for (NativeObject object : scope.held) {
+            object.leave();
+        }
+        for (NativeObject object : scope.traversed) {
             object.leave();
         }
     }
@@ -76,13 +93,46 @@ public final class Traversals {
             view.dispose();
         } else {
             scope.views.add(view);
+            TIED.add(view);
         }
         return view;
     }
 
     /**
-     * Holds an object until the innermost scope ends, as a native call holds its arguments: its
-     * native object is not let go meanwhile, even if it is disposed. Does nothing for null.
+     * Whether the object is a view tied to a traversal that has not ended yet ({@link #own}), on
+     * any thread: it stops working when that traversal ends, so nothing that outlives the
+     * traversal may keep it.
+     *
+     * @param object the object, or null
+     * @return true for a view of a traversal in progress; false for null and for any other object
+     */
+    public static boolean isTiedToTraversal(NativeObject object) {
+        return object != null && TIED.contains(object);
+    }
+
+    /**
+     * Holds a node traversed by a direct call inside a traversal ({@code node.callback(action)}
+     * from a Java node's override) until the outermost scope of the calling thread ends: the node
+     * may set elements of the traversal's state by address, and the state references it only
+     * while its element names it. Holds each object once per scope; does nothing without a
+     * traversal in progress on the calling thread.
+     *
+     * @param object the object, live (held by the call that traverses it)
+     * @throws IllegalStateException when the object has been disposed
+     */
+    public static void holdWhileTraversing(NativeObject object) {
+        Scope outermost = SCOPES.get().peekLast();
+        if (outermost == null || outermost.traversed.contains(object)) {
+            return;
+        }
+        NativeObject.enter(object, "node");
+        outermost.traversed.add(object);
+    }
+
+    /**
+     * Holds an object until the outermost scope of the calling thread ends, as a native call
+     * holds its arguments: its native object is not let go meanwhile, even if it is disposed.
+     * Does nothing for null.
      *
      * @param object the object, or null
      * @param name the argument's name, for the exceptions
@@ -93,11 +143,11 @@ public final class Traversals {
         if (object == null) {
             return;
         }
-        Scope scope = SCOPES.get().peek();
-        if (scope == null) {
+        Scope outermost = SCOPES.get().peekLast();
+        if (outermost == null) {
             throw new IllegalStateException("No traversal is in progress on this thread");
         }
         NativeObject.enter(object, name);
-        scope.held.add(object);
+        outermost.held.add(object);
     }
 }

@@ -18,6 +18,7 @@ import com.kestrum.corvel.misc.Arguments;
 import com.kestrum.corvel.misc.CorvelNative;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.corvel.misc.Traversals;
 
 /**
  * A scene-graph node. The Java object holds one reference on its native node, taken when the
@@ -33,6 +34,12 @@ import com.kestrum.corvel.misc.NativeObject;
  * extends a toolkit node (see com.kestrum.tavrel.nodes.PoNode) overrides them: the toolkit then
  * calls the Java override, and the override's {@code super} call reaches the toolkit's
  * implementation, never the Java override again.
+ *
+ * <p>A node traversed by a direct call while a traversal is in progress on the calling thread
+ * ({@code node.callback(action)} from a Java node's override, say) is held until that traversal
+ * ends (its outermost {@code apply} returns): it may have set elements of the traversal's state,
+ * which keep its address and values that live in it, so disposing its Java object meanwhile lets
+ * its native object go only then.
  */
 public class SoNode extends NativeObject {
     static {
@@ -293,6 +300,24 @@ public class SoNode extends NativeObject {
     }
 
     /**
+     * Runs one of the node's traversal operations (those taking an action): holds the node and
+     * the action until it returns and, while a traversal is in progress on the calling thread,
+     * the node until that traversal ends (see the class). Subclasses that override an operation
+     * with a native call of their own go through here too.
+     *
+     * @param action the action that traverses the node
+     * @param call the native call, given the node's handle and the action's
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
+    protected final void traverse(SoAction action, HandleCall call) {
+        callWith(action, "action", (node, a) -> {
+            Traversals.holdWhileTraversing(this);
+            call.call(node, a);
+        });
+    }
+
+    /**
      * The node's part of a traversal by any action.
      *
      * @param action the action that traverses the node
@@ -300,7 +325,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void doAction(SoAction action) {
-        callWith(action, "action", SoNode::doActionNative);
+        traverse(action, SoNode::doActionNative);
     }
 
     /**
@@ -311,7 +336,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void GLRender(SoGLRenderAction action) {
-        callWith(action, "action", SoNode::GLRenderNative);
+        traverse(action, SoNode::GLRenderNative);
     }
 
     /**
@@ -322,7 +347,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void callback(SoCallbackAction action) {
-        callWith(action, "action", SoNode::callbackNative);
+        traverse(action, SoNode::callbackNative);
     }
 
     /**
@@ -333,7 +358,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void getBoundingBox(SoGetBoundingBoxAction action) {
-        callWith(action, "action", SoNode::getBoundingBoxNative);
+        traverse(action, SoNode::getBoundingBoxNative);
     }
 
     /**
@@ -344,7 +369,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void getMatrix(SoGetMatrixAction action) {
-        callWith(action, "action", SoNode::getMatrixNative);
+        traverse(action, SoNode::getMatrixNative);
     }
 
     /**
@@ -355,7 +380,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void handleEvent(SoHandleEventAction action) {
-        callWith(action, "action", SoNode::handleEventNative);
+        traverse(action, SoNode::handleEventNative);
     }
 
     /**
@@ -366,7 +391,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void pick(SoPickAction action) {
-        callWith(action, "action", SoNode::pickNative);
+        traverse(action, SoNode::pickNative);
     }
 
     /**
@@ -377,7 +402,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void rayPick(SoRayPickAction action) {
-        callWith(action, "action", SoNode::rayPickNative);
+        traverse(action, SoNode::rayPickNative);
     }
 
     /**
@@ -388,7 +413,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void search(SoSearchAction action) {
-        callWith(action, "action", SoNode::searchNative);
+        traverse(action, SoNode::searchNative);
     }
 
     /**
@@ -399,7 +424,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void write(SoWriteAction action) {
-        callWith(action, "action", SoNode::writeNative);
+        traverse(action, SoNode::writeNative);
     }
 
     /**
@@ -410,7 +435,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
-        callWith(action, "action", SoNode::getPrimitiveCountNative);
+        traverse(action, SoNode::getPrimitiveCountNative);
     }
 
     /**
@@ -421,7 +446,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void distribute(SoDistributeAction action) {
-        callWith(action, "action", SoNode::distributeNative);
+        traverse(action, SoNode::distributeNative);
     }
 
     /**
@@ -432,7 +457,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void GLRenderBelowPath(SoGLRenderAction action) {
-        callWith(action, "action", SoNode::GLRenderBelowPathNative);
+        traverse(action, SoNode::GLRenderBelowPathNative);
     }
 
     /**
@@ -443,7 +468,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void GLRenderInPath(SoGLRenderAction action) {
-        callWith(action, "action", SoNode::GLRenderInPathNative);
+        traverse(action, SoNode::GLRenderInPathNative);
     }
 
     /**
@@ -454,7 +479,7 @@ public class SoNode extends NativeObject {
      * @throws IllegalStateException when the node or the action has been disposed
      */
     public void GLRenderOffPath(SoGLRenderAction action) {
-        callWith(action, "action", SoNode::GLRenderOffPathNative);
+        traverse(action, SoNode::GLRenderOffPathNative);
     }
 
     /** Called by the toolkit when the node starts grabbing events. */

@@ -21,7 +21,12 @@ final class MeshUse<M extends PbMesh> {
         this.type = type;
     }
 
-    /** Sets the mesh (or null) with the native setter, which gets the mesh's address. */
+    /**
+     * Sets the mesh (or null) with the native setter, which gets the mesh's address.
+     *
+     * @throws IllegalArgumentException for a view tied to a traversal, before the native setter
+     *     runs ({@link MeshViews#keepable})
+     */
     void set(M mesh, Runnable setNative) {
         MeshViews.OwnerHold taken = MeshViews.holdOwnerOf(mesh);
         try {

@@ -13,9 +13,11 @@ public class PbTriangleCell extends PbCell {
      * A cell of the mesh that is not attached to any of its cells (it has no nodes).
      *
      * @param mesh the mesh the cell is made for
+     * @throws IllegalArgumentException when the mesh is a view of a traversal's state (its
+     *     element's mesh, valid only during the traversal)
      */
     public PbTriangleCell(PbMesh mesh) {
-        super(ctorImpl(handleOf(mesh, "mesh")));
+        super(ctorImpl(handleOf(MeshViews.keepable(mesh), "mesh")));
         MeshViews.holdWhileReachable(this, mesh);
     }
 

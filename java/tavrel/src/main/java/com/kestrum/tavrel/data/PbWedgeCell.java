@@ -14,9 +14,11 @@ public class PbWedgeCell extends PbCell {
      * A cell of the mesh that is not attached to any of its cells (it has no nodes).
      *
      * @param mesh the mesh the cell is made for
+     * @throws IllegalArgumentException when the mesh is a view of a traversal's state (its
+     *     element's mesh, valid only during the traversal)
      */
     public PbWedgeCell(PbMesh mesh) {
-        super(ctorImpl(handleOf(mesh, "mesh")));
+        super(ctorImpl(handleOf(MeshViews.keepable(mesh), "mesh")));
         MeshViews.holdWhileReachable(this, mesh);
     }
 

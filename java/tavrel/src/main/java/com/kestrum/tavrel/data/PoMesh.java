@@ -104,6 +104,8 @@ public abstract class PoMesh extends PoDessvane {
      * representation may draw it (see {@link #dispose}).
      *
      * @param mesh the mesh, or null for none
+     * @throws IllegalArgumentException when the mesh is a view of a traversal's state (its
+     *     element's mesh, valid only during the traversal)
      */
     public void setMesh(PbMesh mesh) {
         long h = handle();

@@ -52,6 +52,8 @@ public abstract class PoMesh2D extends PoMesh {
      * keeps the Java object as long as it is set.
      *
      * @param mesh the mesh, or null for none
+     * @throws IllegalArgumentException when the mesh is a view of a traversal's state (its
+     *     element's mesh, valid only during the traversal)
      */
     public void setMesh(PbMesh2D mesh) {
         long h = handle();

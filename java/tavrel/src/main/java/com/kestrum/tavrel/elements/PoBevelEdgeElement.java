@@ -81,9 +81,12 @@ public abstract class PoBevelEdgeElement extends SoReplacedElement {
      * @param radius the bevel's radius
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, boolean on, float angle, int radiusFlag, float radius) {
-        setImpl(handleOf(state, "state"), handleOrZero(node, "node"), on, angle, radiusFlag, radius);
+        ElementCalls.set(state, node, null, null, (s, n, v) -> setImpl(s, n, on, angle, radiusFlag, radius));
     }
 
     /**
@@ -95,7 +98,7 @@ public abstract class PoBevelEdgeElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoBevelEdgeElement::initImpl);
     }
 
     private static native long ctorImpl();

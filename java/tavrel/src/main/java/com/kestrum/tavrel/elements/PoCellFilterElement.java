@@ -77,21 +77,30 @@ public abstract class PoCellFilterElement extends SoReplacedElement {
      * @param node the cell filter, or null for none
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node) {
-        setImpl(handleOf(state, "state"), handleOrZero(node, "node"));
+        ElementCalls.set(state, node, null, null, (s, n, v) -> setImpl(s, n));
     }
 
     /**
      * The cell filter of the traversal.
      *
+     * <p>The node comes back as its Java object or as a new view, which takes a reference on the
+     * native node: it stays usable, and keeps the node alive, until it is disposed or collected.
+     *
      * @param state the traversal state
      * @return the filter node, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static SoNode get(SoState state) {
-        return SoNode.of(getImpl(handleOf(state, "state")));
+        return SoNode.of(ElementCalls.read(state, PoCellFilterElement::getImpl));
     }
 
     /**
@@ -103,7 +112,7 @@ public abstract class PoCellFilterElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoCellFilterElement::initImpl);
     }
 
     private static native long ctorImpl();

@@ -3,11 +3,9 @@ package com.kestrum.tavrel.elements;
 import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
-import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.graph.PbIsovaluesList;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 import java.util.concurrent.atomic.AtomicBoolean;
 
 /**
@@ -82,25 +80,36 @@ public abstract class PoIsovaluesListElement extends SoReplacedElement {
      * @param isovaluesList the value, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, PbIsovaluesList isovaluesList) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long v = handleOrZero(isovaluesList, "isovaluesList");
-        Traversals.hold(isovaluesList, "isovaluesList");
-        setImpl(s, n, v);
+        ElementCalls.set(state, node, isovaluesList, "isovaluesList", PoIsovaluesListElement::setImpl);
     }
 
     /**
      * The isovalue list of the traversal.
      *
+     * <p>An object that a live Java object stands for comes back as that object (one given to a
+     * set, a view returned earlier in the traversal). Any other (the attribute object of the
+     * property node that set the element, which lives in that node) comes back as a new view
+     * tied to the traversal: it works until the innermost {@code apply} in progress on the
+     * calling thread returns, and its node lives at least that long (the scene references it; a
+     * node traversed by a direct call is held until the traversal ends), whatever becomes of the
+     * node's Java object or of the element. After that the view's methods, and the calls given
+     * it, throw {@link IllegalStateException}.
+     *
      * @param state the traversal state
      * @return the value last set, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static PbIsovaluesList get(SoState state) {
-        return JavaViews.find(PbIsovaluesList.class, getImpl(handleOf(state, "state")), null);
+        return ElementCalls.valueOf(PbIsovaluesList.class, state, PoIsovaluesListElement::getImpl);
     }
 
     /**
@@ -112,7 +121,7 @@ public abstract class PoIsovaluesListElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoIsovaluesListElement::initImpl);
     }
 
     private static native long ctorImpl();

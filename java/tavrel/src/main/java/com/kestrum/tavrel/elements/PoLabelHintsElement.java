@@ -82,10 +82,14 @@ public abstract class PoLabelHintsElement extends SoReplacedElement {
      * @param second the second flag
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, int labelPath, int justification, String text, boolean first,
             boolean second) {
-        setImpl(handleOf(state, "state"), handleOrZero(node, "node"), labelPath, justification, text, first, second);
+        ElementCalls.set(state, node, null, null,
+                (s, n, v) -> setImpl(s, n, labelPath, justification, text, first, second));
     }
 
     /**
@@ -97,7 +101,7 @@ public abstract class PoLabelHintsElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoLabelHintsElement::initImpl);
     }
 
     private static native long ctorImpl();

@@ -3,7 +3,6 @@ package com.kestrum.tavrel.elements;
 import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
-import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.util.concurrent.atomic.AtomicBoolean;
@@ -80,25 +79,30 @@ public abstract class PoMesh1DFilterElement extends SoReplacedElement {
      * @param filter the value, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, SoNode filter) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long v = handleOrZero(filter, "filter");
-        Traversals.hold(filter, "filter");
-        setImpl(s, n, v);
+        ElementCalls.set(state, node, filter, "filter", PoMesh1DFilterElement::setImpl);
     }
 
     /**
      * The filter of 1D meshes (a filter node) of the traversal.
      *
+     * <p>The node comes back as its Java object or as a new view, which takes a reference on the
+     * native node: it stays usable, and keeps the node alive, until it is disposed or collected.
+     *
      * @param state the traversal state
      * @return the value last set, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static SoNode get(SoState state) {
-        return SoNode.of(getImpl(handleOf(state, "state")));
+        return SoNode.of(ElementCalls.read(state, PoMesh1DFilterElement::getImpl));
     }
 
     /**
@@ -119,7 +123,7 @@ public abstract class PoMesh1DFilterElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoMesh1DFilterElement::initImpl);
     }
 
     private static native long ctorImpl();

@@ -78,9 +78,12 @@ public abstract class PoMesh1DHintsElement extends SoReplacedElement {
      * @param interpretation the geometry interpretation (the toolkit's value)
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, int interpretation) {
-        setImpl(handleOf(state, "state"), handleOrZero(node, "node"), interpretation);
+        ElementCalls.set(state, node, null, null, (s, n, v) -> setImpl(s, n, interpretation));
     }
 
     /**
@@ -90,9 +93,12 @@ public abstract class PoMesh1DHintsElement extends SoReplacedElement {
      * @return the value last set, 0 (as is) by default
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static int get(SoState state) {
-        return getImpl(handleOf(state, "state"));
+        return ElementCalls.read(state, PoMesh1DHintsElement::getImpl);
     }
 
     /**
@@ -113,7 +119,7 @@ public abstract class PoMesh1DHintsElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoMesh1DHintsElement::initImpl);
     }
 
     private static native long ctorImpl();

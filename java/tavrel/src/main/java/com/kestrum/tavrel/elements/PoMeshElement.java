@@ -3,14 +3,12 @@ package com.kestrum.tavrel.elements;
 import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
-import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.data.PbMesh1D;
 import com.kestrum.tavrel.data.PbMesh2D;
 import com.kestrum.tavrel.data.PbMesh3D;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 import java.util.concurrent.atomic.AtomicBoolean;
 
 /**
@@ -85,13 +83,12 @@ public abstract class PoMeshElement extends SoReplacedElement {
      * @param mesh the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, PbMesh1D mesh) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long m = handleOrZero(mesh, "mesh");
-        Traversals.hold(mesh, "mesh");
-        setImpl(s, n, m);
+        ElementCalls.set(state, node, mesh, "mesh", PoMeshElement::setImpl);
     }
 
     /**
@@ -104,13 +101,12 @@ public abstract class PoMeshElement extends SoReplacedElement {
      * @param mesh the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, PbMesh2D mesh) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long m = handleOrZero(mesh, "mesh");
-        Traversals.hold(mesh, "mesh");
-        setImpl1(s, n, m);
+        ElementCalls.set(state, node, mesh, "mesh", PoMeshElement::setImpl1);
     }
 
     /**
@@ -123,61 +119,124 @@ public abstract class PoMeshElement extends SoReplacedElement {
      * @param mesh the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, PbMesh3D mesh) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long m = handleOrZero(mesh, "mesh");
-        Traversals.hold(mesh, "mesh");
-        setImpl2(s, n, m);
+        ElementCalls.set(state, node, mesh, "mesh", PoMeshElement::setImpl2);
     }
 
     /**
      * The mesh of the traversal, whatever its dimension.
      *
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
+     *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static PbMesh getMesh(SoState state) {
-        return JavaViews.find(PbMesh.class, getMeshImpl(handleOf(state, "state")), null);
+        return ElementCalls.valueOf(PbMesh.class, state, PoMeshElement::getMeshImpl);
     }
 
     /**
      * The mesh of the traversal, when it was set as a 1D mesh.
      *
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
+     *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static PbMesh1D getMesh1D(SoState state) {
-        return JavaViews.find(PbMesh1D.class, getMesh1DImpl(handleOf(state, "state")), null);
+        return ElementCalls.valueOf(PbMesh1D.class, state, PoMeshElement::getMesh1DImpl);
     }
 
     /**
      * The mesh of the traversal, when it was set as a 2D mesh.
      *
-     * @param state the traversal state
-     * @return the mesh, or null
-     * @throws NullPointerException when state is null
-     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     */
-    public static PbMesh2D getMesh2D(SoState state) {
-        return JavaViews.find(PbMesh2D.class, getMesh2DImpl(handleOf(state, "state")), null);
-    }
-
-    /**
-     * The mesh of the traversal, when it was set as a 3D mesh.
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
      *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
+     */
+    public static PbMesh2D getMesh2D(SoState state) {
+        return ElementCalls.valueOf(PbMesh2D.class, state, PoMeshElement::getMesh2DImpl);
+    }
+
+    /**
+     * The mesh of the traversal, when it was set as a 3D mesh.
+     *
+     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
+     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
+     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
+     * element, which lives in that node) comes back as a new view tied to the traversal: it works
+     * until the innermost {@code apply} in progress on the calling thread returns, and its node
+     * lives at least that long (the scene references it; a node traversed by a direct call is
+     * held until the traversal ends), whatever becomes of the node's Java object or of the
+     * element. After that the view's methods, and the calls given it, throw
+     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
+     * {@code setMesh} and the cell constructors refuse it with
+     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
+     * ({@code getMesh}).
+     *
+     * @param state the traversal state
+     * @return the mesh, or null
+     * @throws NullPointerException when state is null
+     * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static PbMesh3D getMesh3D(SoState state) {
-        return JavaViews.find(PbMesh3D.class, getMesh3DImpl(handleOf(state, "state")), null);
+        return ElementCalls.valueOf(PbMesh3D.class, state, PoMeshElement::getMesh3DImpl);
     }
 
     /**
@@ -189,7 +248,7 @@ public abstract class PoMeshElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoMeshElement::initImpl);
     }
 
     private static native long ctorImpl();

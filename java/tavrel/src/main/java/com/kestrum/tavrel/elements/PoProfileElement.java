@@ -4,7 +4,6 @@ import com.kestrum.corvel.SbBox2f;
 import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
-import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.nio.ByteBuffer;
@@ -84,25 +83,30 @@ public abstract class PoProfileElement extends SoReplacedElement {
      * @param profile the value, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static void set(SoState state, SoNode node, SoNode profile) {
-        long s = handleOf(state, "state");
-        long n = handleOrZero(node, "node");
-        long v = handleOrZero(profile, "profile");
-        Traversals.hold(profile, "profile");
-        setImpl(s, n, v);
+        ElementCalls.set(state, node, profile, "profile", PoProfileElement::setImpl);
     }
 
     /**
      * The profile (a profile node) of the traversal.
      *
+     * <p>The node comes back as its Java object or as a new view, which takes a reference on the
+     * native node: it stays usable, and keeps the node alive, until it is disposed or collected.
+     *
      * @param state the traversal state
      * @return the value last set, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static SoNode get(SoState state) {
-        return SoNode.of(getImpl(handleOf(state, "state")));
+        return SoNode.of(ElementCalls.read(state, PoProfileElement::getImpl));
     }
 
     /**
@@ -121,10 +125,16 @@ public abstract class PoProfileElement extends SoReplacedElement {
      * @return the box (empty without a profile)
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static SbBox2f getBBox(SoState state) {
         float[] box = new float[4];
-        getBBoxImpl(handleOf(state, "state"), box);
+        ElementCalls.read(state, s -> {
+            getBBoxImpl(s, box);
+            return null;
+        });
         return new SbBox2f(box[0], box[1], box[2], box[3]);
     }
 
@@ -136,10 +146,13 @@ public abstract class PoProfileElement extends SoReplacedElement {
      * @return the count, 0 without a profile
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static int getProfilePointCount(SoState state, float value) {
         int[] count = new int[1];
-        getProfileImpl(handleOf(state, "state"), value, count);
+        ElementCalls.read(state, s -> getProfileImpl(s, value, count));
         return count[0];
     }
 
@@ -151,6 +164,9 @@ public abstract class PoProfileElement extends SoReplacedElement {
      * @return the coordinates, or null without a profile
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static float[] getProfile(SoState state, float value) {
         FloatBuffer points = getDirectProfile(state, value);
@@ -164,18 +180,24 @@ public abstract class PoProfileElement extends SoReplacedElement {
 
     /**
      * The points of the traversal's profile at the value, as x, y pairs, without a copy: the
-     * buffer shows the toolkit's memory and is valid only until the next profile query of the
-     * traversal and never after the traversal ends.
+     * buffer shows the points that the state's profile element keeps, which it replaces at the
+     * next profile query on that element ({@code getProfile}, {@code getDirectProfile},
+     * {@code getProfilePointCount}) and frees with the state when the traversal ends. Read it
+     * before either: after that it shows freed memory (nothing can make it stop working). Use
+     * {@link #getProfile} for points to keep.
      *
      * @param state the traversal state
      * @param value the value
      * @return the coordinates, or null without a profile
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
+     * @throws IllegalArgumentException when an override of a Java element class that the call
+     *     runs throws (the state makes the element on first use and runs its {@code init}); the
+     *     exception is the cause
      */
     public static FloatBuffer getDirectProfile(SoState state, float value) {
         int[] count = new int[1];
-        ByteBuffer bytes = getDirectProfileImpl(handleOf(state, "state"), value, count);
+        ByteBuffer bytes = ElementCalls.read(state, s -> getDirectProfileImpl(s, value, count));
         return bytes == null ? null : bytes.order(ByteOrder.nativeOrder()).asFloatBuffer();
     }
 
@@ -188,7 +210,7 @@ public abstract class PoProfileElement extends SoReplacedElement {
      */
     @Override
     public void init(SoState state) {
-        initImpl(handle(), handleOf(state, "state"));
+        callWith(state, "state", PoProfileElement::initImpl);
     }
 
     private static native long ctorImpl();

@@ -89,9 +89,17 @@ public class PoAutoCubeAxis extends PoBase {
         super(handle);
     }
 
-    /** Renders the node with the action (rebuilding it first when it has changed). */
+    /**
+     * Renders the node with the action (rebuilding it first when it has changed, which may call
+     * Java): holds the node and the action meanwhile, as every traversal operation does.
+     *
+     * @param action the action that traverses the node
+     * @throws NullPointerException when the action is null
+     * @throws IllegalStateException when the node or the action has been disposed
+     */
+    @Override
     public void GLRender(SoGLRenderAction action) {
-        callWith(action, "action", this::GLRenderImpl);
+        traverse(action, this::GLRenderImpl);
     }
 
     /**

@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.internal;
 
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.tavrel.data.PbCartesianGrid2D;
 import com.kestrum.tavrel.data.PbCartesianGrid3D;
 import com.kestrum.tavrel.data.PbHexahedronMesh3D;
@@ -99,12 +100,33 @@ public final class MeshViews {
     }
 
     /**
+     * The mesh given to an object that keeps its address beyond the call (a representation's or
+     * probe's mesh, a cell made from the mesh): refuses a view tied to a traversal (the mesh of a
+     * traversal's state, {@code PoMeshElement.getMesh}), which lives only as long as the
+     * traversal, while its mesh node may go as soon as it ends. Null and disposed meshes pass,
+     * for the caller's own checks.
+     *
+     * @return the mesh
+     * @throws IllegalArgumentException when the mesh is a view tied to a traversal
+     */
+    public static <M extends PbMesh> M keepable(M mesh) {
+        if (mesh != null && !mesh.isDisposed() && Traversals.isTiedToTraversal(mesh)) {
+            throw new IllegalArgumentException("mesh is a view of a traversal's state, valid only during the"
+                    + " traversal: give the mesh node's getMesh() instead");
+        }
+        return mesh;
+    }
+
+    /**
      * For an object that keeps the address of a mesh (a representation, a cell made from the
      * mesh): when the mesh is a view of a mesh that lives inside a node or field, a new hold on
      * that owner, so that the mesh stays alive as long as the hold does, whatever becomes of the
      * view and of the owner's Java object; null for a mesh that lives on its own, and for null.
+     *
+     * @throws IllegalArgumentException when the mesh is a view tied to a traversal ({@link #keepable})
      */
     public static OwnerHold holdOwnerOf(PbMesh mesh) {
+        keepable(mesh);
         NativeObject owner = mesh == null ? null : OWNERS.get(mesh);
         if (owner == null) {
             return null;

@@ -74,12 +74,12 @@ public abstract class PoCellFilter extends PoNode {
 
     @Override
     public void doAction(SoAction action) {
-        callWith(action, "action", this::doActionImpl);
+        traverse(action, this::doActionImpl);
     }
 
     @Override
     public void write(SoWriteAction action) {
-        callWith(action, "action", this::writeImpl);
+        traverse(action, this::writeImpl);
     }
 
     private static native long ctorImpl();

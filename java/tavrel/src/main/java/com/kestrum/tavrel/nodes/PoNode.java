@@ -117,7 +117,7 @@ public abstract class PoNode extends SoNode {
      */
     @Override
     public void doAction(SoAction action) {
-        callWith(action, "action", (h, a) -> ToolkitRefusals.unlessRefused("PoNode.doAction", () -> {
+        traverse(action, (h, a) -> ToolkitRefusals.unlessRefused("PoNode.doAction", () -> {
             doActionImpl(h, a);
             return null;
         }));
@@ -125,47 +125,47 @@ public abstract class PoNode extends SoNode {
 
     @Override
     public void GLRender(SoGLRenderAction action) {
-        callWith(action, "action", this::GLRenderImpl);
+        traverse(action, this::GLRenderImpl);
     }
 
     @Override
     public void callback(SoCallbackAction action) {
-        callWith(action, "action", this::callbackImpl);
+        traverse(action, this::callbackImpl);
     }
 
     @Override
     public void getBoundingBox(SoGetBoundingBoxAction action) {
-        callWith(action, "action", this::getBoundingBoxImpl);
+        traverse(action, this::getBoundingBoxImpl);
     }
 
     @Override
     public void getMatrix(SoGetMatrixAction action) {
-        callWith(action, "action", this::getMatrixImpl);
+        traverse(action, this::getMatrixImpl);
     }
 
     @Override
     public void handleEvent(SoHandleEventAction action) {
-        callWith(action, "action", this::handleEventImpl);
+        traverse(action, this::handleEventImpl);
     }
 
     @Override
     public void pick(SoPickAction action) {
-        callWith(action, "action", this::pickImpl);
+        traverse(action, this::pickImpl);
     }
 
     @Override
     public void search(SoSearchAction action) {
-        callWith(action, "action", this::searchImpl);
+        traverse(action, this::searchImpl);
     }
 
     @Override
     public void write(SoWriteAction action) {
-        callWith(action, "action", this::writeImpl);
+        traverse(action, this::writeImpl);
     }
 
     @Override
     public void getPrimitiveCount(SoGetPrimitiveCountAction action) {
-        callWith(action, "action", this::getPrimitiveCountImpl);
+        traverse(action, this::getPrimitiveCountImpl);
     }
 
     private static native long ctorImpl();

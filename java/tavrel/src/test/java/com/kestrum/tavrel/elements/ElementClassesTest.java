@@ -11,10 +11,12 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import static org.junit.jupiter.params.provider.Arguments.arguments;
 
 import com.kestrum.corvel.SbBox2f;
+import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.data.PbMesh2D;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid3D;
 import com.kestrum.tavrel.data.PbRegularMesh1D;
@@ -24,15 +26,20 @@ import com.kestrum.tavrel.graph.PbIsovaluesList;
 import com.kestrum.tavrel.graph.PbLinearDataMapping;
 import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
+import com.kestrum.tavrel.testkit.ChildJvm;
 import com.kestrum.tavrel.testkit.Elements;
 import com.kestrum.tavrel.testkit.Journal;
 import java.lang.reflect.InvocationTargetException;
 import java.lang.reflect.Method;
+import java.util.ArrayList;
 import java.util.List;
+import java.util.function.BiConsumer;
 import java.util.function.Consumer;
 import java.util.function.IntSupplier;
 import java.util.function.Supplier;
 import java.util.stream.Stream;
+import org.junit.jupiter.api.AfterEach;
+import org.junit.jupiter.api.Test;
 import org.junit.jupiter.params.ParameterizedTest;
 import org.junit.jupiter.params.provider.Arguments;
 import org.junit.jupiter.params.provider.MethodSource;
@@ -43,35 +50,119 @@ import org.junit.jupiter.params.provider.MethodSource;
  * static set and get reaching the toolkit element of a live traversal.
  */
 class ElementClassesTest {
-    static final class ElementsTestBevelEdge extends PoBevelEdgeElement {}
+    /** Run by the init of every element of the test classes below, before the toolkit's init. */
+    static volatile Runnable onInit = () -> {};
 
-    static final class ElementsTestCellFilter extends PoCellFilterElement {}
+    static final class ElementsTestBevelEdge extends PoBevelEdgeElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestDataMapping extends PoDataMappingElement {}
+    static final class ElementsTestCellFilter extends PoCellFilterElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestDateFormatMapping extends PoDateFormatMappingElement {}
+    static final class ElementsTestDataMapping extends PoDataMappingElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestDomain extends PoDomainElement {}
+    static final class ElementsTestDateFormatMapping extends PoDateFormatMappingElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestIsovaluesList extends PoIsovaluesListElement {}
+    static final class ElementsTestDomain extends PoDomainElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestLabelHints extends PoLabelHintsElement {}
+    static final class ElementsTestIsovaluesList extends PoIsovaluesListElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestMesh1DFilter extends PoMesh1DFilterElement {}
+    static final class ElementsTestLabelHints extends PoLabelHintsElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestMesh1DHints extends PoMesh1DHintsElement {}
+    static final class ElementsTestMesh1DFilter extends PoMesh1DFilterElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestMesh extends PoMeshElement {}
+    static final class ElementsTestMesh1DHints extends PoMesh1DHintsElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestMiscTextAttr extends PoMiscTextAttrElement {}
+    static final class ElementsTestMesh extends PoMeshElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestNumericDisplayFormat extends PoNumericDisplayFormatElement {}
+    static final class ElementsTestMiscTextAttr extends PoMiscTextAttrElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    static final class ElementsTestProfile extends PoProfileElement {}
+    static final class ElementsTestNumericDisplayFormat extends PoNumericDisplayFormatElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
 
-    /** One element class: its Java class, a Java subclass, and a check of its static set and get. */
+    static final class ElementsTestProfile extends PoProfileElement {
+        @Override
+        public void init(SoState state) {
+            onInit.run();
+            super.init(state);
+        }
+    }
+
+    /**
+     * One element class: its Java class, a Java subclass, a check of its static set and get, its
+     * set with a node (any value), and its other static calls that make the element on first use.
+     */
     record Row(Class<?> elementClass, Supplier<SoElement> make, IntSupplier stackIndex, Supplier<String> typeName,
-            Consumer<SoState> setAndGet) {
+            Consumer<SoState> setAndGet, BiConsumer<SoState, SoNode> setWith, List<Consumer<SoState>> reads) {
         @Override
         public String toString() {
             return elementClass.getSimpleName();
@@ -86,7 +177,7 @@ class ElementClassesTest {
                             PoBevelEdgeElement.set(state, null, true, 0.25f, 1, 2.5f);
                             assertEquals(List.of("PoBevelEdgeElement::set(0x" + hex(state) + ", null, 1, 0.25, 1, 2.5)"),
                                     Journal.stop());
-                        }),
+                        }, (s, n) -> PoBevelEdgeElement.set(s, n, true, 0.25f, 1, 2.5f), List.of()),
                 new Row(PoCellFilterElement.class, ElementsTestCellFilter::new, PoCellFilterElement::getClassStackIndex,
                         PoCellFilterElement::getClassTypeName, state -> {
                             try (SoGroup notAFilter = new SoGroup()) {
@@ -94,7 +185,7 @@ class ElementClassesTest {
                                 PoCellFilterElement.set(state, notAFilter);
                                 assertNull(PoCellFilterElement.get(state));
                             }
-                        }),
+                        }, PoCellFilterElement::set, List.of(PoCellFilterElement::get)),
                 pointerRow(PoDataMappingElement.class, ElementsTestDataMapping::new, PoDataMappingElement::getClassStackIndex,
                         PoDataMappingElement::getClassTypeName, PbLinearDataMapping::new, PoDataMappingElement::set,
                         PoDataMappingElement::get),
@@ -112,7 +203,7 @@ class ElementClassesTest {
                             PoLabelHintsElement.set(state, null, 2, 1, "Größe \uD83D\uDE00", true, false);
                             assertEquals(List.of("PoLabelHintsElement::set(0x" + hex(state)
                                     + ", null, 2, 1, \"Größe \uD83D\uDE00\", 1, 0)"), Journal.stop());
-                        }),
+                        }, (s, n) -> PoLabelHintsElement.set(s, n, 2, 1, "text", true, false), List.of()),
                 new Row(PoMesh1DFilterElement.class, ElementsTestMesh1DFilter::new,
                         PoMesh1DFilterElement::getClassStackIndex, PoMesh1DFilterElement::getClassTypeName, state -> {
                             assertNull(PoMesh1DFilterElement.getDefault());
@@ -122,14 +213,14 @@ class ElementClassesTest {
                                 assertEquals(node.getNativeResourceHandleInternal(),
                                         PoMesh1DFilterElement.get(state).getNativeResourceHandleInternal());
                             }
-                        }),
+                        }, (s, n) -> PoMesh1DFilterElement.set(s, n, null), List.of(PoMesh1DFilterElement::get)),
                 new Row(PoMesh1DHintsElement.class, ElementsTestMesh1DHints::new,
                         PoMesh1DHintsElement::getClassStackIndex, PoMesh1DHintsElement::getClassTypeName, state -> {
                             assertEquals(0, PoMesh1DHintsElement.getDefault());
                             assertEquals(0, PoMesh1DHintsElement.get(state));
                             PoMesh1DHintsElement.set(state, null, 5);
                             assertEquals(5, PoMesh1DHintsElement.get(state));
-                        }),
+                        }, (s, n) -> PoMesh1DHintsElement.set(s, n, 5), List.of(PoMesh1DHintsElement::get)),
                 new Row(PoMeshElement.class, ElementsTestMesh::new, PoMeshElement::getClassStackIndex,
                         PoMeshElement::getClassTypeName, state -> {
                             PbRegularMesh1D line = new PbRegularMesh1D();
@@ -144,7 +235,8 @@ class ElementClassesTest {
                             PoMeshElement.set(state, null, box);
                             assertSame(box, PoMeshElement.getMesh3D(state));
                             assertNull(PoMeshElement.getMesh1D(state));
-                        }),
+                        }, (s, n) -> PoMeshElement.set(s, n, (PbMesh2D) null), List.of(PoMeshElement::getMesh,
+                                PoMeshElement::getMesh1D, PoMeshElement::getMesh2D, PoMeshElement::getMesh3D)),
                 pointerRow(PoMiscTextAttrElement.class, ElementsTestMiscTextAttr::new,
                         PoMiscTextAttrElement::getClassStackIndex, PoMiscTextAttrElement::getClassTypeName,
                         PbMiscTextAttr::new, PoMiscTextAttrElement::set, PoMiscTextAttrElement::get),
@@ -168,7 +260,10 @@ class ElementClassesTest {
                                 assertEquals(-1f, box.getValue()[0]);
                                 assertEquals(1f, box.getValue()[3]);
                             }
-                        }));
+                        }, (s, n) -> PoProfileElement.set(s, n, null), List.of(PoProfileElement::get,
+                                PoProfileElement::getBBox, s -> PoProfileElement.getProfile(s, 1),
+                                s -> PoProfileElement.getDirectProfile(s, 1),
+                                s -> PoProfileElement.getProfilePointCount(s, 1))));
     }
 
     interface Setter<T> {
@@ -189,7 +284,7 @@ class ElementClassesTest {
             assertSame(v, get.get(state));
             set.set(state, null, null);
             assertNull(get.get(state));
-        });
+        }, (s, n) -> set.set(s, n, null), List.of(get::get));
     }
 
     static List<Float> boxed(float[] values) {
@@ -310,5 +405,75 @@ class ElementClassesTest {
         assertEquals(List.of(3, 9), List.of(bind(cls, name, false, 3, (short) 9, new Object())[0],
                 bind(cls, name, false, 3, (short) 9, new Object())[1]));
         assertEquals(0xFFFE, bind(cls, name, false, 7, (short) 0xFFFE, new Object())[1]);
+    }
+
+    /** Makes the traversal states make the row's Java subclass on its stack. */
+    static void enable(Row row) {
+        try (SoElement registered = row.make().get()) {
+            assertTrue(SoAction.enableElement(registered.getTypeName(), registered.getStackIndex()));
+        }
+    }
+
+    @AfterEach
+    void restoreToolkitElements() {
+        onInit = () -> {};
+        rows().forEach(r -> SoAction.enableElement(r.typeName().get(), r.stackIndex().getAsInt()));
+    }
+
+    /**
+     * A Java element's init that throws when a static call makes the element: the call stops at
+     * once (no JNI call with the exception pending, which -Xcheck:jni reports, and no output
+     * read) and throws the exception of the override, whichever call it was.
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("classes")
+    void anInitThatThrowsStopsTheCallThatMadeTheElement(Row row) {
+        enable(row);
+        onInit = () -> {
+            throw new IllegalStateException("thrown by init");
+        };
+        try (SoGroup node = new SoGroup()) {
+            List<Consumer<SoState>> calls = new ArrayList<>(row.reads());
+            calls.add(s -> row.setWith().accept(s, node));
+            for (Consumer<SoState> call : calls) {
+                Traversal.run(s -> {
+                    IllegalArgumentException e = assertThrows(IllegalArgumentException.class, () -> call.accept(s));
+                    assertEquals("Exception raised during execution of Custom" + row.elementClass().getSimpleName()
+                            + ".init.", e.getMessage());
+                    assertEquals("thrown by init", e.getCause().getMessage());
+                });
+            }
+        }
+    }
+
+    /**
+     * In a child JVM, for every class: a Java element's init disposes the node given to the set
+     * that makes the element; the set holds the node, so the element the toolkit fills names a
+     * live node (a freed one before: a use of freed memory, which the sanitizer build reports).
+     */
+    public static void main(String[] args) {
+        for (Row row : rows().toList()) {
+            enable(row);
+            SoNode[] given = new SoNode[1];
+            onInit = () -> given[0].dispose();
+            Traversal.run(s -> {
+                given[0] = new SoGroup();
+                row.setWith().accept(s, given[0]);
+            });
+            onInit = () -> {};
+            SoAction.enableElement(row.typeName().get(), row.stackIndex().getAsInt());
+            System.out.println("held by set: " + row);
+        }
+    }
+
+    @Test
+    void setHoldsItsNodeWhileAJavaInitDisposesIt() throws Exception {
+        ChildJvm.Result r = ChildJvm.run(ElementClassesTest.class, List.of(), 120);
+        assertFalse(r.crashed(), r::describe);
+        assertFalse(r.jniWarning(), r::describe);
+        assertEquals(0, r.exitCode(), r::describe);
+        for (Row row : rows().toList()) {
+            assertTrue(r.output().contains("held by set: " + row + "\n"), r::describe);
+        }
     }
 }

@@ -19,6 +19,8 @@ final class Traversal {
     static final class StateNode extends PoNode {
         private final BiConsumer<SoState, SoNode> body;
         Throwable failure;
+        /** The action traversing the node, while the body runs. */
+        SoCallbackAction action;
 
         StateNode(BiConsumer<SoState, SoNode> body) {
             super("ElementsTestStateNode");
@@ -27,12 +29,15 @@ final class Traversal {
 
         @Override
         public void callback(SoCallbackAction action) {
+            this.action = action;
             try {
                 body.accept(action.getState(), this);
             } catch (Throwable t) {
                 if (failure == null) {
                     failure = t;
                 }
+            } finally {
+                this.action = null;
             }
         }
 
