@@ -32,6 +32,8 @@ public class SoElement extends NativeObject {
     }
 
     private final AtomicBoolean owns;
+    /** Set on the calling thread while {@link #copyMatchInfo} has the toolkit make a copy. */
+    private static final ThreadLocal<Boolean> COPYING = new ThreadLocal<>();
 
     /**
      * An element object for the native element at the handle.
@@ -59,6 +61,19 @@ public class SoElement extends NativeObject {
      */
     protected final void takeOwnership() {
         owns.set(true);
+    }
+
+    /**
+     * Whether the element being made now, by the toolkit, is the copy that {@link #copyMatchInfo}
+     * is making for its caller (rather than an element of a traversal's state). Reads and clears
+     * the mark: the first element made during the copy is the copy.
+     *
+     * @return true for the copy
+     */
+    protected static boolean madeAsCopy() {
+        boolean copying = Boolean.TRUE.equals(COPYING.get());
+        COPYING.remove();
+        return copying;
     }
 
     /**
@@ -110,7 +125,14 @@ public class SoElement extends NativeObject {
      * @throws IllegalStateException when the element has been disposed
      */
     public SoElement copyMatchInfo() {
-        long copy = copyMatchInfoNative(handle());
+        long h = handle();
+        long copy;
+        COPYING.set(Boolean.TRUE);
+        try {
+            copy = copyMatchInfoNative(h);
+        } finally {
+            COPYING.remove();
+        }
         if (copy == 0) {
             return null;
         }

@@ -114,6 +114,14 @@ abstract class ElementCalls extends SoReplacedElement {
         return made == null ? null : Traversals.own(made);
     }
 
+    /**
+     * Whether the element being made now is the copy that {@code copyMatchInfo} has the toolkit
+     * make (see {@link ElementTypes#ownership}); reads and clears the mark.
+     */
+    static boolean madeAsCopyOfAnElement() {
+        return madeAsCopy();
+    }
+
     private static long enterOrZero(NativeObject argument, String name) {
         return argument == null ? 0 : enter(argument, name);
     }

@@ -15,9 +15,11 @@ import java.util.concurrent.atomic.AtomicBoolean;
  * name, so the two kinds never meet), created by the class's first object together with the class's stack
  * index and element key, which the later objects of the class reuse.
  *
- * <p>Elements that a traversal state makes (through the type's creation function, on the
- * traversal's thread) belong to the state: their Java objects do not free them and are disposed
- * when the traversal ends. Elements made by Java code belong to their Java objects.
+ * <p>Elements that a traversal state makes (through the type's creation function) belong to the
+ * state: their Java objects do not free them and are disposed when the traversal ends (at once
+ * when the state is used on a thread without a traversal). A copy that {@code copyMatchInfo}
+ * has the toolkit make belongs to the Java object it returns. Elements made by Java code belong
+ * to their Java objects.
  */
 final class ElementTypes {
     /** The native binding of one element class. */
@@ -47,13 +49,16 @@ final class ElementTypes {
 
     /**
      * Whether the element being made belongs to its Java object, as the shared flag of its release
-     * action: not when a traversal's state is making it. Reads and clears the creation function's
-     * mark, so the constructor must call it once, first.
+     * action: not when a traversal's state is making it, on whatever thread the state is used
+     * (the state frees it); a copy that {@code copyMatchInfo} has the toolkit make belongs to the
+     * Java object it returns. Reads and clears the creation function's mark, so the constructor
+     * must call it once, first.
      */
     static AtomicBoolean ownership() {
         boolean byToolkit = Boolean.TRUE.equals(MADE_BY_TOOLKIT.get());
         MADE_BY_TOOLKIT.remove();
-        return new AtomicBoolean(!(byToolkit && Traversals.isActive()));
+        boolean copy = ElementCalls.madeAsCopyOfAnElement();
+        return new AtomicBoolean(!byToolkit || (copy && !Traversals.isActive()));
     }
 
     /**

@@ -6,7 +6,6 @@ import static org.junit.jupiter.api.Assertions.assertTrue;
 import com.kestrum.corvel.actions.SoAction;
 import com.kestrum.corvel.actions.SoCallbackAction;
 import com.kestrum.corvel.actions.SoGLRenderAction;
-import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.nodes.SoGroup;
 import com.kestrum.corvel.nodes.SoSeparator;
 import com.kestrum.tavrel.elements.PoDomainElement;
@@ -193,6 +192,7 @@ class MisuseRegressionTest {
         try (KeptDomain registered = new KeptDomain()) {
             SoAction.enableElement(registered.getTypeName(), registered.getStackIndex());
         }
+        KeptDomain.kept = null;
         SoSeparator inner = new SoSeparator();
         inner.addChild(new PoDomain());
         SoGroup root = new SoGroup();
@@ -234,14 +234,11 @@ class MisuseRegressionTest {
         }
     }
 
-    /** Keeps the last element of its class that a state pushed. */
+    /** Keeps the last element of its class that was made. */
     public static final class KeptDomain extends PoDomainElement {
         static volatile KeptDomain kept;
 
-        public KeptDomain() {}
-
-        @Override
-        public void push(SoState state) {
+        public KeptDomain() {
             kept = this;
         }
     }
