@@ -134,7 +134,7 @@ public abstract class PoMesh extends PoDessvane {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
         this.dataMapping = dataMapping;
     }
 
@@ -159,7 +159,7 @@ public abstract class PoMesh extends PoDessvane {
      * @param moduleDataMapping the data mapping of the vectors' lengths, or null for none
      */
     public void setModuleDataMapping(PbDataMapping moduleDataMapping) {
-        setModuleDataMappingImpl(handle(), handleOrZero(moduleDataMapping, "moduleDataMapping"));
+        setModuleDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(moduleDataMapping, "moduleDataMapping"), "moduleDataMapping"));
         this.moduleDataMapping = moduleDataMapping;
     }
 
@@ -184,7 +184,7 @@ public abstract class PoMesh extends PoDessvane {
      * @param isovaluesList the isovalue list, or null for none
      */
     public void setIsovaluesList(PbIsovaluesList isovaluesList) {
-        setIsovaluesListImpl(handle(), handleOrZero(isovaluesList, "isovaluesList"));
+        setIsovaluesListImpl(handle(), handleOrZero(JavaViews.keepable(isovaluesList, "isovaluesList"), "isovaluesList"));
         this.isovaluesList = isovaluesList;
     }
 

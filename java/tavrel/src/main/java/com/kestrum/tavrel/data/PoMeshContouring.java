@@ -117,7 +117,7 @@ public class PoMeshContouring extends PoMesh2D {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(format, "format"));
+        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
         this.format = format;
     }
 
@@ -142,7 +142,7 @@ public class PoMeshContouring extends PoMesh2D {
      * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
-        setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
+        setMiscTextAttrImpl(handle(), handleOrZero(JavaViews.keepable(miscTextAttr, "miscTextAttr"), "miscTextAttr"));
         this.miscTextAttr = miscTextAttr;
     }
 

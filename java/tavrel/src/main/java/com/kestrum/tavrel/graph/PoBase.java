@@ -480,7 +480,7 @@ public abstract class PoBase extends SoBaseKit {
      * @throws IllegalStateException when the node or the argument has been disposed
      */
     protected final void rebuilding(NativeObject argument, String name, HandleCall call) {
-        callHolding(argument, name, true, (h, a) -> {
+        callHolding(JavaViews.keepable(argument, name), name, true, (h, a) -> {
             call.call(h, a);
             return null;
         });

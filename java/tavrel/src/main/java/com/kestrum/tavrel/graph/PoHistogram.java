@@ -327,7 +327,7 @@ public abstract class PoHistogram extends PoChart {
      * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
-        setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
+        setMiscTextAttrImpl(handle(), handleOrZero(JavaViews.keepable(miscTextAttr, "miscTextAttr"), "miscTextAttr"));
         this.miscTextAttr = miscTextAttr;
     }
 
@@ -352,7 +352,7 @@ public abstract class PoHistogram extends PoChart {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
         this.dataMapping = dataMapping;
     }
 
@@ -377,7 +377,7 @@ public abstract class PoHistogram extends PoChart {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(format, "format"));
+        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
         this.format = format;
     }
 

@@ -245,7 +245,7 @@ public class PoLabelField extends PoQuorvex {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(format, "format"));
+        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
         this.format = format;
     }
 

@@ -255,7 +255,7 @@ public abstract class PoLegend extends PoBase {
      * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
-        setMiscTextAttrImpl(handle(), handleOrZero(miscTextAttr, "miscTextAttr"));
+        setMiscTextAttrImpl(handle(), handleOrZero(JavaViews.keepable(miscTextAttr, "miscTextAttr"), "miscTextAttr"));
         this.miscTextAttr = miscTextAttr;
     }
 

@@ -45,7 +45,7 @@ public class PoPointsFieldBars extends PoQuorvex {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
         this.dataMapping = dataMapping;
     }
 

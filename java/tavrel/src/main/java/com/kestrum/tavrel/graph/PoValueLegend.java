@@ -31,7 +31,7 @@ public abstract class PoValueLegend extends PoLegend {
      * @param isovaluesList the isovalue list, or null for none
      */
     public void setIsovaluesList(PbIsovaluesList isovaluesList) {
-        setIsovaluesListImpl(handle(), handleOrZero(isovaluesList, "isovaluesList"));
+        setIsovaluesListImpl(handle(), handleOrZero(JavaViews.keepable(isovaluesList, "isovaluesList"), "isovaluesList"));
         this.isovaluesList = isovaluesList;
     }
 
@@ -57,7 +57,7 @@ public abstract class PoValueLegend extends PoLegend {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
         this.dataMapping = dataMapping;
     }
 
@@ -83,7 +83,7 @@ public abstract class PoValueLegend extends PoLegend {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(format, "format"));
+        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
         this.format = format;
     }
 

@@ -44,7 +44,7 @@ public class PoValuedMarkerField extends PoQuorvex {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(dataMapping, "dataMapping"));
+        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
         this.dataMapping = dataMapping;
     }
 

@@ -2,6 +2,7 @@ package com.kestrum.tavrel.internal;
 
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.corvel.misc.Traversals;
 import java.util.Map;
 import java.util.concurrent.ConcurrentHashMap;
 
@@ -48,6 +49,27 @@ public final class JavaViews {
         }
         ViewFactory<?> factory = VIEWS_IN.get(type);
         return factory == null ? find(type, address, null) : type.cast(factory.make(address, context));
+    }
+
+    /**
+     * An object given to a node that keeps its address beyond the call (an attribute object set
+     * on a representation or a graph node): refuses a view tied to a traversal (the value of an
+     * element of a traversal's state, {@code PoDataMappingElement.get}, ...), which lives only as
+     * long as the traversal, while the property node that owns it may go as soon as it ends.
+     * Null and disposed objects pass, for the caller's own checks.
+     *
+     * @param object the object, or null
+     * @param name the argument's name, for the exception's message
+     * @param <T> the object's class
+     * @return the object
+     * @throws IllegalArgumentException when the object is a view tied to a traversal
+     */
+    public static <T extends NativeObject> T keepable(T object, String name) {
+        if (object != null && !object.isDisposed() && Traversals.isTiedToTraversal(object)) {
+            throw new IllegalArgumentException(name + " is a view of a traversal's state, valid only during the"
+                    + " traversal: a node cannot keep it");
+        }
+        return object;
     }
 
     /** The Java object of the class for the native object at the address, or null for 0. */

@@ -34,6 +34,8 @@ import com.kestrum.tavrel.graph.PbDomain;
 import com.kestrum.tavrel.graph.PbIsovaluesList;
 import com.kestrum.tavrel.graph.PbMiscTextAttr;
 import com.kestrum.tavrel.graph.PbNumericDisplayFormat;
+import com.kestrum.tavrel.graph.PoLinearAxis;
+import com.kestrum.tavrel.graph.PoTimeAxis;
 import com.kestrum.tavrel.nodes.PoCartesianGrid2D;
 import com.kestrum.tavrel.nodes.PoDateFormatMapping;
 import com.kestrum.tavrel.nodes.PoDomain;
@@ -396,5 +398,80 @@ class PropertyNodeElementsTest {
         }
         assertArrayEquals(new String[] {"mesh is a view of a traversal's state, valid only during the traversal:"
                 + " give the mesh node's getMesh() instead", 499 * 499 + " cells", "own view kept"}, seen);
+    }
+
+    /** An attribute object of a traversal's state given to a node that keeps its address. */
+    record AttributeKeeper(String name, Supplier<SoNode> owner, Function<SoState, NativeObject> get, String argument,
+            Consumer<NativeObject> keep) {
+        @Override
+        public String toString() {
+            return name;
+        }
+    }
+
+    static List<AttributeKeeper> attributeKeepers() {
+        return List.of(
+                new AttributeKeeper("representation's data mapping", PoLinearDataMapping::new, PoDataMappingElement::get,
+                        "dataMapping", v -> {
+                            try (PoMeshFilled filled = new PoMeshFilled()) {
+                                filled.setDataMapping((PbDataMapping) v);
+                            }
+                        }),
+                new AttributeKeeper("representation's isovalues", PoIsovaluesList::new, PoIsovaluesListElement::get,
+                        "isovaluesList", v -> {
+                            try (PoMeshFilled filled = new PoMeshFilled()) {
+                                filled.setIsovaluesList((PbIsovaluesList) v);
+                            }
+                        }),
+                new AttributeKeeper("graph node's domain", PoDomain::new, PoDomainElement::get, "domain", v -> {
+                    try (PoLinearAxis axis = new PoLinearAxis()) {
+                        axis.setDomain((PbDomain) v);
+                    }
+                }),
+                new AttributeKeeper("axis's text attributes", PoMiscTextAttr::new, PoMiscTextAttrElement::get, "attr",
+                        v -> {
+                            try (PoLinearAxis axis = new PoLinearAxis()) {
+                                axis.setMiscTextAttr((PbMiscTextAttr) v);
+                            }
+                        }),
+                new AttributeKeeper("axis's format", PoNumericDisplayFormat::new, PoNumericDisplayFormatElement::get,
+                        "format", v -> {
+                            try (PoLinearAxis axis = new PoLinearAxis()) {
+                                axis.setFormat((PbNumericDisplayFormat) v);
+                            }
+                        }),
+                new AttributeKeeper("time axis's date mapping", PoDateFormatMapping::new,
+                        PoDateFormatMappingElement::get, "mapping", v -> {
+                            try (PoTimeAxis axis = new PoTimeAxis()) {
+                                axis.setDateFormatMapping((PbDateFormatMapping) v);
+                            }
+                        }));
+    }
+
+    /**
+     * The attribute object of a traversal's state, a view tied to the traversal, given to a node
+     * that keeps its address beyond the call: refused before the node keeps it (its property node
+     * may go once the traversal ends), while the view goes on working.
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("attributeKeepers")
+    void whatKeepsAnAttributeObjectRefusesTheValueOfATraversalsState(AttributeKeeper keeper) {
+        String[] seen = new String[2];
+        try (SoNode owner = keeper.owner().get(); SoGroup root = new SoGroup()) {
+            Traversal.StateNode node = new Traversal.StateNode((s, self) -> {
+                NativeObject tied = keeper.get().apply(s);
+                seen[0] = assertThrows(IllegalArgumentException.class, () -> keeper.keep().accept(tied)).getMessage();
+                seen[1] = tied.isDisposed() ? "disposed" : "still usable";
+            });
+            root.addChild(owner);
+            root.addChild(node);
+            try {
+                Traversal.apply(root, node);
+            } finally {
+                node.dispose();
+            }
+        }
+        assertArrayEquals(new String[] {keeper.argument() + " is a view of a traversal's state, valid only during the"
+                + " traversal: a node cannot keep it", "still usable"}, seen);
     }
 }
