@@ -9,10 +9,12 @@ import java.util.List;
 import java.util.Set;
 
 /**
- * The traversals in progress on the calling thread: one scope per {@code SoAction.apply} (an
- * apply inside another opens a scope inside the outer one). A traversal's state and the
- * elements it makes live only until its apply returns, so their Java views are tied to the
- * scope in which they were made and are disposed when it ends. Objects that a traversal uses
+ * The traversals in progress on the calling thread: one scope per {@code SoAction.apply} and per
+ * node operation called from Java ({@code node.GLRender(action)}, an override's {@code super}
+ * call), each inside the scope in progress. A traversal's state and the elements it makes live
+ * only until its apply returns, and an action disposed during a call lives until that call
+ * returns, so the Java views of states, elements and actions are tied to the scope in which they
+ * were made and are disposed when it ends (sooner than needed, at worst). Objects that a traversal uses
  * by address (attribute objects and meshes given to an element, nodes that a direct call
  * inside the traversal lets set an element) are held until the outermost scope of the thread
  * ends: an inner apply may end before the state that was given them.
@@ -29,12 +31,33 @@ public final class Traversals {
     private static final Set<NativeObject> TIED = Collections.synchronizedSet(
             Collections.newSetFromMap(new IdentityHashMap<>()));
 
-    /** What one apply made and holds. */
+    /** What one apply or direct node operation made and holds (each list made on first use). */
     private static final class Scope {
-        final List<NativeObject> views = new ArrayList<>();
-        final List<NativeObject> held = new ArrayList<>();
+        List<NativeObject> views;
+        List<NativeObject> held;
         /** The objects held by {@link #holdWhileTraversing}, once each. */
-        final Set<NativeObject> traversed = Collections.newSetFromMap(new IdentityHashMap<>());
+        Set<NativeObject> traversed;
+
+        void view(NativeObject view) {
+            if (views == null) {
+                views = new ArrayList<>();
+            }
+            views.add(view);
+        }
+
+        void hold(NativeObject object) {
+            if (held == null) {
+                held = new ArrayList<>();
+            }
+            held.add(object);
+        }
+
+        boolean traversing(NativeObject object) {
+            if (traversed == null) {
+                traversed = Collections.newSetFromMap(new IdentityHashMap<>());
+            }
+            return !traversed.add(object);
+        }
     }
 
     private Traversals() {}
@@ -56,15 +79,21 @@ public final class Traversals {
         if (scope == null) {
             return;
         }
-        for (NativeObject view : scope.views) {
-            TIED.remove(view);
-            view.dispose();
+        if (scope.views != null) {
+            for (NativeObject view : scope.views) {
+                TIED.remove(view);
+                view.dispose();
+            }
         }
-        for (NativeObject object : scope.held) {
-            object.leave();
+        if (scope.held != null) {
+            for (NativeObject object : scope.held) {
+                object.leave();
+            }
         }
-        for (NativeObject object : scope.traversed) {
-            object.leave();
+        if (scope.traversed != null) {
+            for (NativeObject object : scope.traversed) {
+                object.leave();
+            }
         }
     }
 
@@ -92,7 +121,7 @@ public final class Traversals {
         if (scope == null) {
             view.dispose();
         } else {
-            scope.views.add(view);
+            scope.view(view);
             TIED.add(view);
         }
         return view;
@@ -122,11 +151,15 @@ public final class Traversals {
      */
     public static void holdWhileTraversing(NativeObject object) {
         Scope outermost = SCOPES.get().peekLast();
-        if (outermost == null || outermost.traversed.contains(object)) {
+        if (outermost == null || outermost.traversing(object)) {
             return;
         }
-        NativeObject.enter(object, "node");
-        outermost.traversed.add(object);
+        try {
+            NativeObject.enter(object, "node");
+        } catch (RuntimeException e) {
+            outermost.traversed.remove(object);
+            throw e;
+        }
     }
 
     /**
@@ -148,6 +181,6 @@ public final class Traversals {
             throw new IllegalStateException("No traversal is in progress on this thread");
         }
         NativeObject.enter(object, name);
-        outermost.held.add(object);
+        outermost.hold(object);
     }
 }

@@ -302,7 +302,9 @@ public class SoNode extends NativeObject {
     /**
      * Runs one of the node's traversal operations (those taking an action): holds the node and
      * the action until it returns and, while a traversal is in progress on the calling thread,
-     * the node until that traversal ends (see the class). Subclasses that override an operation
+     * the node until that traversal ends (see the class). The call is a traversal scope of its
+     * own: the views of actions, states and elements that it hands to Java stop working when it
+     * returns, as the action may be freed then (when its Java object was disposed meanwhile). Subclasses that override an operation
      * with a native call of their own go through here too.
      *
      * @param action the action that traverses the node
@@ -312,8 +314,13 @@ public class SoNode extends NativeObject {
      */
     protected final void traverse(SoAction action, HandleCall call) {
         callWith(action, "action", (node, a) -> {
-            Traversals.holdWhileTraversing(this);
-            call.call(node, a);
+            Traversals.begin();
+            try {
+                Traversals.holdWhileTraversing(this);
+                call.call(node, a);
+            } finally {
+                Traversals.end();
+            }
         });
     }
 

@@ -398,12 +398,13 @@ public abstract class PoAxis extends PoBase {
     public record Grad(Visibilities visibility, GradPositions position, TextPaths path, String labels, float first,
             float last, boolean current, String fontName) {
         /**
-         * The labels, one a graduation (empty when there are none).
+         * The labels, one a graduation (empty when there are none, or when the record was made
+         * without a text).
          *
          * @return the labels, one a graduation (empty when there are none)
          */
         public List<String> labelList() {
-            return labels.isEmpty() ? List.of() : List.of(labels.split("\n", -1));
+            return labels == null || labels.isEmpty() ? List.of() : List.of(labels.split("\n", -1));
         }
     }
 

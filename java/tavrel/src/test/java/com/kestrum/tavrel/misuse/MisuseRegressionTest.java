@@ -61,7 +61,8 @@ class MisuseRegressionTest {
          * handed a view of the still-live native action and keeps it past the apply, which frees
          * the action: the kept view stops working.
          */
-        ACTION_VIEW_KEPT_PAST_ITS_APPLY("kept action: view, refused\\R"),
+        ACTION_VIEW_KEPT_PAST_ITS_APPLY("kept action \\(apply\\): view, refused\\R"
+                + "kept action \\(direct call\\): view, refused\\R"),
         /**
          * A node has part of the traversal run on another thread (waiting for it, so that the
          * calls are serialised); the state makes an element of a Java class there. The element
@@ -182,10 +183,16 @@ class MisuseRegressionTest {
         SoGroup root = new SoGroup();
         root.addChild(new RenderHook(a -> a.dispose()));
         root.addChild(new RenderHook(a -> kept[0] = a));
-        SoGLRenderAction render = new SoGLRenderAction();
-        render.apply(root);
-        System.out.println("kept action: " + (kept[0] == render ? "the applied one" : "view") + ", "
-                + attempt("", () -> kept[0].apply(root)));
+        for (String how : new String[] {"apply", "direct call"}) {
+            SoGLRenderAction render = new SoGLRenderAction();
+            if (how.equals("apply")) {
+                render.apply(root);
+            } else {
+                root.GLRender(render);  // the group's operation called from Java, not an apply
+            }
+            System.out.println("kept action (" + how + "): " + (kept[0] == render ? "the applied one" : "view") + ", "
+                    + attempt("", () -> kept[0].apply(root)));
+        }
     }
 
     private static void elementMadeByAStateOnAnotherThread() {
