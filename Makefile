@@ -13,9 +13,12 @@
 #   make install builds the jars (natives, sources, Javadoc) and installs them into the local
 #                Maven repository
 #   make example runs the example project (examples/) against the installed jars
+#   make coverage runs the JUnit suite against a build of the product with gcov instrumentation
+#                (native/build-cov) and prints its function and line coverage (not part of test)
 
 BUILD_DIR      ?= native/build
 ASAN_BUILD_DIR ?= native/build-asan
+COV_BUILD_DIR  ?= native/build-cov
 MVN            ?= mvn -B -f java/pom.xml
 NATIVE_LIBS    := $(BUILD_DIR)/lib
 
@@ -36,7 +39,8 @@ PANAMA_JDK ?= $(shell scripts/newest-jdk 22)
 PANAMA_OPTS := $(if $(wildcard $(PANAMA_JDK)/bin/javac),-Dpanama.jdk=$(PANAMA_JDK))
 
 .PHONY: all native native-asan java demo install example example-run test native-test java-test \
-	native-test-asan java-test-asan java-test-newest-jdk soak bench bench-quick bench-build fuzz clean
+	native-test-asan java-test-asan java-test-newest-jdk soak bench bench-quick bench-build fuzz clean \
+	native-cov coverage
 # The test runs share Maven's output folders: one at a time.
 .NOTPARALLEL:
 
@@ -51,6 +55,12 @@ native:
 native-asan:
 	cmake -S native -B $(ASAN_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTAVREL_SANITIZE=ON
 	cmake --build $(ASAN_BUILD_DIR)
+
+# The product with gcov instrumentation (--coverage), unoptimised, with the stand-ins and the test
+# natives the suite loads, in a folder of its own that no jar and no other target reads.
+native-cov:
+	cmake -S native -B $(COV_BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTAVREL_COVERAGE=ON
+	cmake --build $(COV_BUILD_DIR) --target com.kestrum.tavrel tavrel_testkit tavrel_jnicalls
 
 java: native
 	$(MVN) -q package -DskipTests
@@ -94,6 +104,18 @@ java-test-newest-jdk: native
 		echo "JUnit on $(NEWEST_JDK)"; \
 		$(MVN) -pl tavrel -am test -Djvm=$(NEWEST_JDK)/bin/java -Dtest.reports.suffix=-newest-jdk; \
 	fi
+
+# The JUnit suite against native/build-cov (the counts of earlier runs removed first), then the
+# product's coverage: exported JNI functions run (of the finished library's list) and lines run
+# per folder, with every function never run; the lines never run go to native/build-cov/coverage-gaps.txt.
+# COVERAGE_MIN_LINES: the line coverage below which the target fails (an unrun function always fails it).
+COVERAGE_MIN_LINES ?= 98
+coverage: native-cov
+	find $(COV_BUILD_DIR) -name '*.gcda' -delete
+	$(MVN) -pl tavrel -am test -Dtest.native.dir=$(abspath $(COV_BUILD_DIR))/lib \
+		-Dtest.reports.suffix=-coverage; tests=$$?; \
+	scripts/coverage $(COV_BUILD_DIR) java/tavrel/src/test/resources/expected-jni-symbols.txt \
+		--min-lines $(COVERAGE_MIN_LINES) && exit $$tests
 
 test: native-test java-test example-run native-test-asan java-test-asan java-test-newest-jdk
 
@@ -142,6 +164,6 @@ fuzz: native
 		com.kestrum.tavrel.misuse.MisuseRuns $(CALLS) "$(SEED)" $(CALLS_PER_JVM)
 
 clean:
-	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR)
+	rm -rf $(BUILD_DIR) $(ASAN_BUILD_DIR) $(COV_BUILD_DIR)
 	$(MVN) -q clean
 	$(EXAMPLE_MVN) clean

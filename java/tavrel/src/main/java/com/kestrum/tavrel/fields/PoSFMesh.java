@@ -38,7 +38,7 @@ import java.util.function.LongConsumer;
  * first): same class, node coordinates, cells and data sets (the data-duplication flag is not
  * compared).
  * <li>{@code addToContainer(container, name, fieldType, initialValue)}: adds the field to a node
- * under a name: the field takes the initial value (a copy), belongs to the node from then on and
+ * under a name: the field takes the initial value (a copy; never null), belongs to the node from then on and
  * is found by {@code container.getField(name)}; only the low three bits of the field type are
  * kept. A field belongs to one node at a time: adding it to another one takes it out of the
  * first. The node does not own the field, and neither keeps the other alive: a disposed field
@@ -240,13 +240,13 @@ public abstract class PoSFMesh extends SoField {
     @FunctionalInterface
     protected interface ContainerCall {
         /**
-         * Adds the field to the node under the name, with the initial value's address (0 for none).
+         * Adds the field to the node under the name, with the initial value's address.
          *
          * @param handle the address of the field
          * @param container the address of the node that the field joins
          * @param name the field's name in the node
          * @param fieldType the kind of field, as the toolkit numbers it
-         * @param value the address of the initial value, 0 for none
+         * @param value the address of the initial value (never 0)
          */
         void call(long handle, long container, String name, int fieldType, long value);
     }
@@ -285,8 +285,9 @@ public abstract class PoSFMesh extends SoField {
      * @param container the node that the field joins
      * @param name the field's name in the node
      * @param fieldType the kind of field, as the toolkit numbers it
-     * @param initialValue the mesh the field starts with, or null
+     * @param initialValue the mesh the field starts with (a copy)
      * @param addFieldToContainerNative the native call that adds the field to the node
+     * @throws NullPointerException when container, name or initialValue is null: the field always takes a value
      */
     protected final void addToContainerWith(SoNode container, String name, int fieldType, PbMesh initialValue,
             ContainerCall addFieldToContainerNative) {

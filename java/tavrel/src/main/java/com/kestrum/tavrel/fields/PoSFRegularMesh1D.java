@@ -60,7 +60,8 @@ public class PoSFRegularMesh1D extends PoSFMesh {
      * @param container the node that the field joins
      * @param name the field's name in the node
      * @param fieldType the kind of field, as the toolkit numbers it
-     * @param initialValue the mesh the field starts with, or null
+     * @param initialValue the mesh the field starts with (a copy)
+     * @throws NullPointerException when container, name or initialValue is null: the field always takes a value
      */
     public void addToContainer(SoNode container, String name, int fieldType, PbRegularMesh1D initialValue) {
         addToContainerWith(container, name, fieldType, initialValue, this::addFieldToContainerNative);

@@ -136,6 +136,10 @@ class AttributeObjectsTest {
                 m.setMinThreshold(5, RED, 0.5f);
                 m.enableThresholds(true, true);
             }, m -> rounded(m.getHLSColor(0)), "hls(0.0000, 0.5000, 1.0000)"));
+            cases.add(trip(kind + "minimum threshold HLS colour", mapping, m -> {
+                m.setMinThreshold(5, new HlsColor(240, 0.5f, 1), 0.5f);
+                m.enableThresholds(true, false);
+            }, m -> rounded(m.getHLSColor(4)), "hls(240.0000, 0.5000, 1.0000)"));
             cases.add(trip(kind + "maximum threshold HLS colour", mapping, m -> {
                 m.setMaxThreshold(7, new HlsColor(120, 0.5f, 1), 0);
                 m.enableThresholds(false, true);
@@ -145,6 +149,12 @@ class AttributeObjectsTest {
                 m.setMaxThreshold(7);
                 m.enableThresholds(false, true);
             }, m -> rounded(m.getHLSColor(8)), "hls(120.0000, 0.5000, 1.0000)"));
+            cases.add(trip(kind + "minimum threshold value alone", mapping, m -> {
+                m.setMinThreshold(9, RED, 0);
+                m.setMinThreshold(2);
+                m.enableThresholds(true, false);
+            }, m -> List.of(rounded(m.getHLSColor(1)), rounded(m.getHLSColor(3))).toString(),
+                    "[hls(0.0000, 0.5000, 1.0000), " + rounded(mapping.get().getHLSColor(3)) + "]"));
             cases.add(trip(kind + "connection", mapping, m -> m.enableConnection(false), PbBase::isConnectionEnabled,
                     false));
         }

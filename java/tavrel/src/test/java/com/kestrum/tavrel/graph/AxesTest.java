@@ -169,6 +169,8 @@ class AxesTest {
             assertEquals(PoLogAxis.DecadeReps.DECADEAUTO, log.decadeRep());
             assertEquals(4, log.value());
             assertEquals(8, axis.getTick().subTicks());
+            assertEquals(new PoLogAxis.MultFactor(PoLogAxis.MultFactorPositions.MULTFACTOREND, 1),
+                    axis.getMultFactor());
         }
         try (PoLogAxis axis = new PoLogAxis(ORIGIN, 0, Types.XY, PoLogAxis.DecadeListDefs.DECADELISTNONAUTO,
                 new int[] {5, 40000, 2}, -2, 6)) {
@@ -191,6 +193,11 @@ class AxesTest {
             assertEquals(List.of("1", "10", "100", "1000"), log.getGraduations());
             assertEquals(new PoPolarAxis.MultFactor(PoPolarAxis.MultFactorPositions.MULTFACTOREND, 1),
                     log.getMultFactor());
+            PoPolarLogAxis.LogGrad logGrad = log.getLogGrad();
+            assertArrayEquals(new int[] {1}, logGrad.decades());
+            assertEquals(PoPolarLogAxis.TenPowGradReps.TENPOWERAUTO, logGrad.tenPowerRep());
+            assertEquals(PoPolarLogAxis.DecadeReps.DECADEAUTO, logGrad.decadeRep());
+            assertEquals(3, logGrad.value());
         }
     }
 
@@ -256,6 +263,20 @@ class AxesTest {
             assertEquals(List.of("0.00", "0.50", "1.00"), grad.labelList());
             assertEquals("Serif", grad.fontName());
             assertEquals("Serif", axis.getTitle().fontName());
+            axis.setFormat(null);
+            assertNull(axis.getFormat());
+            assertEquals(List.of("0", "0.5", "1"), axis.getGraduations());
+        }
+        try (PoPolarLinAxis axis = new PoPolarLinAxis(0, 0, 1, 1, 0.5f)) {
+            PbNumericDisplayFormat format = new PbNumericDisplayFormat(PbNumericDisplayFormat.FormatTypes.FLOATFORMAT,
+                    0, 1);
+            Journal.start();
+            axis.setFormat(format);
+            assertEquals(List.of("PoPolarLinAxis::setFormat(" + pointer(handle(format)) + ")"),
+                    Journal.linesStartingWith("PoPolarLinAxis::setFormat"));
+            Journal.stop();
+            assertSame(format, axis.getFormat());
+            assertEquals(List.of("0.0", "0.5", "1.0"), axis.getGraduations(), "rebuilt at once with the format");
             axis.setFormat(null);
             assertNull(axis.getFormat());
             assertEquals(List.of("0", "0.5", "1"), axis.getGraduations());
