@@ -26,17 +26,19 @@
 // journal's symbols and not load against the real toolkit.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <atomic>
 #include <string>
 #include <vector>
 
 class CallJournal {
  public:
-  static bool enabled() noexcept { return s_enabled.load(std::memory_order_relaxed); }
-  static void setEnabled(bool on) noexcept;
-  static void clear();
-  static std::vector<std::string> lines();
-  static void append(std::string line);
+  TAVREL_STANDIN_ONLY static bool enabled() noexcept { return s_enabled.load(std::memory_order_relaxed); }
+  TAVREL_STANDIN_ONLY static void setEnabled(bool on) noexcept;
+  TAVREL_STANDIN_ONLY static void clear();
+  TAVREL_STANDIN_ONLY static std::vector<std::string> lines();
+  TAVREL_STANDIN_ONLY static void append(std::string line);
 
   // Records the call when the journal is on. The check is inlined into the
   // recording function, so that an accessor of the stand-in costs no call
@@ -83,7 +85,7 @@ inline void journalFormat(std::string& out, std::nullptr_t) { out += "null"; }
 
 // A function pointer: "fn" or "null".
 struct JournalFn {
-  bool present;
+  TAVREL_STANDIN_ONLY bool present;
 };
 template <class F>
 JournalFn journalFn(F f) {
