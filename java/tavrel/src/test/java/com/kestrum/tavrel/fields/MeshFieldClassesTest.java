@@ -176,8 +176,9 @@ class MeshFieldClassesTest {
             kind.addToContainer().add(field, node, "mesh", 10, initial);
             assertEquals(List.of("SoFieldContainer::getFieldData()",
                     kind.name() + "::setValue(" + pointer(handle(initial)) + ")",
-                    "SoField::setContainer(" + pointer(handle(node)) + ")", "SoField::setFieldType(2)",
+                    "SoField::setContainer(" + pointer(handle(node)) + ")",
                     "SoFieldData::addField(null, \"mesh\", " + pointer(handle(field)) + ")"), fieldCalls());
+            assertEquals(2, Fields.fieldType(handle(field)), "the low three bits of 10");
             assertSame(field, node.getField("mesh"));
             assertEquals(handle(node), Fields.container(handle(field)));
             assertEquals(kind.nodes(), kind.value().apply(field).getNumNodes(), "the initial value, copied");
