@@ -31,6 +31,25 @@ public final class CoreCalls {
         return out;
     }
 
+    /** A toolkit call in a recording with the toolkit's calls ({@link JniCalls#recordWithToolkit}). */
+    public static String toolkit(String journalLine) {
+        return JniCalls.TOOLKIT + journalLine;
+    }
+
+    /**
+     * The calls, with each toolkit call shortened to {@code "toolkit: "} and its function's
+     * qualified name ({@code "toolkit: PbMesh::addValuesSet"}), for rows that hold where the
+     * toolkit is called rather than what it receives.
+     */
+    public static List<String> toolkitByName(List<String> calls) {
+        List<String> out = new ArrayList<>(calls.size());
+        for (String c : calls) {
+            int paren = c.indexOf('(');
+            out.add(c.startsWith(JniCalls.TOOLKIT) && paren > 0 ? c.substring(0, paren) : c);
+        }
+        return out;
+    }
+
     /** The call n times. */
     public static List<String> times(int n, Object... calls) {
         List<String> one = sequence(calls);
