@@ -19,27 +19,35 @@
 namespace tavrel {
 
 // The arguments of one axis constructor, converted in the order they are
-// asked for: points ReadWrite (the toolkit reads the array's buffer as the
-// vector; the array is copied back unchanged), decade lists ReadOnly as
-// unsigned shorts, strings as UTF-8. Everything is released when the object
-// is destroyed: the string-array helper, the string helpers, then the arrays.
+// asked for, before the node is allocated: points ReadWrite (the toolkit
+// reads the array's buffer as the vector; the array is copied back
+// unchanged), decade lists ReadOnly as unsigned shorts, strings as UTF-8. Two
+// ArrayHelpers are made first, the first for the first array converted, the
+// second for the next. Everything is released when the object is destroyed:
+// the string-array helper, the string helpers, then the array helpers.
 class AxisArguments {
  public:
-  explicit AxisArguments(JNIEnv* env) : env(env), arrays(env) {}
+  explicit AxisArguments(JNIEnv* env) : env(env), first(env), second(env) {}
 
   const SbVec3f& vec3(jfloatArray point) {
-    return *reinterpret_cast<const SbVec3f*>(arrays.toNativeArray(point, ArrayHelper::ReadWrite));
+    return *reinterpret_cast<const SbVec3f*>(nextArrays().toNativeArray(point, ArrayHelper::ReadWrite));
   }
   const SbVec2f& vec2(jfloatArray point) {
-    return *reinterpret_cast<const SbVec2f*>(arrays.toNativeArray(point, ArrayHelper::ReadWrite));
+    return *reinterpret_cast<const SbVec2f*>(nextArrays().toNativeArray(point, ArrayHelper::ReadWrite));
   }
-  const unsigned short* decades(jshortArray list) { return arrays.toUnsignedNativeArray(list, ArrayHelper::ReadOnly); }
+  const unsigned short* decades(jshortArray list) {
+    return nextArrays().toUnsignedNativeArray(list, ArrayHelper::ReadOnly);
+  }
   const char* text(jstring s) { return texts[used++].emplace(env, s).toUTFString(); }
   const char** strings(jobjectArray list) { return labels.emplace(env, list).toUTFStringArray(); }
 
  private:
+  ArrayHelper& nextArrays() { return arrays++ == 0 ? first : second; }
+
   JNIEnv* env;
-  ArrayHelper arrays;
+  ArrayHelper first;
+  ArrayHelper second;
+  int arrays = 0;
   std::optional<StringHelper> texts[3];
   int used = 0;
   std::optional<StringArrayHelper> labels;
@@ -48,8 +56,8 @@ class AxisArguments {
 // A count the toolkit takes as a short: the low 16 bits of the int.
 inline short narrowCount(jint count) { return static_cast<short>(count); }
 
-// Constructor function: make(arguments) converts what it needs and returns
-// the new node (a braced list keeps the conversions in argument order).
+// Constructor function: make(arguments) converts what it needs, in order,
+// then allocates and returns the new node.
 template <class Make>
 inline jlong constructAxis(JNIEnv* env, Make make) {
   AxisArguments in(env);

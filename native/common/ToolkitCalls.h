@@ -13,7 +13,9 @@
 #include <Corvel/SbString.h>
 
 #include <cstddef>
+#include <optional>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 #include "common/FloatLayoutedArrayTypeArrayHelper.h"
@@ -73,21 +75,35 @@ inline decltype(auto) callConvertedFromLast(Convert& in, F&& f, const Tuple& arg
 }
 }  // namespace detail
 
-// As withInputs, but the conversions run from the last argument to the first
-// (a braced list fixes the order); f still gets the arguments in their order.
-template <class F, class... Args>
-inline decltype(auto) withInputsFromLast(JNIEnv* env, F&& f, Args... args) {
-  Inputs in(env);
-  return detail::callConvertedFromLast(in, std::forward<F>(f), std::make_tuple(args...),
-                                       std::index_sequence_for<Args...>());
-}
+// As Inputs, with an ArrayHelper of its own for each of the N arrays, all
+// made first; each conversion takes the next helper.
+template <std::size_t N>
+class InputsEach {
+ public:
+  explicit InputsEach(JNIEnv* env) {
+    for (auto& h : helpers) h.emplace(env);
+  }
+  const float* operator()(jfloatArray a) { return next().toNativeArray(a, ArrayHelper::ReadOnly); }
+  const int* operator()(jintArray a) { return next().toNativeArray(a, ArrayHelper::ReadOnly); }
+  int operator()(jint v) { return v; }
+  float operator()(jfloat v) { return v; }
 
-// receiver->setGeometry(...) with the converted arguments, the arrays
-// converted ReadOnly from the last array to the first and released after the
-// call; scalars pass unchanged.
+ private:
+  ArrayHelper& next() { return *helpers[used++]; }
+  std::optional<ArrayHelper> helpers[N + 1];
+  std::size_t used = 0;
+};
+
+// receiver->setGeometry(...) with the converted arguments: one ArrayHelper per
+// array argument, made first; the arrays converted ReadOnly from the last
+// array to the first and released after the call; scalars pass unchanged.
 template <class Receiver, class... Args>
 inline void setGeometryOf(JNIEnv* env, Receiver* receiver, Args... args) {
-  withInputsFromLast(env, [receiver](auto... a) { receiver->setGeometry(a...); }, args...);
+  constexpr std::size_t arrays =
+      (std::size_t{0} + ... + (std::is_same_v<Args, jfloatArray> || std::is_same_v<Args, jintArray> ? 1 : 0));
+  InputsEach<arrays> in(env);
+  detail::callConvertedFromLast(in, [receiver](auto... a) { receiver->setGeometry(a...); }, std::make_tuple(args...),
+                                std::index_sequence_for<Args...>());
 }
 
 // Constructor function body: a new T from the converted arguments.

@@ -97,7 +97,8 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_graph_PbDomain_get3DDomainImpl(JN
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_graph_PbDomain_getMatrixImpl(JNIEnv* env, jobject, jlong handle,
                                                                           jfloatArray matrix) {
   ArrayHelper helper(env);
-  valueIn<SbMatrix>(helper, matrix, kReadWrite) = domain(handle)->getMatrix();
+  SbMatrix& target = valueIn<SbMatrix>(helper, matrix, kReadWrite);  // converted before the call
+  target = domain(handle)->getMatrix();
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_graph_PbDomain_setTransformTypeImpl(JNIEnv*, jobject, jlong handle,

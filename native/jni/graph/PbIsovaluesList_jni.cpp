@@ -20,23 +20,27 @@ using tavrel::fromHandle;
 namespace {
 PbIsovaluesList* list(jlong handle) { return fromHandle<PbIsovaluesList>(handle); }
 
-// getIsoList with its five results stored, in order, into element 0 of the
-// five outputs; returns the list, whose count is in `count`.
-const float* isoList(JNIEnv* env, jlong handle, jintArray num, jfloatArray min, jfloatArray max, jfloatArray step,
-                     jbooleanArray regular, int& count) {
+// The five results of getIsoList, each starting at 0, and the list.
+struct IsoList {
+  int count = 0;
   float lo = 0.0f;
   float hi = 0.0f;
   float delta = 0.0f;
   SbBool isRegular = 0;
-  count = 0;
-  const float* values = list(handle)->getIsoList(count, lo, hi, delta, isRegular);
-  tavrel::writeOutput(env, num, count);
-  tavrel::writeOutput(env, min, lo);
-  tavrel::writeOutput(env, max, hi);
-  tavrel::writeOutput(env, step, delta);
-  tavrel::writeOutput(env, regular, isRegular);
-  return values;
-}
+  const float* values = nullptr;
+
+  explicit IsoList(jlong handle) { values = list(handle)->getIsoList(count, lo, hi, delta, isRegular); }
+
+  // The results into element 0 of the five outputs, in order.
+  void store(JNIEnv* env, jintArray num, jfloatArray min, jfloatArray max, jfloatArray step,
+             jbooleanArray regular) const {
+    tavrel::writeOutput(env, num, count);
+    tavrel::writeOutput(env, min, lo);
+    tavrel::writeOutput(env, max, hi);
+    tavrel::writeOutput(env, step, delta);
+    tavrel::writeOutput(env, regular, isRegular);
+  }
+};
 }  // namespace
 
 extern "C" {
@@ -110,17 +114,19 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_graph_PbIsovaluesList_setIrregula
 JNIEXPORT jfloatArray JNICALL Java_com_kestrum_tavrel_graph_PbIsovaluesList_getIsoListImpl(
     JNIEnv* env, jobject, jlong handle, jintArray num, jfloatArray min, jfloatArray max, jfloatArray step,
     jbooleanArray regular) {
-  int count = 0;
-  const float* values = isoList(env, handle, num, min, max, step, regular, count);
-  return ArrayHelper::fromNativeArray(env, values, static_cast<unsigned long>(count));
+  const IsoList iso(handle);
+  iso.store(env, num, min, max, step, regular);
+  return ArrayHelper::fromNativeArray(env, iso.values, static_cast<unsigned long>(iso.count));
 }
 
+// The buffer is made before the outputs are written.
 JNIEXPORT jobject JNICALL Java_com_kestrum_tavrel_graph_PbIsovaluesList_getDirectIsoListImpl(
     JNIEnv* env, jobject, jlong handle, jintArray num, jfloatArray min, jfloatArray max, jfloatArray step,
     jbooleanArray regular) {
-  int count = 0;
-  const float* values = isoList(env, handle, num, min, max, step, regular, count);
-  return tavrel::directBuffer(env, values, sizeof(float) * static_cast<std::size_t>(count));
+  const IsoList iso(handle);
+  jobject buffer = tavrel::directBuffer(env, iso.values, sizeof(float) * static_cast<std::size_t>(iso.count));
+  iso.store(env, num, min, max, step, regular);
+  return buffer;
 }
 
 }  // extern "C"

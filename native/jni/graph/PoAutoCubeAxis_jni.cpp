@@ -33,9 +33,13 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoAutoCubeAxis_ctorImpl1(J
                                                                                jint yType, jint zType, jstring xTitle,
                                                                                jstring yTitle, jstring zTitle) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoAutoCubeAxis{in.vec3(start), in.vec3(end), toEnum<PoAutoCubeAxis::AxisType>(xType),
-                              toEnum<PoAutoCubeAxis::AxisType>(yType), toEnum<PoAutoCubeAxis::AxisType>(zType),
-                              in.text(xTitle), in.text(yTitle), in.text(zTitle)};
+    const SbVec3f& s = in.vec3(start);
+    const SbVec3f& e = in.vec3(end);
+    const char* x = in.text(xTitle);
+    const char* y = in.text(yTitle);
+    const char* z = in.text(zTitle);
+    return new PoAutoCubeAxis{s, e, toEnum<PoAutoCubeAxis::AxisType>(xType), toEnum<PoAutoCubeAxis::AxisType>(yType),
+                              toEnum<PoAutoCubeAxis::AxisType>(zType), x, y, z};
   });
 }
 

@@ -34,8 +34,12 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoCoordinateSystemAxis_cto
                                                                                        jfloat gradDistance,
                                                                                        jfloat arrowLength) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoCoordinateSystemAxis{in.vec3(start), in.vec3(end), in.text(xTitle), in.text(yTitle), in.text(zTitle),
-                                      gradDistance, arrowLength};
+    const SbVec3f& s = in.vec3(start);
+    const SbVec3f& e = in.vec3(end);
+    const char* x = in.text(xTitle);
+    const char* y = in.text(yTitle);
+    const char* z = in.text(zTitle);
+    return new PoCoordinateSystemAxis{s, e, x, y, z, gradDistance, arrowLength};
   });
 }
 

@@ -31,8 +31,9 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGenAxis_ctorImpl1(JNIEnv
                                                                           jfloat end, jint type, jobjectArray grads,
                                                                           jint count) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoGenAxis{in.vec3(start), end, toEnum<PoCartesianAxis::Type>(type), in.strings(grads),
-                         tavrel::narrowCount(count)};
+    const SbVec3f& s = in.vec3(start);
+    const char** g = in.strings(grads);
+    return new PoGenAxis{s, end, toEnum<PoCartesianAxis::Type>(type), g, tavrel::narrowCount(count)};
   });
 }
 

@@ -31,8 +31,11 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup2Axis_ctorImpl1(JNI
                                                                              jfloatArray end, jint xType, jint yType,
                                                                              jstring xTitle, jstring yTitle) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoGroup2Axis{in.vec2(start), in.vec2(end), toEnum<PoGroup2Axis::AxisType>(xType),
-                            toEnum<PoGroup2Axis::AxisType>(yType), in.text(xTitle), in.text(yTitle)};
+    const SbVec2f& s = in.vec2(start);
+    const SbVec2f& e = in.vec2(end);
+    const char* x = in.text(xTitle);
+    const char* y = in.text(yTitle);
+    return new PoGroup2Axis{s, e, toEnum<PoGroup2Axis::AxisType>(xType), toEnum<PoGroup2Axis::AxisType>(yType), x, y};
   });
 }
 

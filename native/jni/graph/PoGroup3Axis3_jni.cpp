@@ -33,10 +33,14 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup3Axis3_ctorImpl1(JN
                                                                               jstring xTitle, jstring yTitle,
                                                                               jstring zTitle) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoGroup3Axis3{in.vec3(start), in.vec3(end), toEnum<PoGroup3Axis3::AxisType>(xType),
-                             toEnum<PoGroup3Axis3::AxisType>(yType), toEnum<PoGroup3Axis3::AxisType>(zType),
-                             toEnum<PoGroup3Axis3::AxisName>(axisName), in.text(xTitle), in.text(yTitle),
-                             in.text(zTitle)};
+    const SbVec3f& s = in.vec3(start);
+    const SbVec3f& e = in.vec3(end);
+    const char* x = in.text(xTitle);
+    const char* y = in.text(yTitle);
+    const char* z = in.text(zTitle);
+    return new PoGroup3Axis3{s, e, toEnum<PoGroup3Axis3::AxisType>(xType), toEnum<PoGroup3Axis3::AxisType>(yType),
+                             toEnum<PoGroup3Axis3::AxisType>(zType), toEnum<PoGroup3Axis3::AxisName>(axisName), x, y,
+                             z};
   });
 }
 

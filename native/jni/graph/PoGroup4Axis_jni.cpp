@@ -31,8 +31,11 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup4Axis_ctorImpl1(JNI
                                                                              jfloatArray end, jint xType, jint yType,
                                                                              jstring xTitle, jstring yTitle) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoGroup4Axis{in.vec2(start), in.vec2(end), toEnum<PoGroup4Axis::AxisType>(xType),
-                            toEnum<PoGroup4Axis::AxisType>(yType), in.text(xTitle), in.text(yTitle)};
+    const SbVec2f& s = in.vec2(start);
+    const SbVec2f& e = in.vec2(end);
+    const char* x = in.text(xTitle);
+    const char* y = in.text(yTitle);
+    return new PoGroup4Axis{s, e, toEnum<PoGroup4Axis::AxisType>(xType), toEnum<PoGroup4Axis::AxisType>(yType), x, y};
   });
 }
 

@@ -32,9 +32,13 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoGroup6Axis3_ctorImpl1(JN
                                                                               jint zType, jstring xTitle,
                                                                               jstring yTitle, jstring zTitle) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoGroup6Axis3{in.vec3(start), in.vec3(end), toEnum<PoGroup6Axis3::AxisType>(xType),
-                             toEnum<PoGroup6Axis3::AxisType>(yType), toEnum<PoGroup6Axis3::AxisType>(zType),
-                             in.text(xTitle), in.text(yTitle), in.text(zTitle)};
+    const SbVec3f& s = in.vec3(start);
+    const SbVec3f& e = in.vec3(end);
+    const char* x = in.text(xTitle);
+    const char* y = in.text(yTitle);
+    const char* z = in.text(zTitle);
+    return new PoGroup6Axis3{s, e, toEnum<PoGroup6Axis3::AxisType>(xType), toEnum<PoGroup6Axis3::AxisType>(yType),
+                             toEnum<PoGroup6Axis3::AxisType>(zType), x, y, z};
   });
 }
 

@@ -33,7 +33,8 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoLinearAxis_ctorImpl(JNIE
 JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoLinearAxis_ctorImpl1(JNIEnv* env, jclass, jfloatArray start,
                                                                              jfloat end, jint type, jfloat step) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoLinearAxis{in.vec3(start), end, toEnum<PoCartesianAxis::Type>(type), 0.0f, 0.0f, step};
+    const SbVec3f& s = in.vec3(start);
+    return new PoLinearAxis{s, end, toEnum<PoCartesianAxis::Type>(type), 0.0f, 0.0f, step};
   });
 }
 
@@ -41,7 +42,8 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoLinearAxis_ctorImpl2(JNI
                                                                              jfloat end, jint type, jfloat gradStart,
                                                                              jfloat gradEnd, jfloat step) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoLinearAxis{in.vec3(start), end, toEnum<PoCartesianAxis::Type>(type), gradStart, gradEnd, step};
+    const SbVec3f& s = in.vec3(start);
+    return new PoLinearAxis{s, end, toEnum<PoCartesianAxis::Type>(type), gradStart, gradEnd, step};
   });
 }
 

@@ -32,8 +32,9 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoLogAxis_ctorImpl1(JNIEnv
                                                                           jfloat end, jint type, jint decadeListDef,
                                                                           jshortArray decades, jint count) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoLogAxis{in.vec3(start), end, toEnum<PoCartesianAxis::Type>(type),
-                         toEnum<PoLogAxis::DecadeListDef>(decadeListDef), in.decades(decades),
+    const SbVec3f& s = in.vec3(start);
+    const unsigned short* d = in.decades(decades);
+    return new PoLogAxis{s, end, toEnum<PoCartesianAxis::Type>(type), toEnum<PoLogAxis::DecadeListDef>(decadeListDef), d,
                          tavrel::narrowCount(count), 0.0f, 0.0f};
   });
 }
@@ -43,8 +44,9 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoLogAxis_ctorImpl2(JNIEnv
                                                                           jshortArray decades, jint count,
                                                                           jfloat expStart, jfloat expEnd) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoLogAxis{in.vec3(start), end, toEnum<PoCartesianAxis::Type>(type),
-                         toEnum<PoLogAxis::DecadeListDef>(decadeListDef), in.decades(decades),
+    const SbVec3f& s = in.vec3(start);
+    const unsigned short* d = in.decades(decades);
+    return new PoLogAxis{s, end, toEnum<PoCartesianAxis::Type>(type), toEnum<PoLogAxis::DecadeListDef>(decadeListDef), d,
                          tavrel::narrowCount(count), expStart, expEnd};
   });
 }

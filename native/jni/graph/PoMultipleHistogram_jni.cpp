@@ -25,13 +25,18 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoMultipleHistogram_ctorIm
   return tavrel::construct<PoMultipleHistogram>();
 }
 
+// The origin is converted ReadWrite (copied back unchanged), then the two
+// name lists, then the values.
 JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoMultipleHistogram_ctorImpl1(
     JNIEnv* env, jclass, jfloatArray origin, jfloat histogSize, jint type, jint numHistog, jint numValues,
     jfloatArray values, jobjectArray histogNames, jobjectArray valueNames) {
-  return tavrel::constructFromJava<PoMultipleHistogram>(env, tavrel::point2(origin), histogSize,
-                                                        tavrel::as<PoHistogram::Type>(type), numHistog, numValues,
-                                                        values, tavrel::utf8(histogNames),
-                                                        tavrel::utf8(valueNames));
+  return tavrel::constructInOrder(
+      env,
+      [=](const SbVec2f& o, const char** histogs, const char** valueLabels, const float* v) {
+        return tavrel::construct<PoMultipleHistogram>(o, histogSize, tavrel::toEnum<PoHistogram::Type>(type), numHistog,
+                                                      numValues, v, histogs, valueLabels);
+      },
+      tavrel::point2(origin), tavrel::utf8(histogNames), tavrel::utf8(valueNames), values);
 }
 
 // PoMultipleHistogram.HistogPaths

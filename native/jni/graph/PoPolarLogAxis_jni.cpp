@@ -32,8 +32,9 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoPolarLogAxis_ctorImpl1(J
                                                                                jint decadeListDef,
                                                                                jshortArray decades, jint count) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoPolarLogAxis{x0, y0, x1, y1, toEnum<PoPolarLogAxis::DecadeListDef>(decadeListDef),
-                              in.decades(decades), tavrel::narrowCount(count)};
+    const unsigned short* d = in.decades(decades);
+    return new PoPolarLogAxis{x0, y0, x1, y1, toEnum<PoPolarLogAxis::DecadeListDef>(decadeListDef), d,
+                              tavrel::narrowCount(count)};
   });
 }
 

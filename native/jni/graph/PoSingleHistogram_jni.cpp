@@ -25,13 +25,17 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoSingleHistogram_ctorImpl
   return tavrel::construct<PoSingleHistogram>();
 }
 
-// The origin is converted ReadWrite and copied back unchanged.
+// The origin is converted ReadWrite (copied back unchanged), then the names,
+// then the values.
 JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoSingleHistogram_ctorImpl1(
     JNIEnv* env, jclass, jfloatArray origin, jfloat histogSize, jint type, jint numValues, jfloatArray values,
     jobjectArray names) {
-  return tavrel::constructFromJava<PoSingleHistogram>(env, tavrel::point2(origin), histogSize,
-                                                      tavrel::as<PoHistogram::Type>(type), numValues, values,
-                                                      tavrel::utf8(names));
+  return tavrel::constructInOrder(
+      env,
+      [=](const SbVec2f& o, const char** n, const float* v) {
+        return tavrel::construct<PoSingleHistogram>(o, histogSize, tavrel::toEnum<PoHistogram::Type>(type), numValues, v, n);
+      },
+      tavrel::point2(origin), tavrel::utf8(names), values);
 }
 
 }  // extern "C"

@@ -33,7 +33,9 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_graph_PoTimeAxis_ctorImpl1(JNIEn
                                                                            jstring date2, jfloat position,
                                                                            jint type) {
   return tavrel::constructAxis(env, [=](tavrel::AxisArguments& in) {
-    return new PoTimeAxis{in.text(date1), in.text(date2), position, toEnum<PoTimeAxis::Type>(type)};
+    const char* from = in.text(date1);
+    const char* to = in.text(date2);
+    return new PoTimeAxis{from, to, position, toEnum<PoTimeAxis::Type>(type)};
   });
 }
 
