@@ -10,6 +10,7 @@ import com.kestrum.tavrel.testkit.JniCalls;
 import com.kestrum.tavrel.testkit.NativeMethods;
 import java.lang.reflect.Method;
 import java.util.ArrayList;
+import java.util.Collections;
 import java.util.List;
 import java.util.stream.Stream;
 import org.junit.jupiter.api.Test;
@@ -19,7 +20,8 @@ import org.junit.jupiter.params.provider.MethodSource;
 
 /**
  * Every setGeometry of the meshes, mesh nodes and mesh fields: each array argument converted
- * ReadOnly, in the order of the arguments, and then the toolkit's setGeometry (of the node or
+ * ReadOnly (a mesh's in the order of the arguments, a mesh node's or field's from the last array
+ * to the first), and then the toolkit's setGeometry (of the node or
  * field, and of the mesh it holds), nothing after it.
  * One row per native method, found by reflection; the arrays have distinct lengths, counts are 0.
  */
@@ -40,12 +42,17 @@ class GeometryCallsTest {
         Object receiver = NativeMethods.newInstance(method.getDeclaringClass());
         assertNotNull(receiver, "no object for " + name);
         Object[] args = NativeMethods.arguments(method, receiver);
-        List<String> expected = new ArrayList<>();
+        List<List<String>> conversions = new ArrayList<>();
         for (Object a : args) {
             if (a != null && a.getClass().isArray()) {
-                expected.addAll(array(NativeMethods.kind(a.getClass()), java.lang.reflect.Array.getLength(a)));
+                conversions.add(array(NativeMethods.kind(a.getClass()), java.lang.reflect.Array.getLength(a)));
             }
         }
+        if (!method.getDeclaringClass().getPackageName().endsWith(".data")) {
+            Collections.reverse(conversions);
+        }
+        List<String> expected = new ArrayList<>();
+        conversions.forEach(expected::addAll);
         NativeMethods.invoke(method, receiver, args);
         List<String> calls = toolkitByName(JniCalls.recordWithToolkit(() ->
                 NativeMethods.invoke(method, receiver, NativeMethods.arguments(method, receiver))).calls());
