@@ -1,7 +1,9 @@
 package com.kestrum.tavrel.elements;
 
 import static com.kestrum.tavrel.testkit.CoreCalls.GET_ENV;
+import static com.kestrum.tavrel.testkit.CoreCalls.readString;
 import static com.kestrum.tavrel.testkit.CoreCalls.sequence;
+import static com.kestrum.tavrel.testkit.CoreCalls.toolkit;
 import static com.kestrum.tavrel.testkit.CoreCalls.throwIllegalArgument;
 import static org.junit.jupiter.api.Assertions.assertAll;
 import static org.junit.jupiter.api.Assertions.assertEquals;
@@ -11,6 +13,8 @@ import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.tavrel.testkit.Elements;
 import com.kestrum.tavrel.testkit.JniCalls;
+import com.kestrum.tavrel.testkit.NativeMethods;
+import java.lang.reflect.Method;
 import java.util.ArrayList;
 import java.util.List;
 import java.util.function.Supplier;
@@ -26,6 +30,8 @@ import org.junit.jupiter.params.provider.MethodSource;
  * Java object, the one Java call, then the exception check (reported as IllegalArgumentException
  * naming the class and the operation), or the result's handle for a copy; the local references
  * deleted. One row per element class; its operations are called as the traversal state calls them.
+ * Also, per class, the binding of a new element to its peer, its destruction, and the
+ * protected-method guard of initImpl.
  */
 class ElementForwardingCallsTest {
     /** Whether the overrides throw; what copyMatchInfo returns. */
@@ -221,6 +227,63 @@ class ElementForwardingCallsTest {
         }
         assertEquals(13, checks.size());
         assertAll(checks);
+    }
+
+    /**
+     * initCustomClass, run by the constructor of a class's second object: the type name read, the
+     * type found by name (the toolkit's call, between the JNI calls), the peer's global reference,
+     * then the stack index and key returned as a new int[2]; the destructor deletes that
+     * reference, and the Java object's weak one goes with it.
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("classes")
+    void bindingAndDestruction(String className, Supplier<SoElement> make) {
+        make.get().dispose(); // the class's type is made by its first object
+        SoElement[] made = new SoElement[1];
+        List<String> binding = JniCalls.recordWithToolkit(() -> made[0] = make.get()).calls();
+        String typeName = made[0].getClass().getName();
+        assertEquals(sequence("NewWeakGlobalRef()", readString(typeName.length()),
+                toolkit("SoType::fromName(\"" + typeName + "\")"), "NewGlobalRef()", "ExceptionCheck() -> false",
+                "NewIntArray(2)", "SetIntArrayRegion(0, 2)"), binding, className + " initCustomClass");
+        List<String> destruction = JniCalls.recordWithToolkit(made[0]::dispose).calls();
+        assertEquals(List.of("DeleteWeakGlobalRef()", GET_ENV, "DeleteGlobalRef()"), destruction,
+                className + " destructor");
+    }
+
+    /**
+     * initImpl of every class: refused on 0 and on a toolkit element (FindClass, ThrowNew,
+     * nothing else); on a Java element the toolkit class's init, with no JNI call.
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("classes")
+    void initImplGuard(String className, Supplier<SoElement> make) throws ReflectiveOperationException {
+        Class<?> base = make.get().getClass().getSuperclass();
+        Method initImpl = base.getDeclaredMethod("initImpl", long.class, long.class);
+        initImpl.setAccessible(true);
+        int stackIndex = (Integer) base.getMethod("getClassStackIndex").invoke(null);
+        List<String> refusal = List.of(
+                "FindClass(\"java/lang/IllegalAccessException\") -> Ljava/lang/IllegalAccessException;",
+                "ThrowNew(Ljava/lang/IllegalAccessException;, \"Call of protected methods not allowed.\") -> 0");
+        SoElement element = make.get();
+        try {
+            Traversal.run(state -> {
+                long s = state.getNativeResourceHandleInternal();
+                long plain = Elements.topElement(s, stackIndex);
+                for (long target : new long[] {0L, plain}) {
+                    JniCalls.recordThrowing(() -> NativeMethods.invoke(initImpl, null, new Object[] {target, s}));
+                    JniCalls.Recording r = JniCalls.recordThrowing(() ->
+                            NativeMethods.invoke(initImpl, null, new Object[] {target, s}));
+                    assertInstanceOf(IllegalAccessException.class, r.thrown(), className);
+                    assertEquals(refusal, r.calls(), className + (target == 0 ? " on 0" : " on a toolkit element"));
+                }
+                long e = element.getNativeResourceHandleInternal();
+                throwing = false;
+                assertEquals(List.of(), JniCalls.record(() ->
+                        NativeMethods.invoke(initImpl, null, new Object[] {e, s})).calls(), className);
+            });
+        } finally {
+            element.dispose();
+        }
     }
 
     /**
