@@ -106,6 +106,32 @@ public final class CoreCalls {
                 : List.of("GetStringLength() -> " + length, "GetStringRegion(0, " + length + ")");
     }
 
+    /**
+     * A vector-object array of n vectors of the class (a signature) read into a temporary native
+     * array: element 0's class and field looked up once, then each vector's floats.
+     */
+    public static List<String> vectorArray(int n, String vectorClass) {
+        List<String> calls = new ArrayList<>(List.of("GetArrayLength() -> " + n, "GetObjectArrayElement(0)",
+                "GetObjectClass() -> " + vectorClass, "GetFieldID(" + vectorClass + ", \"array\", \"[F\")",
+                "DeleteLocalRef()", "DeleteLocalRef()"));
+        for (int i = 0; i < n; i++) {
+            calls.addAll(List.of("GetObjectArrayElement(" + i + ")", "GetObjectField(array)", "GetFloatArrayElements()",
+                    "ReleaseFloatArrayElements(JNI_ABORT)", "DeleteLocalRef()", "DeleteLocalRef()"));
+        }
+        return calls;
+    }
+
+    /** A {@code StringArrayHelper} reading a Java String[] of non-null elements of those lengths. */
+    public static List<String> stringArray(int... lengths) {
+        List<String> calls = new ArrayList<>(List.of("GetArrayLength() -> " + lengths.length));
+        for (int i = 0; i < lengths.length; i++) {
+            calls.add("GetObjectArrayElement(" + i + ")");
+            calls.addAll(readString(lengths[i]));
+            calls.add("DeleteLocalRef()");
+        }
+        return calls;
+    }
+
     /** {@code ObjectHelper::getEnumValue} of a constant of the enumeration class (a signature). */
     public static List<String> enumValue(String enumClass, int value) {
         return List.of("GetObjectClass() -> " + enumClass, "GetMethodID(" + enumClass + ", \"getValue\", \"()I\")",
