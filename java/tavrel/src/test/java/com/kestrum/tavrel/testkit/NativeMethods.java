@@ -103,9 +103,14 @@ public final class NativeMethods {
      * on (so that the order of their conversions shows).
      */
     public static Object[] arguments(Method m, Object receiver) {
+        return arguments(m, receiver, 2);
+    }
+
+    /** As {@link #arguments(Method, Object)}, the first array of the given length. */
+    public static Object[] arguments(Method m, Object receiver, int firstLength) {
         Class<?>[] types = m.getParameterTypes();
         Object[] args = new Object[types.length];
-        int nextLength = 2;
+        int nextLength = firstLength;
         for (int i = 0; i < types.length; i++) {
             Class<?> t = types[i];
             if (i == 0 && t == long.class) {
