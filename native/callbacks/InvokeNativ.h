@@ -3,7 +3,7 @@
 
 #include <jni.h>
 
-#include <CorvelJNI/DebugOutput.h>
+#include "common/DebugLine.h"
 #include <CorvelJNI/ICustomClass.h>
 #include <CorvelJNI/JNIEnvHelper.h>
 
@@ -32,7 +32,7 @@ inline void invokeNativ(const ICustomClass& bridge, const char* signature, Handl
   jobject stored = javaPeerOf(bridge);
   jobject live = env->NewLocalRef(stored);
   if (live == nullptr) {
-    PRINTDBG("DEBUG: Java callback object has been freed!\n");
+    tavrel::printDebug("DEBUG: Java callback object has been freed!\n");
     return;
   }
   jclass cls = env->GetObjectClass(stored);

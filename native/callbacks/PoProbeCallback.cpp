@@ -8,11 +8,11 @@
 static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 void PoProbeCallback::RealCallback(void* userData, PoMeshProbePoint* probe, const PbCell* cell) {
-  PRINTDBG("DEBUG: NTV MTHD->PoProbeCallback::RealCallback\n");
+  tavrel::printDebug("DEBUG: NTV MTHD->PoProbeCallback::RealCallback\n");
   static_cast<PoProbeCallback*>(userData)->invoke(probe, cell);
 }
 
 void PoProbeCallback::invoke(PoMeshProbePoint* probe, const PbCell* cell) {
-  PRINTDBG("DEBUG: NTV MTHD->PoProbeCallback::invoke\n");
+  tavrel::printDebug("DEBUG: NTV MTHD->PoProbeCallback::invoke\n");
   tavrel::invokeNativ(*this, "(JJ)V", tavrel::toHandle(probe), tavrel::toHandle(cell));
 }

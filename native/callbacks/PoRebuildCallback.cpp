@@ -8,11 +8,11 @@
 static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 
 void PoRebuildCallback::RealCallback(void* userData, PoBase* node) {
-  PRINTDBG("DEBUG: NTV MTHD->PoRebuildCallback::RealCallback\n");
+  tavrel::printDebug("DEBUG: NTV MTHD->PoRebuildCallback::RealCallback\n");
   static_cast<PoRebuildCallback*>(userData)->invoke(node);
 }
 
 void PoRebuildCallback::invoke(PoBase* node) {
-  PRINTDBG("DEBUG: NTV MTHD->PoRebuildCallback::invoke\n");
+  tavrel::printDebug("DEBUG: NTV MTHD->PoRebuildCallback::invoke\n");
   tavrel::invokeNativ(*this, "(J)V", tavrel::toHandle(node));
 }

@@ -8,9 +8,16 @@
 #include <Corvel/SoNode.h>
 #include <CorvelJNI/StringHelper.h>
 
+#include <type_traits>
+#include <utility>
+
 #include "common/Handles.h"
 
 namespace tavrel {
+
+// The class of the value a field holds: what its getValue gives.
+template <class Field>
+using FieldValue = std::decay_t<decltype(std::declval<Field&>().getValue())>;
 
 // The address of the value inside the field (the field's inline getValue:
 // evaluated first when the field says it must). Nothing is copied.
@@ -22,7 +29,7 @@ inline jlong fieldValue(jlong field) {
 // field.setValue(value) with the value the handle designates.
 template <class Field>
 inline void setFieldValue(jlong field, jlong value) {
-  fromHandle<Field>(field)->setValue(*fromHandle<const typename Field::ValueType>(value));
+  fromHandle<Field>(field)->setValue(*fromHandle<const FieldValue<Field>>(value));
 }
 
 // field == other, the toolkit's int flag as a jboolean.
@@ -42,9 +49,9 @@ inline void addFieldToContainer(JNIEnv* env, jlong field, jlong container, jstri
   Field* f = fromHandle<Field>(field);
   SoFieldContainer* owner = fromHandle<SoNode>(container);
   SoFieldData* data = const_cast<SoFieldData*>(owner->getFieldData());
-  f->setValue(*fromHandle<const typename Field::ValueType>(value));
+  f->setValue(*fromHandle<const FieldValue<Field>>(value));
   f->setContainer(owner);
-  f->setFieldType(fieldType & 7);
+  f->flags.fieldType = static_cast<unsigned int>(fieldType) & 7u;  // the other flags stay
   StringHelper utf(env, name);
   data->addField(nullptr, utf.toUTFString(), f);
 }

@@ -31,7 +31,7 @@ inline void setVectorValues(JNIEnv* env, Receiver* receiver, jfloatArray min, jf
 // The five outputs of getIsoList (an int[], three float[] and a boolean[],
 // each of at least one element) and the list the call returned. The helpers
 // are made first; after the call, each output is converted ReadWrite and gets
-// its result in element 0 (the flag as a whole int); the helpers copy back
+// its result in element 0 (the flag through storeFlag); the helpers copy back
 // to Java when this object is destroyed, the last output first.
 class IsoListOutputs {
  public:
@@ -53,7 +53,7 @@ class IsoListOutputs {
     minHelper.toNativeArray(minOut, ArrayHelper::ReadWrite)[0] = lo;
     maxHelper.toNativeArray(maxOut, ArrayHelper::ReadWrite)[0] = hi;
     stepHelper.toNativeArray(stepOut, ArrayHelper::ReadWrite)[0] = delta;
-    regularHelper.toNativeArray(regularOut, ArrayHelper::ReadWrite)[0] = flag;
+    storeFlag(regularHelper.toNativeArray(regularOut, ArrayHelper::ReadWrite), flag);
   }
 
   int count = 0;

@@ -30,9 +30,19 @@ inline void writeOutput(JNIEnv* env, JArray out, const T* values, int count) {
 inline void writeOutput(JNIEnv* env, jfloatArray out, float value) { writeOutput(env, out, &value, 1); }
 inline void writeOutput(JNIEnv* env, jintArray out, int value) { writeOutput(env, out, &value, 1); }
 
-// A toolkit int flag into element 0 of a boolean output: the binding core
-// gives boolean arrays int-wide elements, so the whole int is stored.
-inline void writeOutput(JNIEnv* env, jbooleanArray out, int flag) { writeOutput(env, out, &flag, 1); }
+// A toolkit int flag into element 0 of the native elements of a boolean
+// output, whatever their type (int-wide, jboolean or bool): 1 when the flag is
+// non-zero, else 0, so that no bit of the flag is lost in a narrower element.
+template <class Element>
+inline void storeFlag(Element* elements, int flag) {
+  elements[0] = static_cast<Element>(flag != 0 ? 1 : 0);
+}
+
+// A toolkit int flag into element 0 of a boolean output (storeFlag).
+inline void writeOutput(JNIEnv* env, jbooleanArray out, int flag) {
+  ArrayHelper helper(env);
+  storeFlag(helper.toNativeArray(out, ArrayHelper::ReadWrite), flag);
+}
 
 // A char into element 0 of a byte output (its bits unchanged).
 inline void writeOutput(JNIEnv* env, jbyteArray out, char value) {

@@ -75,8 +75,8 @@ CustomElement<Row>::~CustomElement() {
 
 template <class Row>
 void CustomElement<Row>::initType(bool create, const char* name) {
-  this->setTypeId(create ? SoType::createType(ToolkitBase::getClassTypeId(), name, &createInstance, 0)
-                         : SoType::fromName(name));
+  this->typeId = create ? SoType::createType(ToolkitBase::getClassTypeId(), name, &createInstance, 0)
+                       : SoType::fromName(name);
 }
 
 template <class Row>
@@ -85,7 +85,7 @@ int CustomElement<Row>::initClassStackIndex(int index) {
     int parentIndex = ToolkitBase::getClassStackIndex();
     index = parentIndex >= 0 ? parentIndex : SoElement::createStackIndex(this->getTypeId());
   }
-  this->setStackIndex(index);
+  this->stackIndex = index;
   return index;
 }
 

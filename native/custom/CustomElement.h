@@ -139,11 +139,11 @@ class CustomElement : public Row::Base,
   void captureThis(SoState* state) const override;
 
   // The interface, in the class's own order.
-  SoElement* getNextInStackDefaultImpl() const override { return this->getNextInStack(); }
+  SoElement* getNextInStackDefaultImpl() const override { return this->nextInStack; }
   void captureDefaultImpl(SoState* state) const override { this->capture(state); }
   void captureThisDefaultImpl(SoState* state) const override { SoElement::captureThis(state); }
-  void setTypeIdDefaultImpl(SoType type) override { this->setTypeId(type); }
-  SoElement* getNextFreeDefaultImpl() const override { return this->getNextFree(); }
+  void setTypeIdDefaultImpl(SoType type) override { this->typeId = type; }
+  SoElement* getNextFreeDefaultImpl() const override { return this->nextFree; }
   void setPoppedDefaultImpl(int value) override { this->popped = value == 1; }
   SoElement* copyMatchInfoDefaultImpl() const override { return SoReplacedElement::copyMatchInfo(); }
   void initDefaultImpl(SoState* state) override { ToolkitBase::init(state); }

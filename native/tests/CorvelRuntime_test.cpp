@@ -92,10 +92,13 @@ TEST(ICustomClass, StrongPeerIsAGlobalReference) {
 
 TEST(DebugOutput, CapturesLinesWhenAsked) {
   corvel::setDebugMode(corvel::DebugMode::Off);
-  PRINTDBG("dropped\n");
+  char dropped[] = "dropped\n";
+  char one[] = "DEBUG: one\n";
+  char two[] = "DEBUG: two\n";
+  PRINTDBG(dropped);
   corvel::setDebugMode(corvel::DebugMode::Capture);
-  PRINTDBG("DEBUG: one\n");
-  PRINTDBG("DEBUG: two\n");
+  PRINTDBG(one);
+  PRINTDBG(two);
   auto lines = corvel::takeCapturedDebugLines();
   corvel::setDebugMode(corvel::DebugMode::Off);
   ASSERT_EQ(lines.size(), 2u);

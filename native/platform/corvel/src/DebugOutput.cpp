@@ -17,7 +17,7 @@ std::mutex captureMutex;
 std::vector<std::string> captured;
 }  // namespace
 
-void PRINTDBG(const char* text) {
+void PRINTDBG(char* text) {
   switch (mode.load(std::memory_order_relaxed)) {
     case corvel::DebugMode::Off:
       return;

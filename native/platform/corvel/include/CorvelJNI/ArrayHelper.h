@@ -21,6 +21,8 @@
 //    is set aside for the copy and raised again afterwards.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <jni.h>
 
 #include <cstddef>
@@ -46,10 +48,10 @@ class ArrayHelper {
  private:
   enum class Kind : unsigned char { Float, Int, Byte, Boolean, Short };
   struct Converted {
-    jarray array;
+    TAVREL_STANDIN_ONLY jarray array;
     void* data;
     jsize length;
-    Kind kind;
+    TAVREL_STANDIN_ONLY Kind kind;
     AccessMode mode;
   };
 

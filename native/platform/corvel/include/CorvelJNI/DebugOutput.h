@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-void PRINTDBG(const char* text);
+void PRINTDBG(char* text);
 
 namespace corvel {
 enum class DebugMode { Off = 0, StandardError = 1, Capture = 2 };

@@ -15,11 +15,13 @@
 // released first.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <jni.h>
 
 class ICustomClass {
  public:
-  jobject javaPeer;
+  TAVREL_STANDIN_ONLY jobject javaPeer;
 
   ICustomClass();
   ~ICustomClass();

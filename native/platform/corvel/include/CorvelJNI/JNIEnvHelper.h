@@ -5,10 +5,12 @@
 // when it ends. It returns null only when no Java virtual machine runs.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <jni.h>
 
 class JNIEnvHelper {
  public:
   static JNIEnv* getEnv();
-  static JavaVM* getJavaVM();
+  TAVREL_STANDIN_ONLY static JavaVM* getJavaVM();
 };

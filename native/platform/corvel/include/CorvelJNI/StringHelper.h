@@ -10,6 +10,8 @@
 // U+FFFD.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <jni.h>
 
 #include <string>
@@ -56,7 +58,7 @@ class StringArrayHelper {
 
   const char** toUTFStringArray();
   SbString* toSbStringArray();
-  int getLength() const { return length; }
+  TAVREL_STANDIN_ONLY int getLength() const { return length; }
 
  private:
   JNIEnv* env;

@@ -26,17 +26,19 @@
 // journal's symbols and not load against the real toolkit.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <atomic>
 #include <string>
 #include <vector>
 
 class CallJournal {
  public:
-  static bool enabled() noexcept { return s_enabled.load(std::memory_order_relaxed); }
-  static void setEnabled(bool on) noexcept;
-  static void clear();
-  static std::vector<std::string> lines();
-  static void append(std::string line);
+  TAVREL_STANDIN_ONLY static bool enabled() noexcept { return s_enabled.load(std::memory_order_relaxed); }
+  TAVREL_STANDIN_ONLY static void setEnabled(bool on) noexcept;
+  TAVREL_STANDIN_ONLY static void clear();
+  TAVREL_STANDIN_ONLY static std::vector<std::string> lines();
+  TAVREL_STANDIN_ONLY static void append(std::string line);
 
   // A function that is also given every line appended (on the appending
   // thread, after the line is stored), or null: lets a test tool put the
@@ -90,7 +92,7 @@ inline void journalFormat(std::string& out, std::nullptr_t) { out += "null"; }
 
 // A function pointer: "fn" or "null".
 struct JournalFn {
-  bool present;
+  TAVREL_STANDIN_ONLY bool present;
 };
 template <class F>
 JournalFn journalFn(F f) {

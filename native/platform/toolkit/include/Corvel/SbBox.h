@@ -3,15 +3,17 @@
 // empty: its minimum is +max float and its maximum -max float.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 
 class SbBox2f {
  public:
   SbBox2f() { makeEmpty(); }
   SbBox2f(float xmin, float ymin, float xmax, float ymax) : minPt(xmin, ymin), maxPt(xmax, ymax) {}
-  void makeEmpty();
-  bool isEmpty() const { return maxPt[0] < minPt[0]; }
-  void extendBy(const SbVec2f& p);
+  TAVREL_STANDIN_ONLY void makeEmpty();
+  TAVREL_STANDIN_ONLY bool isEmpty() const { return maxPt[0] < minPt[0]; }
+  TAVREL_STANDIN_ONLY void extendBy(const SbVec2f& p);
   const SbVec2f& getMin() const { return minPt; }
   const SbVec2f& getMax() const { return maxPt; }
 
@@ -26,11 +28,11 @@ class SbBox3f {
   SbBox3f(float xmin, float ymin, float zmin, float xmax, float ymax, float zmax)
       : minPt(xmin, ymin, zmin), maxPt(xmax, ymax, zmax) {}
   SbBox3f(const SbVec3f& lo, const SbVec3f& hi) : minPt(lo), maxPt(hi) {}
-  void makeEmpty();
-  bool isEmpty() const { return maxPt[0] < minPt[0]; }
-  void extendBy(const SbVec3f& p);
-  void extendBy(const SbBox3f& b);
-  bool intersect(const SbVec3f& p) const;
+  TAVREL_STANDIN_ONLY void makeEmpty();
+  TAVREL_STANDIN_ONLY bool isEmpty() const { return maxPt[0] < minPt[0]; }
+  TAVREL_STANDIN_ONLY void extendBy(const SbVec3f& p);
+  TAVREL_STANDIN_ONLY void extendBy(const SbBox3f& b);
+  TAVREL_STANDIN_ONLY bool intersect(const SbVec3f& p) const;
   const SbVec3f& getMin() const { return minPt; }
   const SbVec3f& getMax() const { return maxPt; }
   SbVec3f getCenter() const { return (minPt + maxPt) * 0.5f; }

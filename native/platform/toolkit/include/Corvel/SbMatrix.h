@@ -4,13 +4,15 @@
 // Everything here is inline: users compile it themselves.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 
 class SbMatrix {
  public:
   SbMatrix() { makeIdentity(); }
 
-  void makeIdentity() {
+  TAVREL_STANDIN_ONLY void makeIdentity() {
     for (int i = 0; i < 4; ++i)
       for (int j = 0; j < 4; ++j) m[i][j] = i == j ? 1.0f : 0.0f;
   }
@@ -20,7 +22,7 @@ class SbMatrix {
 
   // p' = p * M for the point (x, y, z, 1), divided by its fourth component
   // when that is neither 0 nor 1.
-  void multVecMatrix(const SbVec3f& src, SbVec3f& dst) const {
+  TAVREL_STANDIN_ONLY void multVecMatrix(const SbVec3f& src, SbVec3f& dst) const {
     float out[4];
     for (int j = 0; j < 4; ++j) out[j] = src[0] * m[0][j] + src[1] * m[1][j] + src[2] * m[2][j] + m[3][j];
     if (out[3] != 0.0f && out[3] != 1.0f) {

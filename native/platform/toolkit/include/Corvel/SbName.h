@@ -6,6 +6,8 @@
 // equal exactly when they point to the same table entry.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <string>
 
 class SbString;
@@ -17,8 +19,8 @@ class SbName {
   SbName(const SbString& s);                         // NOLINT
   SbName(const std::string& s);                      // NOLINT
 
-  const char* getString() const { return text; }
-  int getLength() const;
+  TAVREL_ASSUMED const char* getString() const { return text; }
+  TAVREL_STANDIN_ONLY int getLength() const;
   bool operator==(const SbName& o) const { return text == o.text; }
   bool operator!=(const SbName& o) const { return text != o.text; }
   bool operator!() const { return *text == '\0'; }

@@ -1,6 +1,8 @@
 // The rendering mode a node asks for. A default-constructed mode is 0.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 class SbRenderEngineMode {
  public:
   enum RenderMode {
@@ -12,8 +14,8 @@ class SbRenderEngineMode {
 
   SbRenderEngineMode() = default;
   explicit SbRenderEngineMode(RenderMode m) : mode(m) {}
-  void setRenderMode(RenderMode m) { mode = m; }
-  RenderMode getRenderMode() const { return mode; }
+  TAVREL_ASSUMED void setRenderMode(RenderMode m) { mode = m; }
+  TAVREL_STANDIN_ONLY RenderMode getRenderMode() const { return mode; }
 
  private:
   RenderMode mode = UNKNOWN_RENDERING;

@@ -2,6 +2,8 @@
 // converts from UTF-32 (Linux wchar_t). A null pointer gives the empty string.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <string>
 
 class SbString {
@@ -11,8 +13,8 @@ class SbString {
   SbString(const wchar_t* text);   // NOLINT
   SbString(const std::string& utf8) : text(utf8) {}  // NOLINT
 
-  const char* getString() const { return text.c_str(); }
-  int getLength() const { return static_cast<int>(text.size()); }
+  TAVREL_STANDIN_ONLY const char* getString() const { return text.c_str(); }
+  TAVREL_STANDIN_ONLY int getLength() const { return static_cast<int>(text.size()); }
   bool operator==(const SbString& o) const { return text == o.text; }
   bool operator!=(const SbString& o) const { return text != o.text; }
   SbString& operator+=(const char* s) { text += s; return *this; }

@@ -2,6 +2,8 @@
 // that holds it; a plain one must not be (that thread would wait forever).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <pthread.h>
 
 class SbThreadMutex {
@@ -11,9 +13,9 @@ class SbThreadMutex {
   SbThreadMutex(const SbThreadMutex&) = delete;
   SbThreadMutex& operator=(const SbThreadMutex&) = delete;
 
-  int lock();
-  int unlock();
-  bool isRecursive() const { return recursive; }
+  TAVREL_ASSUMED int lock();
+  TAVREL_ASSUMED int unlock();
+  TAVREL_STANDIN_ONLY bool isRecursive() const { return recursive; }
 
  private:
   pthread_mutex_t mutex;

@@ -2,6 +2,8 @@
 // 2n or 3n contiguous floats.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBase.h>
 #include <string>
 
@@ -16,7 +18,7 @@ class SbVec2f {
   SbVec2f& setValue(float x, float y) { vec[0] = x; vec[1] = y; return *this; }
   float& operator[](int i) { return vec[i]; }
   const float& operator[](int i) const { return vec[i]; }
-  float dot(const SbVec2f& v) const { return vec[0] * v[0] + vec[1] * v[1]; }
+  TAVREL_STANDIN_ONLY float dot(const SbVec2f& v) const { return vec[0] * v[0] + vec[1] * v[1]; }
   float length() const;
 
   friend SbVec2f operator+(const SbVec2f& a, const SbVec2f& b) { return SbVec2f(a[0] + b[0], a[1] + b[1]); }
@@ -26,7 +28,7 @@ class SbVec2f {
   friend bool operator!=(const SbVec2f& a, const SbVec2f& b) { return !(a == b); }
 
  protected:
-  float vec[2];
+  TAVREL_STANDIN_ONLY float vec[2];
 };
 
 class SbVec3f {
@@ -40,8 +42,8 @@ class SbVec3f {
   SbVec3f& setValue(float x, float y, float z) { vec[0] = x; vec[1] = y; vec[2] = z; return *this; }
   float& operator[](int i) { return vec[i]; }
   const float& operator[](int i) const { return vec[i]; }
-  float dot(const SbVec3f& v) const { return vec[0] * v[0] + vec[1] * v[1] + vec[2] * v[2]; }
-  SbVec3f cross(const SbVec3f& v) const {
+  TAVREL_STANDIN_ONLY float dot(const SbVec3f& v) const { return vec[0] * v[0] + vec[1] * v[1] + vec[2] * v[2]; }
+  TAVREL_STANDIN_ONLY SbVec3f cross(const SbVec3f& v) const {
     return SbVec3f(vec[1] * v[2] - vec[2] * v[1], vec[2] * v[0] - vec[0] * v[2], vec[0] * v[1] - vec[1] * v[0]);
   }
   float length() const;
@@ -53,7 +55,7 @@ class SbVec3f {
   friend bool operator!=(const SbVec3f& a, const SbVec3f& b) { return !(a == b); }
 
  protected:
-  float vec[3];
+  TAVREL_STANDIN_ONLY float vec[3];
 };
 
 static_assert(sizeof(SbVec2f) == 2 * sizeof(float), "SbVec2f is two floats");

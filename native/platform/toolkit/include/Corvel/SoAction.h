@@ -4,6 +4,8 @@
 // (see SoState.h). Outside apply an action has no state.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Corvel/SbVec.h>
 
@@ -56,26 +58,26 @@ class SoAction {
   virtual SoType getTypeId() const;
 
   virtual ~SoAction();
-  void apply(SoNode* node);
+  TAVREL_STANDIN_ONLY void apply(SoNode* node);
   // Calls the node's operation for this kind of action.
-  virtual void traverse(SoNode* node);
+  TAVREL_STANDIN_ONLY virtual void traverse(SoNode* node);
   // The state of the traversal in progress; null outside apply.
-  SoState* getState() const { return state; }
+  TAVREL_STANDIN_ONLY SoState* getState() const { return state; }
 
   // Element types of the states made from now on, for every action: the
   // state makes the elements of the stack index with the type enabled for
   // it, by default the type that created the index. A type is enabled only
   // on an index whose creating type it derives from (false otherwise).
-  static bool enableElement(SoType type, int stackIndex);
-  static SoType getEnabledElement(int stackIndex);
+  TAVREL_STANDIN_ONLY static bool enableElement(SoType type, int stackIndex);
+  TAVREL_STANDIN_ONLY static SoType getEnabledElement(int stackIndex);
   // Number of nodes this action has traversed since it was made.
-  int getNodesTraversed() const { return nodesTraversed; }
+  TAVREL_STANDIN_ONLY int getNodesTraversed() const { return nodesTraversed; }
 
  protected:
   SoAction() = default;
-  void countNode() { ++nodesTraversed; }
+  TAVREL_STANDIN_ONLY void countNode() { ++nodesTraversed; }
   // Called when an apply starts that is not inside another of this action.
-  virtual void beginApply() {}
+  TAVREL_STANDIN_ONLY virtual void beginApply() {}
 
  private:
   SoState* state = nullptr;
@@ -105,19 +107,19 @@ class SoGLRenderAction : public SoAction {
     enum Kind { LINE, POLYGON, TEXT } kind;
     std::vector<SbVec3f> points;
     SbColor color;
-    std::string text;
+    TAVREL_STANDIN_ONLY std::string text;
     // Texts: where the text sits about its point: beginning there
     // (START), centred on it (MIDDLE) or ending there (END); and its
     // baseline there (BASELINE), its middle (CENTRAL) or its top (HANGING).
     enum Anchor { MIDDLE, START, END } anchor = MIDDLE;
     enum Baseline { BASELINE, CENTRAL, HANGING } baseline = BASELINE;
   };
-  void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
-  const std::vector<Primitive>& getPrimitives() const { return primitives; }
-  std::string toSvg() const;
+  TAVREL_STANDIN_ONLY void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
+  TAVREL_STANDIN_ONLY const std::vector<Primitive>& getPrimitives() const { return primitives; }
+  TAVREL_STANDIN_ONLY std::string toSvg() const;
 
  protected:
-  void beginApply() override { primitives.clear(); }
+  TAVREL_STANDIN_ONLY void beginApply() override { primitives.clear(); }
 
  private:
   std::vector<Primitive> primitives;
@@ -140,7 +142,7 @@ class SoWriteAction : public SoAction {
   SO_ACTION_HEADER(SoWriteAction)
  public:
   // What the traversal wrote.
-  std::string& getOutput() { return output; }
+  TAVREL_STANDIN_ONLY std::string& getOutput() { return output; }
 
  private:
   std::string output;

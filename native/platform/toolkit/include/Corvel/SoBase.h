@@ -5,6 +5,8 @@
 // deleting.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBase.h>
 #include <Corvel/SbName.h>
 #include <Corvel/SoType.h>
@@ -17,10 +19,10 @@ class SoBase {
   static SoType getClassTypeId();
   static void initClass();
 
-  void ref() const;
-  void unref() const;
-  void unrefNoDelete() const;
-  int getRefCount() const { return refCount.load(); }
+  TAVREL_STANDIN_ONLY void ref() const;
+  TAVREL_STANDIN_ONLY void unref() const;
+  TAVREL_STANDIN_ONLY void unrefNoDelete() const;
+  TAVREL_STANDIN_ONLY int getRefCount() const { return refCount.load(); }
 
   // Virtual operations, in the order of the object's table.
   virtual void touch();
@@ -31,11 +33,11 @@ class SoBase {
 
   // True while the object is referenced more than once by the write in
   // progress (set by the write machinery, read by the inline accessor).
-  SbBool hasMultipleWriteRefs() const { return writeMultipleRefs; }
-  void setMultipleWriteRefs(SbBool on) { writeMultipleRefs = on; }
+  TAVREL_ASSUMED SbBool hasMultipleWriteRefs() const { return writeMultipleRefs; }
+  TAVREL_STANDIN_ONLY void setMultipleWriteRefs(SbBool on) { writeMultipleRefs = on; }
 
   // Number of touch() calls this object received.
-  unsigned getTouchCount() const { return touchCount; }
+  TAVREL_STANDIN_ONLY unsigned getTouchCount() const { return touchCount; }
 
  protected:
   SoBase();
@@ -58,5 +60,5 @@ class SoBaseInitializer {
   SoBaseInitializer(const SoBaseInitializer&) = delete;
   SoBaseInitializer& operator=(const SoBaseInitializer&) = delete;
   // True while the calling thread is inside a guard.
-  static bool isActive();
+  TAVREL_STANDIN_ONLY static bool isActive();
 };

@@ -2,6 +2,8 @@
 // lists its parts; the catalog belongs to the class and lives for the process.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SoNode.h>
 #include <string>
 #include <vector>
@@ -10,10 +12,10 @@ class SoNodekitCatalog {
  public:
   SoNodekitCatalog(SoType owner, std::vector<std::string> partNames)
       : owner(owner), parts(std::move(partNames)) {}
-  SoType getOwner() const { return owner; }
-  int getNumEntries() const { return static_cast<int>(parts.size()); }
+  TAVREL_STANDIN_ONLY SoType getOwner() const { return owner; }
+  TAVREL_STANDIN_ONLY int getNumEntries() const { return static_cast<int>(parts.size()); }
   SbName getName(int index) const { return SbName(parts[index]); }
-  const std::vector<std::string>& partNames() const { return parts; }
+  TAVREL_STANDIN_ONLY const std::vector<std::string>& partNames() const { return parts; }
 
  private:
   SoType owner;
@@ -60,8 +62,8 @@ class SoBaseKit : public SoNode {
 
  public:
   static const SoNodekitCatalog* getClassNodekitCatalog();
-  static const SoNodekitCatalog* getClassNodekitCatalogUnjournaled();
-  virtual const SoNodekitCatalog* getNodekitCatalog() const;
+  TAVREL_STANDIN_ONLY static const SoNodekitCatalog* getClassNodekitCatalogUnjournaled();
+  TAVREL_STANDIN_ONLY virtual const SoNodekitCatalog* getNodekitCatalog() const;
 
  protected:
   SoBaseKit();

@@ -2,6 +2,8 @@
 // list releases its children when it is destroyed.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <vector>
 
 class SoNode;
@@ -13,10 +15,10 @@ class SoChildList {
   SoChildList(const SoChildList&) = delete;
   SoChildList& operator=(const SoChildList&) = delete;
 
-  void append(SoNode* child);
-  int getLength() const { return static_cast<int>(children.size()); }
+  TAVREL_STANDIN_ONLY void append(SoNode* child);
+  TAVREL_STANDIN_ONLY int getLength() const { return static_cast<int>(children.size()); }
   SoNode* operator[](int i) const { return children[i]; }
-  SoNode* getParent() const { return parent; }
+  TAVREL_STANDIN_ONLY SoNode* getParent() const { return parent; }
 
  private:
   SoNode* parent;

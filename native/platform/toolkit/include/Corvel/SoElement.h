@@ -29,6 +29,8 @@
 //    the state calls do not.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBase.h>
 #include <Corvel/SoType.h>
 
@@ -58,38 +60,38 @@ class SoElement {
   static int createStackIndex(SoType id);
   static unsigned short createElementKey();
   static unsigned short badElementKey() { return 0; }
-  static int getNumStackIndices();
+  TAVREL_STANDIN_ONLY static int getNumStackIndices();
   // The type that created the stack index (the bad type for an unknown one).
-  static SoType getIdFromStackIndex(int stackIndex);
+  TAVREL_STANDIN_ONLY static SoType getIdFromStackIndex(int stackIndex);
 
-  int getDepth() const { return depth; }
+  TAVREL_STANDIN_ONLY int getDepth() const { return depth; }
 
  protected:
   SoElement();
 
   // Calls captureThis when the state's cache flag is set.
-  void capture(SoState* state) const;
+  TAVREL_ASSUMED void capture(SoState* state) const;
 
-  SoElement* getNextInStack() const { return nextInStack; }
-  SoElement* getNextFree() const { return nextFree; }
-  void setTypeId(SoType type) { typeId = type; }
-  void setStackIndex(int index) { stackIndex = index; }
+  TAVREL_STANDIN_ONLY SoElement* getNextInStack() const { return nextInStack; }
+  TAVREL_STANDIN_ONLY SoElement* getNextFree() const { return nextFree; }
+  TAVREL_STANDIN_ONLY void setTypeId(SoType type) { typeId = type; }
+  TAVREL_STANDIN_ONLY void setStackIndex(int index) { stackIndex = index; }
 
   // The top element of the stack, made writable for the state's current
   // depth (pushed when the top is from a lower depth); null when the state
   // could not make an element.
-  static SoElement* getElement(SoState* state, int stackIndex);
+  TAVREL_STANDIN_ONLY static SoElement* getElement(SoState* state, int stackIndex);
   // createStackIndex without its journal line (element classes' initClass).
-  static int makeStackIndex(SoType id);
+  TAVREL_STANDIN_ONLY static int makeStackIndex(SoType id);
   // The top element, without pushing; captured (capture) when found.
-  static const SoElement* getConstElement(SoState* state, int stackIndex);
+  TAVREL_STANDIN_ONLY static const SoElement* getConstElement(SoState* state, int stackIndex);
 
-  SoType typeId;
-  int stackIndex = -1;
-  int depth = 0;
-  bool popped = false;
-  SoElement* nextInStack = nullptr;
-  SoElement* nextFree = nullptr;
+  TAVREL_ASSUMED SoType typeId;
+  TAVREL_ASSUMED int stackIndex = -1;
+  TAVREL_STANDIN_ONLY int depth = 0;
+  TAVREL_ASSUMED bool popped = false;
+  TAVREL_ASSUMED SoElement* nextInStack = nullptr;
+  TAVREL_ASSUMED SoElement* nextFree = nullptr;
 
   friend class SoState;
 };

@@ -23,6 +23,8 @@
 //    it is given) and leaves the other flags as they are.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBase.h>
 #include <Corvel/SbName.h>
 #include <Corvel/SbString.h>
@@ -44,41 +46,50 @@ class SoField {
   virtual SoType getTypeId() const;
 
   const SbName& getName() const { return fieldName; }
-  void setValueString(const SbString& v) { value = v; }
-  const SbString& getValueString() const { return value; }
+  TAVREL_STANDIN_ONLY void setValueString(const SbString& v) { value = v; }
+  TAVREL_STANDIN_ONLY const SbString& getValueString() const { return value; }
 
   // The container the field belongs to (see above); null for none.
   void setContainer(SoFieldContainer* container);
-  SoFieldContainer* getContainer() const { return owner; }
+  TAVREL_STANDIN_ONLY SoFieldContainer* getContainer() const { return owner; }
 
-  void setFieldType(int type);
-  int getFieldType() const { return flags.fieldType; }
-  SbBool isDefault() const { return flags.isDefault; }
-  SbBool getNeedsEvaluation() const { return flags.needsEvaluation; }
+  TAVREL_STANDIN_ONLY void setFieldType(int type);
+  TAVREL_STANDIN_ONLY int getFieldType() const { return flags.fieldType; }
+  TAVREL_STANDIN_ONLY SbBool isDefault() const { return flags.isDefault; }
+  TAVREL_STANDIN_ONLY SbBool getNeedsEvaluation() const { return flags.needsEvaluation; }
 
   // Brings the value up to date when the field says it must (see above).
-  void evaluate() const {
+  TAVREL_STANDIN_ONLY void evaluate() const {
     if (flags.needsEvaluation) evaluateField();
   }
 
   // --- Used inside this toolkit and by the tests (not journaled) ---
   // The field takes the value of source whenever it is evaluated after a
   // change of source; null disconnects it.
-  void connectFrom(SoField* source);
-  SoField* getConnectedField() const { return source; }
+  TAVREL_STANDIN_ONLY void connectFrom(SoField* source);
+  TAVREL_STANDIN_ONLY SoField* getConnectedField() const { return source; }
   // Makes the field belong to the container without the journal (a node's
   // own fields).
-  void attachTo(SoFieldContainer* container);
+  TAVREL_STANDIN_ONLY void attachTo(SoFieldContainer* container);
+
+  // The field's flags: whether its value must be evaluated before it is
+  // read, its three-bit field type (what a container was told), and whether
+  // it still holds its default value.
+  TAVREL_ASSUMED mutable struct Flags {
+    unsigned int needsEvaluation : 1;
+    unsigned int fieldType : 3;
+    unsigned int isDefault : 1;
+  } flags;
 
  protected:
   // Copies the value of the connected field (if any) and clears the flag.
-  virtual void evaluateField() const;
+  TAVREL_STANDIN_ONLY virtual void evaluateField() const;
   // Takes the value of another field of the same class; the base takes its
   // text.
-  virtual void copyValueFrom(const SoField& other);
+  TAVREL_STANDIN_ONLY virtual void copyValueFrom(const SoField& other);
   // To be called after every change of the value: clears isDefault, and the
   // fields connected from this one need evaluation.
-  void valueChanged();
+  TAVREL_STANDIN_ONLY void valueChanged();
 
  private:
   friend class SoFieldContainer;
@@ -90,11 +101,6 @@ class SoField {
   SoField* source = nullptr;
   std::vector<SoField*> connected;
   bool listed = false;  // in its container's field data
-  mutable struct Flags {
-    unsigned int needsEvaluation : 1;
-    unsigned int fieldType : 3;
-    unsigned int isDefault : 1;
-  } flags;
 };
 
 // The table of the named fields of a container (or, for a class, of the names
@@ -105,22 +111,22 @@ class SoFieldData {
  public:
   SoFieldData() = default;
   explicit SoFieldData(const SoFieldData* copyFrom);
-  int getNumFields() const { return static_cast<int>(entries.size()); }
-  const SbName& getFieldName(int index) const { return entries[index].name; }
+  TAVREL_STANDIN_ONLY int getNumFields() const { return static_cast<int>(entries.size()); }
+  TAVREL_STANDIN_ONLY const SbName& getFieldName(int index) const { return entries[index].name; }
   // The field of an entry; null for an entry that is a name only.
   SoField* getField(int index) const { return entries[index].field; }
   void addField(const SbName& name);
   void addField(SoFieldContainer* defObject, const char* name, const SoField* field);
-  int indexOf(const SbName& name) const;
+  TAVREL_STANDIN_ONLY int indexOf(const SbName& name) const;
 
   // --- Used inside this toolkit (not journaled) ---
-  SoField* findField(const SbName& name) const;
-  void removeField(const SoField* field);
+  TAVREL_STANDIN_ONLY SoField* findField(const SbName& name) const;
+  TAVREL_STANDIN_ONLY void removeField(const SoField* field);
 
  private:
   struct Entry {
     SbName name;
-    SoField* field;
+    TAVREL_STANDIN_ONLY SoField* field;
   };
   std::vector<Entry> entries;
 };

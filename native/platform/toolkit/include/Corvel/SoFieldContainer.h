@@ -9,6 +9,8 @@
 // destroyed they are left without a container.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SoBase.h>
 #include <Corvel/SoField.h>
 
@@ -31,7 +33,7 @@ class SoFieldContainer : public SoBase {
   SbBool readInstance(SoInput* in, unsigned short flags) override;
 
   // Makes a field of the given name (stand-in convenience for tests).
-  SoField* addOwnField(const SbName& name);
+  TAVREL_STANDIN_ONLY SoField* addOwnField(const SbName& name);
 
  protected:
   SoFieldContainer() = default;

@@ -2,6 +2,8 @@
 // order; a child added twice is traversed twice.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SoNode.h>
 
 class SoGroup : public SoNode {
@@ -9,8 +11,8 @@ class SoGroup : public SoNode {
 
  public:
   SoGroup();
-  void addChild(SoNode* child);
-  int getNumChildren() const;
+  TAVREL_STANDIN_ONLY void addChild(SoNode* child);
+  TAVREL_STANDIN_ONLY int getNumChildren() const;
   SoChildList* getChildren() const override;
 
  protected:

@@ -1,6 +1,8 @@
 // An input source for reading scene files. The stand-in reads from a string.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <string>
 
 class SoInput {
@@ -8,10 +10,10 @@ class SoInput {
   SoInput() = default;
   explicit SoInput(const std::string& text) : buffer(text) {}
   virtual ~SoInput();
-  void setBuffer(const std::string& text) { buffer = text; position = 0; }
-  bool eof() const { return position >= buffer.size(); }
+  TAVREL_STANDIN_ONLY void setBuffer(const std::string& text) { buffer = text; position = 0; }
+  TAVREL_STANDIN_ONLY bool eof() const { return position >= buffer.size(); }
   // Reads the next blank-separated word; false at the end.
-  bool read(std::string& word);
+  TAVREL_STANDIN_ONLY bool read(std::string& word);
 
  private:
   std::string buffer;

@@ -8,6 +8,8 @@
 // a null file format name writes as the empty name.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbRenderEngineMode.h>
 #include <Corvel/SoFieldContainer.h>
 #include <Corvel/SoSubClass.h>
@@ -71,7 +73,7 @@ class SoNode : public SoFieldContainer {
   ~SoNode() override;
 
   // Traverses the children (if any) with the action.
-  void traverseChildren(SoAction* action);
+  TAVREL_STANDIN_ONLY void traverseChildren(SoAction* action);
 
  private:
   SbRenderEngineMode renderEngineMode;

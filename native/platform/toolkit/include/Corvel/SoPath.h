@@ -7,6 +7,8 @@
 //  - A new path is empty, its picked point (0, 0, 0).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 
 #include <algorithm>
@@ -18,12 +20,12 @@ class SoPath {
  public:
   SoPath() = default;
 
-  void append(SoNode* node) { nodes.push_back(node); }
-  int getLength() const { return static_cast<int>(nodes.size()); }
-  SoNode* getNode(int index) const { return nodes.at(static_cast<std::size_t>(index)); }
-  bool containsNode(const SoNode* node) const { return std::find(nodes.begin(), nodes.end(), node) != nodes.end(); }
-  void setPickedPoint(const SbVec3f& point) { pickedPoint = point; }
-  const SbVec3f& getPickedPoint() const { return pickedPoint; }
+  TAVREL_STANDIN_ONLY void append(SoNode* node) { nodes.push_back(node); }
+  TAVREL_STANDIN_ONLY int getLength() const { return static_cast<int>(nodes.size()); }
+  TAVREL_STANDIN_ONLY SoNode* getNode(int index) const { return nodes.at(static_cast<std::size_t>(index)); }
+  TAVREL_STANDIN_ONLY bool containsNode(const SoNode* node) const { return std::find(nodes.begin(), nodes.end(), node) != nodes.end(); }
+  TAVREL_STANDIN_ONLY void setPickedPoint(const SbVec3f& point) { pickedPoint = point; }
+  TAVREL_STANDIN_ONLY const SbVec3f& getPickedPoint() const { return pickedPoint; }
 
  private:
   std::vector<SoNode*> nodes;

@@ -12,6 +12,8 @@
 //    elements, which hold none).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SoElement.h>
 
 class SoNode;
@@ -28,15 +30,15 @@ class SoReplacedElement : public SoElement {
   SoElement* copyMatchInfo() const override;
   void print(FILE* fp) const override;
 
-  SoNode* getNode() const { return node; }
+  TAVREL_STANDIN_ONLY SoNode* getNode() const { return node; }
 
  protected:
   SoReplacedElement();
   // Names the node (the new reference first: it may be the same node).
-  void setNode(SoNode* node);
+  TAVREL_STANDIN_ONLY void setNode(SoNode* node);
   // The top element of the stack made writable, now naming the node; null
   // when the state could not make one.
-  static SoReplacedElement* getElement(SoState* state, int stackIndex, SoNode* node);
+  TAVREL_STANDIN_ONLY static SoReplacedElement* getElement(SoState* state, int stackIndex, SoNode* node);
 
  private:
   SoNode* node = nullptr;

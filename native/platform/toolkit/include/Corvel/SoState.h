@@ -26,6 +26,8 @@
 // SoElement::captureThis records it in getCaptured().
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <vector>
 
 class SoAction;
@@ -37,23 +39,23 @@ class SoState {
   virtual ~SoState();
   SoState(const SoState&) = delete;
   SoState& operator=(const SoState&) = delete;
-  SoAction* getAction() const { return action; }
-  int getDepth() const { return depth; }
+  TAVREL_STANDIN_ONLY SoAction* getAction() const { return action; }
+  TAVREL_STANDIN_ONLY int getDepth() const { return depth; }
   void push();
   void pop();
 
-  bool isCacheOpen() const { return cacheOpen; }
-  void setCacheOpen(bool open);
+  TAVREL_STANDIN_ONLY bool isCacheOpen() const { return cacheOpen; }
+  TAVREL_STANDIN_ONLY void setCacheOpen(bool open);
   // The elements captured while the cache flag was set, in order.
-  const std::vector<const SoElement*>& getCaptured() const { return captured; }
-  void addCaptured(const SoElement* element);
+  TAVREL_STANDIN_ONLY const std::vector<const SoElement*>& getCaptured() const { return captured; }
+  TAVREL_STANDIN_ONLY void addCaptured(const SoElement* element);
 
   // The top element of a stack (made on first use); null when no element
   // could be made for it (an unknown index, or a type that made none).
-  SoElement* getElement(int stackIndex);
-  const SoElement* getConstElement(int stackIndex);
+  TAVREL_STANDIN_ONLY SoElement* getElement(int stackIndex);
+  TAVREL_STANDIN_ONLY const SoElement* getConstElement(int stackIndex);
   // The top element made writable at the current depth (SoElement.h).
-  SoElement* getElementForWriting(int stackIndex);
+  TAVREL_STANDIN_ONLY SoElement* getElementForWriting(int stackIndex);
 
  private:
   SoElement* make(int stackIndex);

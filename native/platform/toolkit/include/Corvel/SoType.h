@@ -7,6 +7,8 @@
 // registered; fromName then finds the newest type of that name.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbName.h>
 #include <string>
 
@@ -16,20 +18,20 @@ class SoType {
 
   SoType() = default;  // the zero type value, which is the bad type
 
-  static SoType badType() { return SoType(); }
-  bool isBad() const { return storage == 0; }
+  TAVREL_ASSUMED static SoType badType() { return SoType(); }
+  TAVREL_ASSUMED bool isBad() const { return storage == 0; }
 
   static SoType createType(SoType parent, const SbName& name, CreateMethod method = nullptr, short data = 0);
   static SoType fromName(const SbName& name);
-  static int getNumTypes();
+  TAVREL_STANDIN_ONLY static int getNumTypes();
 
   SbName getName() const;
-  SoType getParent() const;
-  bool isDerivedFrom(SoType t) const;
-  short getData() const;
-  bool canCreateInstance() const;
+  TAVREL_STANDIN_ONLY SoType getParent() const;
+  TAVREL_STANDIN_ONLY bool isDerivedFrom(SoType t) const;
+  TAVREL_STANDIN_ONLY short getData() const;
+  TAVREL_STANDIN_ONLY bool canCreateInstance() const;
   void* createInstance() const;
-  unsigned int getKey() const { return storage; }
+  TAVREL_STANDIN_ONLY unsigned int getKey() const { return storage; }
 
   bool operator==(const SoType& t) const { return storage == t.storage; }
   bool operator!=(const SoType& t) const { return storage != t.storage; }

@@ -18,6 +18,8 @@
 //    connection flag.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBase.h>
 
 class PbBase {
@@ -25,14 +27,14 @@ class PbBase {
   virtual ~PbBase();
 
   // The connection flag, stored as given.
-  void enableConnection(SbBool flag) { connectionEnabled = flag; }
-  SbBool isConnectionEnabled() const { return connectionEnabled; }
+  TAVREL_ASSUMED void enableConnection(SbBool flag) { connectionEnabled = flag; }
+  TAVREL_ASSUMED SbBool isConnectionEnabled() const { return connectionEnabled; }
 
   // Records a change of the object.
   void touch();
 
   // --- Used inside this toolkit (not journaled) ---
-  unsigned getRevision() const { return revision; }
+  TAVREL_STANDIN_ONLY unsigned getRevision() const { return revision; }
 
  protected:
   PbBase() = default;
@@ -40,7 +42,7 @@ class PbBase {
   PbBase& operator=(const PbBase&) = delete;
 
   // A change made by a setter: raises the revision.
-  void changed() { ++revision; }
+  TAVREL_STANDIN_ONLY void changed() { ++revision; }
 
  private:
   SbBool connectionEnabled = 1;

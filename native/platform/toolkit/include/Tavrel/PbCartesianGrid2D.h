@@ -4,6 +4,8 @@
 // Its cells are quadrangles.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbGrid2D.h>
 
 class PbCartesianGrid2D : public PbGrid2D {
@@ -19,7 +21,7 @@ class PbCartesianGrid2D : public PbGrid2D {
   void setGeometry(int numX, int numY, const float* x, const float* y, const float* z) override;
 
  protected:
-  SbVec2f nodeXY(int i, int j) const override;
+  TAVREL_STANDIN_ONLY SbVec2f nodeXY(int i, int j) const override;
 
  private:
   void assign(int numX, int numY, const float* x, const float* y, const float* z);

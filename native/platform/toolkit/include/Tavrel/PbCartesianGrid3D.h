@@ -3,6 +3,8 @@
 // non-null one. Its cells are hexahedra.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbGrid3D.h>
 
 class PbCartesianGrid3D : public PbGrid3D {
@@ -17,7 +19,7 @@ class PbCartesianGrid3D : public PbGrid3D {
   void setGeometry(int numX, int numY, int numZ, const float* x, const float* y, const float* z) override;
 
  protected:
-  SbVec3f nodeXYZ(int i, int j, int k) const override;
+  TAVREL_STANDIN_ONLY SbVec3f nodeXYZ(int i, int j, int k) const override;
 
  private:
   void assign(int numX, int numY, int numZ, const float* x, const float* y, const float* z);

@@ -38,6 +38,8 @@
 //    by v, then N by w.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBox.h>
 #include <Corvel/SbVec.h>
 
@@ -75,23 +77,23 @@ class PbCell {
   enum class Kind { Triangle, Quadrangle, Pixel, Tetrahedron, Pyramid, Wedge, Hexahedron, Voxel };
   // The kind of cell with that many nodes, for a mesh of dimension 2 or 3;
   // false when there is none.
-  static bool kindOf(int dimension, int numNodes, Kind& kind);
+  TAVREL_STANDIN_ONLY static bool kindOf(int dimension, int numNodes, Kind& kind);
   // A new cell of the kind, attached to cell `index` of the mesh.
-  static PbCell* make(Kind kind, const PbMesh* mesh, int index, const std::vector<int>& nodes);
+  TAVREL_STANDIN_ONLY static PbCell* make(Kind kind, const PbMesh* mesh, int index, const std::vector<int>& nodes);
   // Parametric coordinates without the journal; see locatePoint.
-  int locate(const SbVec3f& point, float tolerance, SbVec3f& pcoord) const;
-  float volume() const;
-  float area() const;
+  TAVREL_STANDIN_ONLY int locate(const SbVec3f& point, float tolerance, SbVec3f& pcoord) const;
+  TAVREL_STANDIN_ONLY float volume() const;
+  TAVREL_STANDIN_ONLY float area() const;
   SbBox3f box() const;
 
-  struct Shape;
+  TAVREL_STANDIN_ONLY struct Shape;
 
  protected:
   PbCell(const Shape& shape, const PbMesh* mesh);
   PbCell(const PbCell& other) = default;
-  void attach(int index, const std::vector<int>& nodes);
+  TAVREL_STANDIN_ONLY void attach(int index, const std::vector<int>& nodes);
   // Shape-function derivatives into derivs (3 x N floats).
-  void derivatives(const SbVec3f& pcoord, float* derivs) const;
+  TAVREL_STANDIN_ONLY void derivatives(const SbVec3f& pcoord, float* derivs) const;
 
  private:
   // Number of per-node values the cell reads (its largest node index + 1).

@@ -21,6 +21,8 @@
 //    accessors).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Tavrel/PbBase.h>
 
@@ -38,36 +40,36 @@ class PbDataMapping : public PbBase {
   void setMaxThreshold(float threshold, float* hls, float transparency);
 
   void enableThresholds(SbBool min, SbBool max);
-  void thresholdsEnabled(SbBool& min, SbBool& max) const {
+  TAVREL_ASSUMED void thresholdsEnabled(SbBool& min, SbBool& max) const {
     min = minThreshold.enabled;
     max = maxThreshold.enabled;
   }
 
   void enableTransparency(SbBool flag);
-  SbBool isTransparencyEnabled() const { return transparencyEnabled; }
+  TAVREL_ASSUMED SbBool isTransparencyEnabled() const { return transparencyEnabled; }
 
   void setTransparencyValueDeletedParts(float value);
   float getTransparencyValueDeletedParts() const;
 
   // --- Used inside this toolkit (not journaled) ---
   // The colour and transparency of a value, thresholds included.
-  SbColor colorOf(float value, float* transparency = nullptr) const;
-  static SbColor hlsToRgb(const float* hls);
-  static void rgbToHls(const SbColor& rgb, float* hls);
+  TAVREL_STANDIN_ONLY SbColor colorOf(float value, float* transparency = nullptr) const;
+  TAVREL_STANDIN_ONLY static SbColor hlsToRgb(const float* hls);
+  TAVREL_STANDIN_ONLY static void rgbToHls(const SbColor& rgb, float* hls);
 
  protected:
   PbDataMapping() = default;
   PbDataMapping(const PbDataMapping& other) = default;
 
   // The mapping's own colour and transparency of a value (no thresholds).
-  virtual SbColor mappedColor(float value, float& transparency) const = 0;
+  TAVREL_STANDIN_ONLY virtual SbColor mappedColor(float value, float& transparency) const = 0;
 
  private:
   struct Threshold {
     float value = 0.0f;
     SbColor color;
     float transparency = 0.0f;
-    SbBool enabled = 0;
+    TAVREL_STANDIN_ONLY SbBool enabled = 0;
   };
 
   Threshold minThreshold;

@@ -30,6 +30,8 @@
 //    format is read directly (inline accessor). The destructor is inline.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Tavrel/PbBase.h>
 
@@ -46,16 +48,16 @@ class PbDateFormatMapping : public PbBase {
   int getCoordinate(const SbString& date, float& coord) const;
 
   // The date of a coordinate, written with the format.
-  SbString getDate(float coord) const;
+  TAVREL_STANDIN_ONLY SbString getDate(float coord) const;
 
   // --- Used inside this toolkit (not journaled) ---
   // Seconds since 1970-01-01 00:00:00 of a date, or false when it cannot be read.
-  static bool readDate(const char* text, double& seconds);
+  TAVREL_STANDIN_ONLY static bool readDate(const char* text, double& seconds);
   // The date at those seconds written with the format ("" outside years 1
   // to 9999 or when not finite).
-  static SbString writeDate(const SbString& format, double seconds);
+  TAVREL_STANDIN_ONLY static SbString writeDate(const SbString& format, double seconds);
   // The coordinate of a date given in seconds since 1970-01-01 00:00:00.
-  double coordinateOfSeconds(double seconds) const;
+  TAVREL_STANDIN_ONLY double coordinateOfSeconds(double seconds) const;
 
  private:
   bool takeMapping(const char* date1, const char* date2, float coord1, float coord2);

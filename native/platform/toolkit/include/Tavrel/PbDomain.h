@@ -33,6 +33,8 @@
 //  - The transform type is read directly (inline accessor).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBox.h>
 #include <Corvel/SbMatrix.h>
 #include <Tavrel/PbBase.h>
@@ -68,7 +70,7 @@ class PbDomain : public PbBase {
   SbMatrix getMatrix() const;
 
   void setTransformType(TransformType type);
-  TransformType getTransformType() const { return transformType; }
+  TAVREL_ASSUMED TransformType getTransformType() const { return transformType; }
 
   const SbMatrix* getMatrixTransform() const;
   SoNode* getTransform() const;
@@ -76,7 +78,7 @@ class PbDomain : public PbBase {
   int operator==(const PbDomain& other) const;
 
   // --- Used inside this toolkit (not journaled) ---
-  bool is2D() const { return twoD; }
+  TAVREL_STANDIN_ONLY bool is2D() const { return twoD; }
   const SbBox3f& box() const { return domainBox; }
   const SbMatrix& matrix() const { return transform; }
 

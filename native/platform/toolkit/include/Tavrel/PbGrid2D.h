@@ -6,6 +6,8 @@
 // it keeps them (see each class); z, when given, is one elevation per node.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMesh2D.h>
 
 class PbGrid2D : public PbMesh2D {
@@ -14,25 +16,25 @@ class PbGrid2D : public PbMesh2D {
   virtual void setGeometry(int numX, int numY, const float* x, const float* y, const float* z) = 0;
   virtual SbVec3f getNodeCoord(int i, int j) const;
   using PbMesh::getNodeCoord;
-  void getDim(int& numX, int& numY) const;
+  TAVREL_ASSUMED void getDim(int& numX, int& numY) const;
 
-  void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
+  TAVREL_STANDIN_ONLY void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
 
  protected:
   explicit PbGrid2D(int isDataDuplicated) : PbMesh2D(isDataDuplicated) {}
   PbGrid2D(const PbGrid2D&) = default;
-  SbVec3f nodeCoord(int nodeIndex) const override;
-  virtual SbVec2f nodeXY(int i, int j) const = 0;
+  TAVREL_STANDIN_ONLY SbVec3f nodeCoord(int nodeIndex) const override;
+  TAVREL_STANDIN_ONLY virtual SbVec2f nodeXY(int i, int j) const = 0;
   // Sets the counts and the elevations (z may be null, for none).
-  void assignGrid(int numX, int numY, const float* z);
+  TAVREL_STANDIN_ONLY void assignGrid(int numX, int numY, const float* z);
   // The geometry is in place: counts, bounding box, cells.
-  void gridChanged();
+  TAVREL_STANDIN_ONLY void gridChanged();
   // Elevations, when the grid has them.
-  const float* elevations() const { return zs.empty() ? nullptr : zs.data(); }
-  void setElevations(const float* z);
-  long nodeCount() const { return static_cast<long>(numX) * numY; }
+  TAVREL_STANDIN_ONLY const float* elevations() const { return zs.empty() ? nullptr : zs.data(); }
+  TAVREL_STANDIN_ONLY void setElevations(const float* z);
+  TAVREL_STANDIN_ONLY long nodeCount() const { return static_cast<long>(numX) * numY; }
 
-  int numX = 0;
-  int numY = 0;
-  std::vector<float> zs;
+  TAVREL_STANDIN_ONLY int numX = 0;
+  TAVREL_STANDIN_ONLY int numY = 0;
+  TAVREL_STANDIN_ONLY std::vector<float> zs;
 };

@@ -6,6 +6,8 @@
 // setGeometry is virtual: each grid reads x, y and z as it keeps them.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMesh3D.h>
 
 class PbGrid3D : public PbMesh3D {
@@ -13,20 +15,20 @@ class PbGrid3D : public PbMesh3D {
   virtual void setGeometry(int numX, int numY, int numZ, const float* x, const float* y, const float* z) = 0;
   virtual SbVec3f getNodeCoord(int i, int j, int k) const;
   using PbMesh::getNodeCoord;
-  void getDim(int& numX, int& numY, int& numZ) const;
+  TAVREL_ASSUMED void getDim(int& numX, int& numY, int& numZ) const;
 
-  void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
+  TAVREL_STANDIN_ONLY void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
 
  protected:
   explicit PbGrid3D(int isDataDuplicated) : PbMesh3D(isDataDuplicated) {}
   PbGrid3D(const PbGrid3D&) = default;
-  SbVec3f nodeCoord(int nodeIndex) const override;
-  virtual SbVec3f nodeXYZ(int i, int j, int k) const = 0;
-  void assignGrid(int numX, int numY, int numZ);
-  void gridChanged();
-  long nodeCount() const { return static_cast<long>(numX) * numY * numZ; }
+  TAVREL_STANDIN_ONLY SbVec3f nodeCoord(int nodeIndex) const override;
+  TAVREL_STANDIN_ONLY virtual SbVec3f nodeXYZ(int i, int j, int k) const = 0;
+  TAVREL_STANDIN_ONLY void assignGrid(int numX, int numY, int numZ);
+  TAVREL_STANDIN_ONLY void gridChanged();
+  TAVREL_STANDIN_ONLY long nodeCount() const { return static_cast<long>(numX) * numY * numZ; }
 
-  int numX = 0;
-  int numY = 0;
-  int numZ = 0;
+  TAVREL_STANDIN_ONLY int numX = 0;
+  TAVREL_STANDIN_ONLY int numY = 0;
+  TAVREL_STANDIN_ONLY int numZ = 0;
 };

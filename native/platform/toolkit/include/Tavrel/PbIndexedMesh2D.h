@@ -12,6 +12,8 @@
 // toolkit does not reorder nodes for it.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbIndexedNodes.h>
 #include <Tavrel/PbMesh2D.h>
 
@@ -33,25 +35,25 @@ class PbIndexedMesh2D : public PbMesh2D {
                    const int* cellIndex);
   void getNodes(int& numNodes, const float*& x, const float*& y, const float*& z) const;
   void getNodes(int& numNodes, const float*& x, const float*& y) const;
-  virtual void setElemOrientation(ElemOrientation orientation);
-  ElemOrientation getElemOrientation() const { return orientation; }
+  TAVREL_ASSUMED virtual void setElemOrientation(ElemOrientation orientation);
+  TAVREL_STANDIN_ONLY ElemOrientation getElemOrientation() const { return orientation; }
 
   void setCoordinates(const float* x, const float* y, const float* z) override;
   void getCoordinates(const float*& x, const float*& y, const float*& z, int& nx, int& ny, int& nz) const override;
-  void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
+  TAVREL_STANDIN_ONLY void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
 
  protected:
   // Constructors without the journal, for subclasses and for this toolkit.
-  struct Quiet {};
+  TAVREL_STANDIN_ONLY struct Quiet {};
   explicit PbIndexedMesh2D(Quiet, int isDataDuplicated) : PbMesh2D(isDataDuplicated) {}
   PbIndexedMesh2D(const PbIndexedMesh2D& other, Quiet)
       : PbMesh2D(other),
         geometry(other.geometry),
         orientation(other.orientation) {}
   friend class PbMesh2D;
-  SbVec3f nodeCoord(int nodeIndex) const override;
+  TAVREL_STANDIN_ONLY SbVec3f nodeCoord(int nodeIndex) const override;
   // Replaces the geometry; cellTypes may be null when every cell has `fixed` nodes.
-  void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
+  TAVREL_STANDIN_ONLY void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
               int fixed, const int* cellIndex);
 
  private:

@@ -10,6 +10,8 @@
 // (numNodes each); setCoordinates replaces each non-null array.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbIndexedNodes.h>
 #include <Tavrel/PbMesh3D.h>
 
@@ -27,16 +29,16 @@ class PbIndexedMesh3D : public PbMesh3D {
 
   void setCoordinates(const float* x, const float* y, const float* z) override;
   void getCoordinates(const float*& x, const float*& y, const float*& z, int& nx, int& ny, int& nz) const override;
-  void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
+  TAVREL_STANDIN_ONLY void cellNodes(int cellIndex, std::vector<int>& nodes) const override;
 
  protected:
   // Constructors without the journal, for subclasses.
-  struct Quiet {};
+  TAVREL_STANDIN_ONLY struct Quiet {};
   explicit PbIndexedMesh3D(Quiet, int isDataDuplicated) : PbMesh3D(isDataDuplicated) {}
   PbIndexedMesh3D(const PbIndexedMesh3D& other, Quiet)
       : PbMesh3D(other), geometry(other.geometry) {}
-  SbVec3f nodeCoord(int nodeIndex) const override;
-  void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
+  TAVREL_STANDIN_ONLY SbVec3f nodeCoord(int nodeIndex) const override;
+  TAVREL_STANDIN_ONLY void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
               int fixed, const int* cellIndex);
 
  private:

@@ -3,6 +3,8 @@
 // count each and a list of node indices. Not journaled.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 
 #include <vector>
@@ -11,20 +13,20 @@ class PbIndexedNodes {
  public:
   // Copies the nodes (z may be null: no elevations) and the cells. cellTypes
   // may be null when every cell has `fixed` nodes.
-  void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
+  TAVREL_STANDIN_ONLY void assign(int numNodes, const float* x, const float* y, const float* z, int numCells, const int* cellTypes,
               int fixed, const int* cellIndex);
   // Replaces each non-null coordinate array (numNodes values).
-  void replace(const float* x, const float* y, const float* z);
-  int numNodes() const { return static_cast<int>(xs.size()); }
-  int numCells() const { return static_cast<int>(starts.size()) - 1; }
+  TAVREL_STANDIN_ONLY void replace(const float* x, const float* y, const float* z);
+  TAVREL_STANDIN_ONLY int numNodes() const { return static_cast<int>(xs.size()); }
+  TAVREL_STANDIN_ONLY int numCells() const { return static_cast<int>(starts.size()) - 1; }
   SbVec3f node(int n) const { return SbVec3f(xs[n], ys[n], zs.empty() ? 0.0f : zs[n]); }
-  void cellNodes(int cellIndex, std::vector<int>& nodes) const;
+  TAVREL_STANDIN_ONLY void cellNodes(int cellIndex, std::vector<int>& nodes) const;
   // The coordinate arrays; z is null without elevations.
-  void arrays(const float*& x, const float*& y, const float*& z) const;
+  TAVREL_STANDIN_ONLY void arrays(const float*& x, const float*& y, const float*& z) const;
 
   // Number of entries of the node list: the sum of the cell types, or
   // numCells * fixed when every cell has the same number of nodes.
-  static long listLength(int numCells, const int* cellTypes, int fixed);
+  TAVREL_STANDIN_ONLY static long listLength(int numCells, const int* cellTypes, int fixed);
 
  private:
   std::vector<float> xs, ys, zs;

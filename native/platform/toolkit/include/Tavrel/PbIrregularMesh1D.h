@@ -3,6 +3,8 @@
 // setCoordinates replaces it when x is not null.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMesh1D.h>
 
 class PbIrregularMesh1D : public PbMesh1D {
@@ -16,7 +18,7 @@ class PbIrregularMesh1D : public PbMesh1D {
   void getCoordinates(const float*& x, const float*& y, const float*& z, int& nx, int& ny, int& nz) const override;
 
  protected:
-  SbVec3f nodeCoord(int nodeIndex) const override;
+  TAVREL_STANDIN_ONLY SbVec3f nodeCoord(int nodeIndex) const override;
 
  private:
   void assign(int numNodes, const float* x);

@@ -11,6 +11,8 @@
 //  - A new mapping goes from 0, black, to 1, white, both opaque.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbDataMapping.h>
 
 class PbLinearDataMapping : public PbDataMapping {
@@ -34,7 +36,7 @@ class PbLinearDataMapping : public PbDataMapping {
                  float& transparency2) const;
 
  protected:
-  SbColor mappedColor(float value, float& transparency) const override;
+  TAVREL_STANDIN_ONLY SbColor mappedColor(float value, float& transparency) const override;
 
  private:
   struct End {

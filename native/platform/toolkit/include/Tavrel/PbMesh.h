@@ -42,6 +42,8 @@
 //    data); floats compare exactly, and the data-duplication flag is left out.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbBase.h>
 #include <Corvel/SbBox.h>
 #include <Corvel/SbString.h>
@@ -85,7 +87,7 @@ class PbMesh {
   virtual const SbString* getVecsSetName(int set) const;
   virtual const float* getValuesSet(int set) const;
   virtual const SbVec3f* getVecsSet(int set) const;
-  virtual const SbString* getStringsSet(int set) const;
+  TAVREL_STANDIN_ONLY virtual const SbString* getStringsSet(int set) const;
   virtual SbBool removeValuesSet(int set);
   virtual SbBool removeStringsSet(int set);
   virtual SbBool removeVecsSet(int set);
@@ -105,57 +107,57 @@ class PbMesh {
   virtual SbBox3f getBiggestCellBox(int& cellIndex) const;
 
   // --- Used inside this toolkit (not journaled) ---
-  SbVec3f nodeAt(int nodeIndex) const { return nodeCoord(nodeIndex); }
+  TAVREL_STANDIN_ONLY SbVec3f nodeAt(int nodeIndex) const { return nodeCoord(nodeIndex); }
   // Node indices of a cell (empty when the mesh has no such cell).
-  virtual void cellNodes(int cellIndex, std::vector<int>& nodes) const;
-  const PbCell* cellAt(int cellIndex) const;
+  TAVREL_STANDIN_ONLY virtual void cellNodes(int cellIndex, std::vector<int>& nodes) const;
+  TAVREL_STANDIN_ONLY const PbCell* cellAt(int cellIndex) const;
   // One value per cell from a values set: the set's own value for a PER_CELL
   // set, the mean of the values of the cell's nodes for a PER_NODE set (node
   // indices outside the mesh are left out; a cell without nodes gets 0), and 0
   // for every cell when the set is missing or has no data.
-  std::vector<float> cellValues(int set) const;
-  int numberOfNodes() const { return numNodes; }
-  int numberOfCells() const { return numCells; }
+  TAVREL_STANDIN_ONLY std::vector<float> cellValues(int set) const;
+  TAVREL_STANDIN_ONLY int numberOfNodes() const { return numNodes; }
+  TAVREL_STANDIN_ONLY int numberOfCells() const { return numCells; }
   // Whether the other mesh is the same (see above).
-  bool sameMeshAs(const PbMesh& other) const;
+  TAVREL_STANDIN_ONLY bool sameMeshAs(const PbMesh& other) const;
   // Counts the changes of geometry: the cells handed out before the last change
   // are freed.
-  unsigned long getGeometryVersion() const { return geometryVersion; }
+  TAVREL_STANDIN_ONLY unsigned long getGeometryVersion() const { return geometryVersion; }
 
  protected:
   explicit PbMesh(int isDataDuplicated);
   PbMesh(const PbMesh& other);
   PbMesh& operator=(const PbMesh& other);
 
-  virtual SbVec3f nodeCoord(int nodeIndex) const = 0;
+  TAVREL_STANDIN_ONLY virtual SbVec3f nodeCoord(int nodeIndex) const = 0;
   // A new cell for the index (null when the mesh has none).
-  virtual PbCell* newCell(int cellIndex) const;
+  TAVREL_STANDIN_ONLY virtual PbCell* newCell(int cellIndex) const;
   virtual const PbCell* findContainingCellProtected(const SbVec3f& point, float tolerance, SbVec3f& pcoord,
                                                     const PbCell* adjacentCell) const;
   struct ValuesSet {
     std::vector<float> data;
-    bool hasData = false;
+    TAVREL_STANDIN_ONLY bool hasData = false;
     DataBinding binding = PER_NODE;
     SbString name;
   };
-  const std::map<int, ValuesSet>& valuesSets() const { return values; }
-  int duplicationFlag() const { return dataDuplicated; }
+  TAVREL_STANDIN_ONLY const std::map<int, ValuesSet>& valuesSets() const { return values; }
+  TAVREL_STANDIN_ONLY int duplicationFlag() const { return dataDuplicated; }
   // The data-set operations without the journal.
-  void putValues(int set, const float* data, DataBinding binding, const SbString& name);
-  void putVecs(int set, const SbVec3f* data, const SbString& name);
-  int countNodes() const { return numNodes; }
-  int countCells() const { return numCells; }
+  TAVREL_STANDIN_ONLY void putValues(int set, const float* data, DataBinding binding, const SbString& name);
+  TAVREL_STANDIN_ONLY void putVecs(int set, const SbVec3f* data, const SbString& name);
+  TAVREL_STANDIN_ONLY int countNodes() const { return numNodes; }
+  TAVREL_STANDIN_ONLY int countCells() const { return numCells; }
   // Coordinates that the cell search compares: 3, or 2 (x, y) for 2D meshes.
-  virtual int searchDimensions() const { return 3; }
+  TAVREL_STANDIN_ONLY virtual int searchDimensions() const { return 3; }
   // To be called by every concrete class when its geometry is in place.
-  void geometryChanged(int numNodes, int numCells);
-  SbBox3f cellBox(int& cellIndex, bool biggest) const;
+  TAVREL_STANDIN_ONLY void geometryChanged(int numNodes, int numCells);
+  TAVREL_STANDIN_ONLY SbBox3f cellBox(int& cellIndex, bool biggest) const;
 
  private:
   template <class T>
   struct Set {
     std::vector<T> data;
-    bool hasData = false;
+    TAVREL_STANDIN_ONLY bool hasData = false;
     SbString name;
   };
   int length(DataBinding binding) const { return binding == PER_CELL ? numCells : numNodes; }

@@ -3,6 +3,8 @@
 // getCell and findContainingCell give null, getVolume and getArea give 0.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMesh.h>
 
 class PbMesh1D : public PbMesh {
@@ -19,5 +21,5 @@ class PbMesh1D : public PbMesh {
   PbMesh1D(const PbMesh1D&) = default;
   const PbCell* findContainingCellProtected(const SbVec3f& point, float tolerance, SbVec3f& pcoord,
                                             const PbCell* adjacentCell) const override;
-  static int segments(int numNodes) { return numNodes > 1 ? numNodes - 1 : 0; }
+  TAVREL_STANDIN_ONLY static int segments(int numNodes) { return numNodes > 1 ? numNodes - 1 : 0; }
 };

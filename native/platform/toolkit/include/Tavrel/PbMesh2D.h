@@ -12,6 +12,8 @@
 //    further by this toolkit. The new mesh belongs to the caller.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMesh.h>
 
 class PbDefinedValue;
@@ -22,13 +24,13 @@ class PbMesh2D : public PbMesh {
 
   using PbMesh::addVecsSet;
   void addVecsSet(int set, const SbVec2f* vectors, const SbString& name);
-  virtual SbBox2f get2DBoundingBox() const;
+  TAVREL_ASSUMED virtual SbBox2f get2DBoundingBox() const;
   PbMesh2D* getFaultMesh(int numFaultNodes, const int* faultNodes, const SbVec3f* faultVectors,
                          ExtrapolationMethod method, PbDefinedValue& definedValue) const;
 
  protected:
   explicit PbMesh2D(int isDataDuplicated) : PbMesh(isDataDuplicated) {}
   PbMesh2D(const PbMesh2D&) = default;
-  PbCell* newCell(int cellIndex) const override;
-  int searchDimensions() const override { return 2; }
+  TAVREL_STANDIN_ONLY PbCell* newCell(int cellIndex) const override;
+  TAVREL_STANDIN_ONLY int searchDimensions() const override { return 2; }
 };

@@ -11,6 +11,8 @@
 //    (inline accessors).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Tavrel/PbBase.h>
 
@@ -23,18 +25,18 @@ class PbMiscTextAttr : public PbBase {
   ~PbMiscTextAttr() override;
 
   void setFontName(const SbString& name);
-  SbString getFontName() const { return fontName; }
+  TAVREL_ASSUMED SbString getFontName() const { return fontName; }
 
   void setLineLength(char type, int length);
-  void getLineLength(char& type, int& length) const {
+  TAVREL_ASSUMED void getLineLength(char& type, int& length) const {
     type = lineLengthType;
     length = lineLength;
   }
 
   void enableProfile(SbBool flag);
-  SbBool isProfileEnabled() const { return profile; }
+  TAVREL_ASSUMED SbBool isProfileEnabled() const { return profile; }
   void enablePredefinedProfile(SbBool flag);
-  SbBool isPredefinedProfileEnabled() const { return predefinedProfile; }
+  TAVREL_ASSUMED SbBool isPredefinedProfileEnabled() const { return predefinedProfile; }
 
  private:
   SbString fontName;

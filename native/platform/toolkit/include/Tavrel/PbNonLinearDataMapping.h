@@ -5,6 +5,8 @@
 // value black, opaque (thresholds apply as for every mapping).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbDataMapping.h>
 
 class PbNonLinearDataMapping : public PbDataMapping {
@@ -13,5 +15,5 @@ class PbNonLinearDataMapping : public PbDataMapping {
   ~PbNonLinearDataMapping() override;
 
  protected:
-  SbColor mappedColor(float value, float& transparency) const override;
+  TAVREL_STANDIN_ONLY SbColor mappedColor(float value, float& transparency) const override;
 };

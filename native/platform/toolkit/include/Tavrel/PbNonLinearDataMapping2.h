@@ -25,6 +25,8 @@
 //    accessors).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbDataMapping.h>
 
 #include <vector>
@@ -40,15 +42,15 @@ class PbNonLinearDataMapping2 : public PbDataMapping {
   void setValues(Type type, int num, const float* values, const SbColor* colors);
   void setValues(Type type, int num, const float* values, const SbColor* colors, const float* transparency);
 
-  Type getType() const { return type; }
-  int getNumValues() const { return static_cast<int>(values.size()); }
-  const float* getValuesList() const { return values.empty() ? nullptr : values.data(); }
-  int getNumColors() const { return numColors; }
-  const SbColor* getColorsList() const { return colors.empty() ? nullptr : colors.data(); }
-  const float* getTransparencyList() const { return transparencies.empty() ? nullptr : transparencies.data(); }
+  TAVREL_ASSUMED Type getType() const { return type; }
+  TAVREL_ASSUMED int getNumValues() const { return static_cast<int>(values.size()); }
+  TAVREL_ASSUMED const float* getValuesList() const { return values.empty() ? nullptr : values.data(); }
+  TAVREL_ASSUMED int getNumColors() const { return numColors; }
+  TAVREL_ASSUMED const SbColor* getColorsList() const { return colors.empty() ? nullptr : colors.data(); }
+  TAVREL_ASSUMED const float* getTransparencyList() const { return transparencies.empty() ? nullptr : transparencies.data(); }
 
  protected:
-  SbColor mappedColor(float value, float& transparency) const override;
+  TAVREL_STANDIN_ONLY SbColor mappedColor(float value, float& transparency) const override;
 
  private:
   void set(Type type, int num, const float* values, const SbColor* colors, const float* transparency);

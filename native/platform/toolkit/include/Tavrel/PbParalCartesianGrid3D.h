@@ -4,6 +4,8 @@
 // cells are voxels.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbGrid3D.h>
 
 class PbParalCartesianGrid3D : public PbGrid3D {
@@ -18,8 +20,8 @@ class PbParalCartesianGrid3D : public PbGrid3D {
   void setGeometry(int numX, int numY, int numZ, const float* x, const float* y, const float* z) override;
 
  protected:
-  SbVec3f nodeXYZ(int i, int j, int k) const override;
-  PbCell* newCell(int cellIndex) const override;
+  TAVREL_STANDIN_ONLY SbVec3f nodeXYZ(int i, int j, int k) const override;
+  TAVREL_STANDIN_ONLY PbCell* newCell(int cellIndex) const override;
 
  private:
   void assign(int numX, int numY, int numZ, const float* x, const float* y, const float* z);

@@ -3,6 +3,8 @@
 // angles are not coordinates). Its cells are quadrangles.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbGrid2D.h>
 
 class PbPolarGrid2D : public PbGrid2D {
@@ -16,7 +18,7 @@ class PbPolarGrid2D : public PbGrid2D {
   void setGeometry(int numX, int numY, const float* x, const float* y, const float* z) override;
 
  protected:
-  SbVec2f nodeXY(int i, int j) const override;
+  TAVREL_STANDIN_ONLY SbVec2f nodeXY(int i, int j) const override;
 
  private:
   void assign(int numX, int numY, const float* radii, const float* angles, const float* z);

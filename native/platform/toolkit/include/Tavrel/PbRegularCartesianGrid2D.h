@@ -4,6 +4,8 @@
 // y[0], y[numY-1]). Its cells are pixels.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbGrid2D.h>
 
 class PbRegularCartesianGrid2D : public PbGrid2D {
@@ -22,8 +24,8 @@ class PbRegularCartesianGrid2D : public PbGrid2D {
   void setGeometry(int numX, int numY, const float* x, const float* y, const float* z) override;
 
  protected:
-  SbVec2f nodeXY(int i, int j) const override;
-  PbCell* newCell(int cellIndex) const override;
+  TAVREL_STANDIN_ONLY SbVec2f nodeXY(int i, int j) const override;
+  TAVREL_STANDIN_ONLY PbCell* newCell(int cellIndex) const override;
 
  private:
   void assign(int numX, int numY, float xmin, float ymin, float xmax, float ymax, const float* z);

@@ -2,6 +2,8 @@
 // sits at xmin). It keeps no coordinate arrays.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMesh1D.h>
 
 class PbRegularMesh1D : public PbMesh1D {
@@ -13,7 +15,7 @@ class PbRegularMesh1D : public PbMesh1D {
   void setGeometry(int numNodes, float xmin, float xmax);
 
  protected:
-  SbVec3f nodeCoord(int nodeIndex) const override;
+  TAVREL_STANDIN_ONLY SbVec3f nodeCoord(int nodeIndex) const override;
 
  private:
   void assign(int numNodes, float xmin, float xmax);

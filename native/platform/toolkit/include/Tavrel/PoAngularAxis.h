@@ -15,6 +15,8 @@
 //    its tick and label outwards; the axis's length is the radius.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoAxis.h>
 
 class PoAngularAxis : public PoAxis {
@@ -33,13 +35,13 @@ class PoAngularAxis : public PoAxis {
  protected:
   ~PoAngularAxis() override;
   void init(float centreX, float centreY, float radius, float firstAngle, float angleStep);
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
-  unsigned short subTicks() const override { return 2; }
-  std::vector<SbVec3f> axisLine() const override;
-  SbVec3f pointOf(double value) const override;
-  SbVec3f gradSide(double value) const override;
-  double axisLength() const override;
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY unsigned short subTicks() const override { return 2; }
+  TAVREL_STANDIN_ONLY std::vector<SbVec3f> axisLine() const override;
+  TAVREL_STANDIN_ONLY SbVec3f pointOf(double value) const override;
+  TAVREL_STANDIN_ONLY SbVec3f gradSide(double value) const override;
+  TAVREL_STANDIN_ONLY double axisLength() const override;
 
  private:
   float centreX = 0.0f, centreY = 0.0f, radius = 1.0f, firstAngle = 0.0f, angleStep = 30.0f;

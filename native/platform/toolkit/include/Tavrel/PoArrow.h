@@ -13,6 +13,8 @@
 //    the matrix of the domain when the node has one.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -33,16 +35,16 @@ class PoArrow : public PoQuorvex {
   void rebuild() override;
 
   // --- Used inside this toolkit (not journaled) ---
-  int getNumPoints() const { return numPoints; }
-  const std::vector<SbVec2f>& getPoints() const { return points; }
-  PatternType getStartPattern() const { return startPattern; }
-  PatternType getEndPattern() const { return endPattern; }
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY int getNumPoints() const { return numPoints; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec2f>& getPoints() const { return points; }
+  TAVREL_STANDIN_ONLY PatternType getStartPattern() const { return startPattern; }
+  TAVREL_STANDIN_ONLY PatternType getEndPattern() const { return endPattern; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   ~PoArrow() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
 
  private:
   void init(int isDefault, int numPoints, const SbVec2f* points, PatternType startPattern, PatternType endPattern,

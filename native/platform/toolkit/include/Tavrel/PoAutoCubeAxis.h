@@ -10,6 +10,8 @@
 //    journals itself.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBase.h>
@@ -29,10 +31,10 @@ class PoAutoCubeAxis : public PoBase {
 
   // --- Used inside this toolkit (not journaled) ---
   SbVec3f start, end;
-  AxisType types[3] = {LINEAR, LINEAR, LINEAR};
-  SbString titles[3];
+  TAVREL_STANDIN_ONLY AxisType types[3] = {LINEAR, LINEAR, LINEAR};
+  TAVREL_STANDIN_ONLY SbString titles[3];
 
  protected:
   ~PoAutoCubeAxis() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
 };

@@ -46,6 +46,8 @@
 //    domain.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBase.h>
@@ -88,46 +90,46 @@ class PoAxis : public PoBase, public PoDrawing {
   // --- Used inside this toolkit (not journaled) ---
   struct Graduation {
     double value;
-    SbString label;
+    TAVREL_STANDIN_ONLY SbString label;
   };
-  const std::vector<Graduation>& graduations() const { return grads; }
-  const PbMiscTextAttr* textAttributes() const { return textAttr; }
+  TAVREL_STANDIN_ONLY const std::vector<Graduation>& graduations() const { return grads; }
+  TAVREL_STANDIN_ONLY const PbMiscTextAttr* textAttributes() const { return textAttr; }
 
  protected:
   PoAxis();
   ~PoAxis() override;
 
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   // The graduations of the current settings, in the order the axis runs.
-  virtual void makeGraduations(std::vector<Graduation>& out) const = 0;
+  TAVREL_STANDIN_ONLY virtual void makeGraduations(std::vector<Graduation>& out) const = 0;
   // The values at the start and at the end of the axis.
-  virtual void range(double& start, double& end) const = 0;
+  TAVREL_STANDIN_ONLY virtual void range(double& start, double& end) const = 0;
   // Sub-ticks between two graduations.
-  virtual unsigned short subTicks() const { return 0; }
+  TAVREL_STANDIN_ONLY virtual unsigned short subTicks() const { return 0; }
   // A value written with the format (null: "%g").
-  static SbString label(double value, const PbNumericDisplayFormat* format);
+  TAVREL_STANDIN_ONLY static SbString label(double value, const PbNumericDisplayFormat* format);
   // Linear graduations: the multiples of step from start to end (a step
   // of 0 or less: automatic, see PoLinearAxis.h).
-  static void linearGraduations(double start, double end, double step, const PbNumericDisplayFormat* format,
+  TAVREL_STANDIN_ONLY static void linearGraduations(double start, double end, double step, const PbNumericDisplayFormat* format,
                                 std::vector<Graduation>& out);
-  static double automaticStep(double start, double end);
+  TAVREL_STANDIN_ONLY static double automaticStep(double start, double end);
   // Logarithmic graduations between the exponents start and end.
-  static void logGraduations(double start, double end, const std::vector<unsigned short>& digits,
+  TAVREL_STANDIN_ONLY static void logGraduations(double start, double end, const std::vector<unsigned short>& digits,
                              std::vector<Graduation>& out);
   // Where the axis lies: the points of its line, the point of a value, the
   // unit vector from that point towards the graduation side, and the
   // length that ticks are a share of.
-  virtual std::vector<SbVec3f> axisLine() const = 0;
-  virtual SbVec3f pointOf(double value) const = 0;
-  virtual SbVec3f gradSide(double value) const = 0;
-  virtual double axisLength() const = 0;
+  TAVREL_STANDIN_ONLY virtual std::vector<SbVec3f> axisLine() const = 0;
+  TAVREL_STANDIN_ONLY virtual SbVec3f pointOf(double value) const = 0;
+  TAVREL_STANDIN_ONLY virtual SbVec3f gradSide(double value) const = 0;
+  TAVREL_STANDIN_ONLY virtual double axisLength() const = 0;
   // How far along the axis a value lies: 0 at the start value, 1 at the end
   // value, linear in the value (in its logarithm for logarithmic axes); 0
   // when both end values are equal.
-  double fraction(double value) const;
-  virtual bool logarithmic() const { return false; }
+  TAVREL_STANDIN_ONLY double fraction(double value) const;
+  TAVREL_STANDIN_ONLY virtual bool logarithmic() const { return false; }
 
-  SbString title;
+  TAVREL_STANDIN_ONLY SbString title;
 
  private:
   // The drawing of the graduations just made.

@@ -40,6 +40,8 @@
 //    initialised) as well as through getClassTypeId().
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SoBaseKit.h>
 
 #include <vector>
@@ -81,10 +83,10 @@ class PoBase : public SoBaseKit {
   static void setVRML2Mode(int flag);
   static SbBool isVRML2Mode();
 
-  void setUpdateMethod(UpdateMethodType method) { updateMethod = method; }
-  UpdateMethodType getUpdateMethod() const { return updateMethod; }
-  SbBool isModified() const { return modified; }
-  SbBool isBuilt() const { return built; }
+  TAVREL_ASSUMED void setUpdateMethod(UpdateMethodType method) { updateMethod = method; }
+  TAVREL_ASSUMED UpdateMethodType getUpdateMethod() const { return updateMethod; }
+  TAVREL_ASSUMED SbBool isModified() const { return modified; }
+  TAVREL_ASSUMED SbBool isBuilt() const { return built; }
 
   void setDomain(PbDomain* domain);
   PbDomain* getDomain() const;
@@ -101,32 +103,32 @@ class PoBase : public SoBaseKit {
 
   // --- Used inside this toolkit (not journaled) ---
   struct Callback {
-    PoRebuildCB* function;
+    TAVREL_STANDIN_ONLY PoRebuildCB* function;
     void* userData;
   };
-  const std::vector<Callback>& preRebuildCallbacks() const { return preCallbacks; }
-  const std::vector<Callback>& postRebuildCallbacks() const { return postCallbacks; }
+  TAVREL_STANDIN_ONLY const std::vector<Callback>& preRebuildCallbacks() const { return preCallbacks; }
+  TAVREL_STANDIN_ONLY const std::vector<Callback>& postRebuildCallbacks() const { return postCallbacks; }
   // Number of builds so far.
-  int getBuildCount() const { return buildCount; }
+  TAVREL_STANDIN_ONLY int getBuildCount() const { return buildCount; }
   // The domain set (null: none).
-  PbDomain* domainInUse() const { return domain; }
+  TAVREL_STANDIN_ONLY PbDomain* domainInUse() const { return domain; }
 
  protected:
   PoBase();
   ~PoBase() override;
 
   // One rebuild, as described above, with build() as the build.
-  void runRebuild();
+  TAVREL_STANDIN_ONLY void runRebuild();
   // What the class builds; PoBase builds nothing.
-  virtual void build();
+  TAVREL_STANDIN_ONLY virtual void build();
   // A change of the node: the modified flag, then a rebuild at once with
   // the immediate update method.
-  void changed();
+  TAVREL_STANDIN_ONLY void changed();
   // What a render traversal keeps of the node once it is rebuilt (see
   // SoGLRenderAction): lines, filled polygons and texts of its last build.
   // PoBase's own adds the drawing of a node that keeps one (PoDrawing.h),
   // nothing for the others.
-  virtual void draw(SoGLRenderAction* action);
+  TAVREL_STANDIN_ONLY virtual void draw(SoGLRenderAction* action);
 
  private:
   // Rebuilds the node if a traversal must (see above).

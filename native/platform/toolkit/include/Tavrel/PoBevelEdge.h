@@ -10,6 +10,8 @@
 // When traversed it becomes the state's current bevel edge (PoBevelEdgeElement).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPropertyNode.h>
 
 class PoBevelEdge : public PoNode, public PoStateSetter {
@@ -19,10 +21,10 @@ class PoBevelEdge : public PoNode, public PoStateSetter {
   enum RadiusFlag : int { ABSOLUTERADIUS = 0, PERCENTAGERADIUS = 1 };
 
   // --- Used inside this toolkit (not journaled) ---
-  bool isOn() const;
-  float getAngle() const;
-  float getRadius() const;
-  RadiusFlag getRadiusFlag() const;
+  TAVREL_STANDIN_ONLY bool isOn() const;
+  TAVREL_STANDIN_ONLY float getAngle() const;
+  TAVREL_STANDIN_ONLY float getRadius() const;
+  TAVREL_STANDIN_ONLY RadiusFlag getRadiusFlag() const;
 
  private:
   SoField* onField;

@@ -3,6 +3,8 @@
 // default off, 0, ABSOLUTERADIUS, 0. See PoElementSubClass.h.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoBevelEdge.h>
 #include <Tavrel/PoElementSubClass.h>
 
@@ -16,11 +18,11 @@ class PoBevelEdgeElement : public SoReplacedElement {
   static void setValue(SoState* state, SoNode* node, int on, float angle, PoBevelEdge::RadiusFlag radiusFlag,
                        float radius);
   // The top element (defaults when none could be made: a null pointer).
-  static const PoBevelEdgeElement* current(SoState* state);
-  int isOn() const { return on; }
-  float getAngle() const { return angle; }
-  PoBevelEdge::RadiusFlag getRadiusFlag() const { return radiusFlag; }
-  float getRadius() const { return radius; }
+  TAVREL_STANDIN_ONLY static const PoBevelEdgeElement* current(SoState* state);
+  TAVREL_STANDIN_ONLY int isOn() const { return on; }
+  TAVREL_STANDIN_ONLY float getAngle() const { return angle; }
+  TAVREL_STANDIN_ONLY PoBevelEdge::RadiusFlag getRadiusFlag() const { return radiusFlag; }
+  TAVREL_STANDIN_ONLY float getRadius() const { return radius; }
 
  private:
   int on = 0;

@@ -13,6 +13,8 @@
 //    of its part.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -40,7 +42,7 @@ class PoBiErrorPointField : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoBiErrorPointField() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int num, const SbVec2f* points, const float* xLow, const float* xHigh,
             const float* yLow, const float* yHigh, VariationType variationType, int flag1, int flag2);
 

@@ -4,6 +4,8 @@
 // their headers. The same build also makes what the node draws (PoDrawing.h).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoDrawing.h>
 
 #include <string>
@@ -12,8 +14,8 @@
 class PoBuiltParts : public PoDrawing {
  public:
   // The parts of the last build (empty before the first).
-  const std::vector<std::string>& getBuiltParts() const { return builtParts; }
+  TAVREL_STANDIN_ONLY const std::vector<std::string>& getBuiltParts() const { return builtParts; }
 
  protected:
-  std::vector<std::string> builtParts;
+  TAVREL_STANDIN_ONLY std::vector<std::string> builtParts;
 };

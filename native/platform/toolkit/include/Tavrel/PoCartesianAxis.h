@@ -16,6 +16,8 @@
 //    coordinate|.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoAxis.h>
 
@@ -26,19 +28,19 @@ class PoCartesianAxis : public PoAxis {
   enum Type : int { XY = 0, XZ = 1, YX = 2, YZ = 3, ZX = 4, ZY = 5 };
 
   // --- Used inside this toolkit (not journaled) ---
-  const SbVec3f& getStart() const { return start; }
-  float getEnd() const { return end; }
-  Type getType() const { return type; }
+  TAVREL_STANDIN_ONLY const SbVec3f& getStart() const { return start; }
+  TAVREL_STANDIN_ONLY float getEnd() const { return end; }
+  TAVREL_STANDIN_ONLY Type getType() const { return type; }
   // The coordinate of the start along the axis's direction.
-  double startCoordinate() const;
+  TAVREL_STANDIN_ONLY double startCoordinate() const;
 
  protected:
   PoCartesianAxis();
   ~PoCartesianAxis() override;
-  std::vector<SbVec3f> axisLine() const override;
-  SbVec3f pointOf(double value) const override;
-  SbVec3f gradSide(double value) const override;
-  double axisLength() const override;
+  TAVREL_STANDIN_ONLY std::vector<SbVec3f> axisLine() const override;
+  TAVREL_STANDIN_ONLY SbVec3f pointOf(double value) const override;
+  TAVREL_STANDIN_ONLY SbVec3f gradSide(double value) const override;
+  TAVREL_STANDIN_ONLY double axisLength() const override;
 
   SbVec3f start;
   float end = 1.0f;

@@ -8,6 +8,8 @@
 // filter about their cells (PoMesh.h).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoNode.h>
 
 #include <vector>
@@ -24,12 +26,12 @@ class PoCellFilter : public PoNode {
   // 0..numCells-1 in turn, with the cell's value (values[i], or 0 when values
   // is null), and keeps the indices of the accepted ones. A null filter
   // accepts every cell.
-  static std::vector<int> selectCells(const PoCellFilter* filter, int numCells, const float* values);
+  TAVREL_STANDIN_ONLY static std::vector<int> selectCells(const PoCellFilter* filter, int numCells, const float* values);
 
   // --- Used inside this toolkit (not journaled) ---
   // Makes the filter the current cell filter of the action's state, if the
   // action has one.
-  void makeCurrent(SoAction* action) const;
+  TAVREL_STANDIN_ONLY void makeCurrent(SoAction* action) const;
 
  protected:
   PoCellFilter();

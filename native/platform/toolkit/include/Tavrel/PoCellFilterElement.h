@@ -4,6 +4,8 @@
 // ask it about their cells (PoMesh.h). See PoElementSubClass.h.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoElementSubClass.h>
 
 class PoCellFilter;
@@ -16,7 +18,7 @@ class PoCellFilterElement : public SoReplacedElement {
 
   // --- Used inside this toolkit (not journaled) ---
   static void setValue(SoState* state, SoNode* node);
-  static const PoCellFilter* current(SoState* state);
+  TAVREL_STANDIN_ONLY static const PoCellFilter* current(SoState* state);
 
  private:
   const PoCellFilter* filter = nullptr;

@@ -10,6 +10,8 @@
 //    the centre alone.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -23,16 +25,16 @@ class PoCircle : public PoQuorvex {
 
   // --- Used inside this toolkit (not journaled) ---
   const SbVec2f& getCenter() const { return center; }
-  float getRadius() const { return radius; }
+  TAVREL_STANDIN_ONLY float getRadius() const { return radius; }
   // The outline made by the last build (empty before the first).
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   PoCircle();
   ~PoCircle() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
-  void setCircle(const SbVec2f& newCenter, float newRadius);
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void setCircle(const SbVec2f& newCenter, float newRadius);
 
  private:
   SbVec2f center;

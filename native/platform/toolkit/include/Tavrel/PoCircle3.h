@@ -12,6 +12,8 @@
 //    constructor calls it, 0 otherwise; it changes nothing.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -25,16 +27,16 @@ class PoCircle3 : public PoQuorvex {
 
   // --- Used inside this toolkit (not journaled) ---
   const SbVec3f& getCenter() const { return center; }
-  float getRadius() const { return radius; }
-  const SbVec3f& getNormal() const { return normal; }
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY float getRadius() const { return radius; }
+  TAVREL_STANDIN_ONLY const SbVec3f& getNormal() const { return normal; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   PoCircle3();
   ~PoCircle3() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
-  void setCircle(const SbVec3f& newCenter, float newRadius, const SbVec3f& newNormal);
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void setCircle(const SbVec3f& newCenter, float newRadius, const SbVec3f& newNormal);
 
  private:
   SbVec3f center;

@@ -12,6 +12,8 @@
 //    node has one. An arc of radius 0 is the polyline its variant says.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -27,21 +29,21 @@ class PoCircleArc : public PoQuorvex {
 
   // --- Used inside this toolkit (not journaled) ---
   const SbVec2f& getCenter() const { return center; }
-  float getRadius() const { return radius; }
-  float getStartAngle() const { return startAngle; }
-  float getSweep() const { return sweep; }
-  SbVec2f getEndPoint() const;
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY float getRadius() const { return radius; }
+  TAVREL_STANDIN_ONLY float getStartAngle() const { return startAngle; }
+  TAVREL_STANDIN_ONLY float getSweep() const { return sweep; }
+  TAVREL_STANDIN_ONLY SbVec2f getEndPoint() const;
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   PoCircleArc();
   ~PoCircleArc() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
-  void setArc(const SbVec2f& newCenter, float newRadius, float newStartAngle, float newSweep);
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void setArc(const SbVec2f& newCenter, float newRadius, float newStartAngle, float newSweep);
   // A degenerate arc drawn as the straight segment from a to b (radius 0,
   // centre halfway).
-  void setSegment(const SbVec2f& a, const SbVec2f& b);
+  TAVREL_STANDIN_ONLY void setSegment(const SbVec2f& a, const SbVec2f& b);
 
  private:
   SbVec2f center;

@@ -13,6 +13,8 @@
 //    one.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -28,25 +30,25 @@ class PoCircleArc3 : public PoQuorvex {
 
   // --- Used inside this toolkit (not journaled) ---
   const SbVec3f& getCenter() const { return center; }
-  float getRadius() const { return radius; }
-  const SbVec3f& getNormal() const { return normal; }
-  float getSweep() const { return sweep; }
-  SbVec3f getStartPoint() const;
-  SbVec3f getEndPoint() const;
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY float getRadius() const { return radius; }
+  TAVREL_STANDIN_ONLY const SbVec3f& getNormal() const { return normal; }
+  TAVREL_STANDIN_ONLY float getSweep() const { return sweep; }
+  TAVREL_STANDIN_ONLY SbVec3f getStartPoint() const;
+  TAVREL_STANDIN_ONLY SbVec3f getEndPoint() const;
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   PoCircleArc3();
   ~PoCircleArc3() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
   // start is the start point; its direction from the centre is made
   // perpendicular to the normal. A zero normal is (0, 0, 1).
-  void setArc(const SbVec3f& newCenter, const SbVec3f& start, const SbVec3f& newNormal, float newSweep);
+  TAVREL_STANDIN_ONLY void setArc(const SbVec3f& newCenter, const SbVec3f& start, const SbVec3f& newNormal, float newSweep);
   // A degenerate arc drawn as the segment from a to b (radius 0, centre
   // halfway).
-  void setSegment(const SbVec3f& a, const SbVec3f& b);
-  SbVec3f pointAt(float angle) const;
+  TAVREL_STANDIN_ONLY void setSegment(const SbVec3f& a, const SbVec3f& b);
+  TAVREL_STANDIN_ONLY SbVec3f pointAt(float angle) const;
 
  private:
   SbVec3f center;

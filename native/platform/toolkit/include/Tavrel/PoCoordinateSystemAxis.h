@@ -9,6 +9,8 @@
 //  - Its build makes nothing but journals itself.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
@@ -26,13 +28,13 @@ class PoCoordinateSystemAxis : public PoQuorvex {
   void rebuild() override;
 
   // --- Used inside this toolkit (not journaled) ---
-  SbVec3f origin, end;
-  SbString titles[3];
-  float gradDistance = 0.1f, arrowLength = 0.05f;
+  TAVREL_STANDIN_ONLY SbVec3f origin, end;
+  TAVREL_STANDIN_ONLY SbString titles[3];
+  TAVREL_STANDIN_ONLY float gradDistance = 0.1f, arrowLength = 0.05f;
 
  protected:
   ~PoCoordinateSystemAxis() override;
   void init(int flag, const SbVec3f& origin, const SbVec3f& end, const char* xTitle, const char* yTitle,
             const char* zTitle, float gradDistance, float arrowLength);
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
 };

@@ -12,6 +12,8 @@
 //    CURVENONE or a curve without points).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -43,11 +45,11 @@ class PoCurve : public PoQuorvex, public PoBuiltParts {
   void rebuild() override;
 
   // --- Used inside this toolkit (not journaled) ---
-  const std::vector<SbVec2f>& getPoints() const { return points; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec2f>& getPoints() const { return points; }
 
  protected:
   ~PoCurve() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int numPoints, const SbVec2f* points, CurveRep curveRep);
 
  private:

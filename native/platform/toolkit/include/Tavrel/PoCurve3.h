@@ -11,6 +11,8 @@
 //    CURVENONE or a curve without points); the picture drops z.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -32,7 +34,7 @@ class PoCurve3 : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoCurve3() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int numPoints, const SbVec3f* points, CurveRep curveRep);
 
  private:

@@ -6,6 +6,8 @@
 // (PoDataMappingElement, with the node's mapping).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPropertyNode.h>
 
 class PbDataMapping;
@@ -15,12 +17,12 @@ class PoDataMapping : public PoNode, public PoStateSetter {
 
  public:
   void doAction(SoAction* action) override;
-  void makeCurrent(SoAction* action) const override;
+  TAVREL_STANDIN_ONLY void makeCurrent(SoAction* action) const override;
 
   // --- Used inside this toolkit (not journaled) ---
   // The node's mapping, brought up to date from its fields; it lives as long
   // as the node.
-  virtual const PbDataMapping* getMapping() const = 0;
+  TAVREL_STANDIN_ONLY virtual const PbDataMapping* getMapping() const = 0;
 
  protected:
   PoDataMapping();

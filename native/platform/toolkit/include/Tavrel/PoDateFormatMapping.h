@@ -12,6 +12,8 @@
 // format mapping (PoDateFormatMappingElement, with its mapping).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbDateFormatMapping.h>
 #include <Tavrel/PoPropertyNode.h>
 
@@ -22,7 +24,7 @@ class PoDateFormatMapping : public PoNode, public PoStateSetter {
   int getCoordinate(const char* date, float& coord) const;
 
   // --- Used inside this toolkit (not journaled) ---
-  const PbDateFormatMapping* getMapping() const;
+  TAVREL_STANDIN_ONLY const PbDateFormatMapping* getMapping() const;
 
  private:
   SoField* date1Field;

@@ -13,6 +13,8 @@
 //  - Lines and texts are black unless the node says otherwise.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Corvel/SbVec.h>
 #include <Corvel/SoAction.h>
@@ -29,27 +31,27 @@ class PoDrawing {
 
   virtual ~PoDrawing() = default;
   // What the last build drew (empty before the first).
-  const std::vector<Primitive>& getDrawing() const { return drawing; }
+  TAVREL_STANDIN_ONLY const std::vector<Primitive>& getDrawing() const { return drawing; }
 
  protected:
-  void clearDrawing() { drawing.clear(); }
-  void addLine(std::vector<SbVec3f> points, const SbColor& color = SbColor(0, 0, 0));
-  void addPolygon(std::vector<SbVec3f> points, const SbColor& color);
-  void addText(const SbVec3f& at, std::string text, Primitive::Anchor anchor = Primitive::MIDDLE,
+  TAVREL_STANDIN_ONLY void clearDrawing() { drawing.clear(); }
+  TAVREL_STANDIN_ONLY void addLine(std::vector<SbVec3f> points, const SbColor& color = SbColor(0, 0, 0));
+  TAVREL_STANDIN_ONLY void addPolygon(std::vector<SbVec3f> points, const SbColor& color);
+  TAVREL_STANDIN_ONLY void addText(const SbVec3f& at, std::string text, Primitive::Anchor anchor = Primitive::MIDDLE,
                Primitive::Baseline baseline = Primitive::BASELINE, const SbColor& color = SbColor(0, 0, 0));
   // A legend row from corner low to corner high: a square in the colour
   // (outlined in black for null), then the text (PoItemLegend.h).
-  void addLegendRow(const SbVec2f& low, const SbVec2f& high, const SbColor* color, const std::string& text);
+  TAVREL_STANDIN_ONLY void addLegendRow(const SbVec2f& low, const SbVec2f& high, const SbColor* color, const std::string& text);
   // A quarter of the smallest gap between two of the x values, or of the
   // fallback when no two differ.
-  static float quarterGap(std::vector<float> xs, float fallback);
+  TAVREL_STANDIN_ONLY static float quarterGap(std::vector<float> xs, float fallback);
   // The outline of the box from corner a to corner c, closed, at z 0.
   static std::vector<SbVec3f> box(const SbVec2f& a, const SbVec2f& c);
   // A value written with the format, without the padding on its left
   // (null: "%g").
-  static std::string valueText(float value, const PbNumericDisplayFormat* format);
+  TAVREL_STANDIN_ONLY static std::string valueText(float value, const PbNumericDisplayFormat* format);
   // Maps every point drawn so far through the domain's matrix (null: none).
-  void mapThroughDomain(const PbDomain* domain);
+  TAVREL_STANDIN_ONLY void mapThroughDomain(const PbDomain* domain);
 
  private:
   friend class PoBase;

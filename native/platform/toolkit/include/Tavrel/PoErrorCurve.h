@@ -20,6 +20,8 @@
 //    the bar's height when there is no gap), without the polyline.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -48,7 +50,7 @@ class PoErrorCurve : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoErrorCurve() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int numPoints, const SbVec2f* points, const float* lowVariation,
             const float* highVariation, VariationType variationType, ErrorCurveRep errorCurveRep);
 

@@ -12,6 +12,8 @@
 //    shape and skeleton types are not drawn).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -41,7 +43,7 @@ class PoErrorPointField : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoErrorPointField() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int num, const SbVec2f* points, const float* xErrors, const float* yErrors,
             ShapeType shape, SkeletonType skeleton);
 

@@ -10,6 +10,8 @@
 //    otherwise.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoCartesianAxis.h>
 
 #include <vector>
@@ -26,8 +28,8 @@ class PoGenAxis : public PoCartesianAxis {
  protected:
   ~PoGenAxis() override;
   void init(int flag, const SbVec3f& start, float end, Type type, const char** grads, short count);
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
 
  private:
   std::vector<SbString> labels;

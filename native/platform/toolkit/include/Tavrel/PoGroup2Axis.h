@@ -9,6 +9,8 @@
 //    back through the accessors below.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBaseAxis.h>
@@ -29,12 +31,12 @@ class PoGroup2Axis : public PoBaseAxis {
 
   // --- Used inside this toolkit (not journaled) ---
   SbVec2f start, end;
-  AxisType types[2] = {LINEAR, LINEAR};
-  SbString titles[2];
+  TAVREL_STANDIN_ONLY AxisType types[2] = {LINEAR, LINEAR};
+  TAVREL_STANDIN_ONLY SbString titles[2];
 
  protected:
   ~PoGroup2Axis() override;
   void init(const SbVec2f& start, const SbVec2f& end, AxisType xType, AxisType yType, const char* xTitle,
             const char* yTitle);
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
 };

@@ -10,6 +10,8 @@
 //    back through the accessors below.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBaseAxis.h>
@@ -30,12 +32,12 @@ class PoGroup6Axis3 : public PoBaseAxis {
 
   // --- Used inside this toolkit (not journaled) ---
   SbVec3f start, end;
-  AxisType types[3] = {LINEAR, LINEAR, LINEAR};
-  SbString titles[3];
+  TAVREL_STANDIN_ONLY AxisType types[3] = {LINEAR, LINEAR, LINEAR};
+  TAVREL_STANDIN_ONLY SbString titles[3];
 
  protected:
   ~PoGroup6Axis3() override;
   void init(const SbVec3f& start, const SbVec3f& end, AxisType xType, AxisType yType, AxisType zType,
             const char* xTitle, const char* yTitle, const char* zTitle);
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
 };

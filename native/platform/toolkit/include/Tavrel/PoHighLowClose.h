@@ -13,6 +13,8 @@
 //    segment when there is no gap).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -33,7 +35,7 @@ class PoHighLowClose : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoHighLowClose() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int num, const float* x, const float* high, const float* low, const float* close);
 
  private:

@@ -17,6 +17,8 @@
 //    from the bar.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
@@ -64,7 +66,7 @@ class PoHistogram : public PoChart, public PoBuiltParts {
   // The parts and the drawing of one bar a value, sharing size evenly from
   // the origin along the type's direction; bar i named names[i], coloured
   // colors[i] (without a data mapping).
-  void buildBars(const SbVec2f& origin, float size, Type type, const std::vector<float>& values,
+  TAVREL_STANDIN_ONLY void buildBars(const SbVec2f& origin, float size, Type type, const std::vector<float>& values,
                  const std::vector<std::string>& names, const std::vector<SbColor>& colors);
 
  private:

@@ -10,6 +10,8 @@
 // "PoIsovaluesList::setRegularIsoList(int, float, float)(5, 0, 0.5)".
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbIsovaluesList.h>
 #include <Tavrel/PoPropertyNode.h>
 
@@ -23,7 +25,7 @@ class PoIsovaluesList : public PoNode, public PoStateSetter {
   const float* getIsoList(int& num, float& min, float& max, float& step, SbBool& isRegular) const;
 
   // --- Used inside this toolkit (not journaled) ---
-  const PbIsovaluesList* getList() const { return &list; }
+  TAVREL_STANDIN_ONLY const PbIsovaluesList* getList() const { return &list; }
 
  private:
   PbIsovaluesList list;

@@ -15,6 +15,8 @@
 //    The row's right end does not bound the text.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
@@ -37,7 +39,7 @@ class PoItemLegend : public PoLegend, public PoBuiltParts {
 
  protected:
   ~PoItemLegend() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, const SbVec2f& corner1, const SbVec2f& corner2, int numItems, const char** names,
             const SbColor* colors);
 

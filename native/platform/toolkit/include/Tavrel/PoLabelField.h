@@ -22,6 +22,8 @@
 //    or stands on it (BASE, BOTTOM).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -53,7 +55,7 @@ class PoLabelField : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoLabelField() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int num, const SbVec2f* points, const char** strings, const float* values, float offset,
             ConcatType concatType, Justification justification, VerticalJustification verticalJustification);
 

@@ -6,6 +6,8 @@
 // current label hints (PoLabelHintsElement).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPropertyNode.h>
 
 class PoLabelHints : public PoNode, public PoStateSetter {
@@ -16,8 +18,8 @@ class PoLabelHints : public PoNode, public PoStateSetter {
   enum Justification : int { LEFT = 0, CENTER = 1, RIGHT = 2, DEPEND = 3 };
 
   // --- Used inside this toolkit (not journaled) ---
-  LabelPath getLabelPath() const;
-  Justification getJustification() const;
+  TAVREL_STANDIN_ONLY LabelPath getLabelPath() const;
+  TAVREL_STANDIN_ONLY Justification getJustification() const;
 
  private:
   SoField* labelPathField;

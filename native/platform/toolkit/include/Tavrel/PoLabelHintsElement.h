@@ -3,6 +3,8 @@
 // See PoElementSubClass.h.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoElementSubClass.h>
 #include <Tavrel/PoLabelHints.h>
 
@@ -18,12 +20,12 @@ class PoLabelHintsElement : public SoReplacedElement {
   // --- Used inside this toolkit (not journaled) ---
   static void setValue(SoState* state, SoNode* node, PoLabelHints::LabelPath labelPath,
                        PoLabelHints::Justification justification, const char* text, int first, int second);
-  static const PoLabelHintsElement* current(SoState* state);
-  PoLabelHints::LabelPath getLabelPath() const { return labelPath; }
-  PoLabelHints::Justification getJustification() const { return justification; }
-  const std::string& getText() const { return text; }
-  int getFirstFlag() const { return first; }
-  int getSecondFlag() const { return second; }
+  TAVREL_STANDIN_ONLY static const PoLabelHintsElement* current(SoState* state);
+  TAVREL_STANDIN_ONLY PoLabelHints::LabelPath getLabelPath() const { return labelPath; }
+  TAVREL_STANDIN_ONLY PoLabelHints::Justification getJustification() const { return justification; }
+  TAVREL_STANDIN_ONLY const std::string& getText() const { return text; }
+  TAVREL_STANDIN_ONLY int getFirstFlag() const { return first; }
+  TAVREL_STANDIN_ONLY int getSecondFlag() const { return second; }
 
  private:
   PoLabelHints::LabelPath labelPath = PoLabelHints::PATHRIGHT;

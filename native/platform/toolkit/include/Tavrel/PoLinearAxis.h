@@ -17,6 +17,8 @@
 //    whole). Four sub-ticks between two graduations.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoCartesianAxis.h>
 
 class PoLinearAxis : public PoCartesianAxis {
@@ -39,9 +41,9 @@ class PoLinearAxis : public PoCartesianAxis {
  protected:
   ~PoLinearAxis() override;
   void init(const SbVec3f& start, float end, Type type, float gradStart, float gradEnd, float step);
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
-  unsigned short subTicks() const override { return 4; }
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY unsigned short subTicks() const override { return 4; }
 
  private:
   float gradStart = 0.0f;

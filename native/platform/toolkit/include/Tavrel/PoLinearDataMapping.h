@@ -5,6 +5,8 @@
 // "color2" "1 1 1"; both ends opaque.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbLinearDataMapping.h>
 #include <Tavrel/PoDataMapping.h>
 
@@ -13,7 +15,7 @@ class PoLinearDataMapping : public PoDataMapping {
 
  public:
   PoLinearDataMapping();
-  const PbDataMapping* getMapping() const override;
+  TAVREL_STANDIN_ONLY const PbDataMapping* getMapping() const override;
 
  protected:
   ~PoLinearDataMapping() override;

@@ -2,6 +2,8 @@
 // The constructors are journaled with their arguments.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoValueLegend.h>
 
 class PoLinearValueLegend : public PoValueLegend {
@@ -14,7 +16,7 @@ class PoLinearValueLegend : public PoValueLegend {
   PoLinearValueLegend(const SbVec2f& corner1, const SbVec2f& corner2, ValueDistribution distribution);
 
   // --- Used inside this toolkit (not journaled) ---
-  ValueDistribution getDistribution() const { return distribution; }
+  TAVREL_STANDIN_ONLY ValueDistribution getDistribution() const { return distribution; }
 
  protected:
   ~PoLinearValueLegend() override;

@@ -25,6 +25,8 @@
 //    fraction of their logarithm.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoCartesianAxis.h>
 
 #include <vector>
@@ -52,10 +54,10 @@ class PoLogAxis : public PoCartesianAxis {
   ~PoLogAxis() override;
   void init(int flag, const SbVec3f& start, float end, Type type, DecadeListDef def, const unsigned short* decades,
             short count, float expStart, float expEnd);
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
-  unsigned short subTicks() const override { return 8; }
-  bool logarithmic() const override { return true; }
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY unsigned short subTicks() const override { return 8; }
+  TAVREL_STANDIN_ONLY bool logarithmic() const override { return true; }
 
  private:
   DecadeListDef decadeListDef = DECADELISTAUTO;

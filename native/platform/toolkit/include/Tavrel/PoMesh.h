@@ -39,6 +39,8 @@
 // and isovalues count.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoDessvane.h>
 
 #include <vector>
@@ -75,14 +77,14 @@ class PoMesh : public PoDessvane {
 
   // --- Used inside this toolkit (not journaled) ---
   // The cells accepted by the last drawing or callback traversal.
-  const std::vector<int>& selectedCells() const { return selected; }
+  TAVREL_STANDIN_ONLY const std::vector<int>& selectedCells() const { return selected; }
 
  protected:
   PoMesh();
   ~PoMesh() override;
 
   // The mesh drawn (see above).
-  virtual const PbMesh* drawnMesh() const;
+  TAVREL_STANDIN_ONLY virtual const PbMesh* drawnMesh() const;
 
  private:
   void selectCells(SoAction* action);

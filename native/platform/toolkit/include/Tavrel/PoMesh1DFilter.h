@@ -9,6 +9,8 @@
 // (PoMesh1DFilterElement).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPropertyNode.h>
 
 #include <vector>
@@ -20,13 +22,13 @@ class PoMesh1DFilter : public PoNode, public PoStateSetter {
 
  public:
   void doAction(SoAction* action) override;
-  void makeCurrent(SoAction* action) const override;
+  TAVREL_STANDIN_ONLY void makeCurrent(SoAction* action) const override;
 
   // --- Used inside this toolkit (not journaled) ---
   // The points kept among numPoints points (x[i], y[i]).
-  virtual std::vector<int> selectPoints(int numPoints, const float* x, const float* y) const = 0;
+  TAVREL_STANDIN_ONLY virtual std::vector<int> selectPoints(int numPoints, const float* x, const float* y) const = 0;
   // The points of the mesh kept by the filter; every point without a filter.
-  static std::vector<int> selectPoints(const PoMesh1DFilter* filter, const PbMesh& mesh);
+  TAVREL_STANDIN_ONLY static std::vector<int> selectPoints(const PoMesh1DFilter* filter, const PbMesh& mesh);
 
  protected:
   PoMesh1DFilter();

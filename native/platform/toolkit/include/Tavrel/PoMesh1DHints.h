@@ -7,6 +7,8 @@
 // (PoMesh1DHintsElement).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPropertyNode.h>
 
 class PoMesh1DHints : public PoNode, public PoStateSetter {
@@ -25,7 +27,7 @@ class PoMesh1DHints : public PoNode, public PoStateSetter {
   };
 
   // --- Used inside this toolkit (not journaled) ---
-  GeomInterpretation getGeomInterpretation() const;
+  TAVREL_STANDIN_ONLY GeomInterpretation getGeomInterpretation() const;
 
  private:
   SoField* geomInterpretationField;

@@ -2,6 +2,8 @@
 // their points; ASIS by default. See PoElementSubClass.h.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoElementSubClass.h>
 #include <Tavrel/PoMesh1DHints.h>
 
@@ -13,7 +15,7 @@ class PoMesh1DHintsElement : public SoReplacedElement {
 
   // --- Used inside this toolkit (not journaled) ---
   static void setValue(SoState* state, SoNode* node, PoMesh1DHints::GeomInterpretation interpretation);
-  static PoMesh1DHints::GeomInterpretation current(SoState* state);
+  TAVREL_STANDIN_ONLY static PoMesh1DHints::GeomInterpretation current(SoState* state);
 
  private:
   PoMesh1DHints::GeomInterpretation interpretation = PoMesh1DHints::ASIS;

@@ -6,6 +6,8 @@
 // setter stored.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoMesh.h>
 
 class PbMesh2D;
@@ -20,7 +22,7 @@ class PoMesh2D : public PoMesh {
  protected:
   PoMesh2D();
   ~PoMesh2D() override;
-  const PbMesh* drawnMesh() const override;
+  TAVREL_STANDIN_ONLY const PbMesh* drawnMesh() const override;
 
  private:
   PbMesh2D* mesh2D = nullptr;

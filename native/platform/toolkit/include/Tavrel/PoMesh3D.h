@@ -4,6 +4,8 @@
 // keeps the 3D mesh in a member of its own.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoMesh.h>
 
 class PbMesh3D;
@@ -18,7 +20,7 @@ class PoMesh3D : public PoMesh {
  protected:
   PoMesh3D();
   ~PoMesh3D() override;
-  const PbMesh* drawnMesh() const override;
+  TAVREL_STANDIN_ONLY const PbMesh* drawnMesh() const override;
 
  private:
   PbMesh3D* mesh3D = nullptr;

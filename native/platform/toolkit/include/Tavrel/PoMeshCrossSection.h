@@ -4,6 +4,8 @@
 // calls no library function and notifies nothing.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoMesh3D.h>
 
 class PoMeshCrossSection : public PoMesh3D {
@@ -15,7 +17,7 @@ class PoMeshCrossSection : public PoMesh3D {
   PoMeshCrossSection();
 
   void setCrossSectionMethod(CrossSectionMethods method) { crossSectionMethod = method; }
-  CrossSectionMethods getCrossSectionMethod() const { return crossSectionMethod; }
+  TAVREL_STANDIN_ONLY CrossSectionMethods getCrossSectionMethod() const { return crossSectionMethod; }
 
  protected:
   ~PoMeshCrossSection() override;

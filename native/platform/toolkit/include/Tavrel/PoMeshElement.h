@@ -9,6 +9,8 @@
 // own: it forgets the mesh as well as the node.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoElementSubClass.h>
 
 class PbMesh;
@@ -32,7 +34,7 @@ class PoMeshElement : public SoReplacedElement {
   // --- Used inside this toolkit (not journaled) ---
   // Sets a mesh of any dimension (the dimension is found from its class).
   static void setValue(SoState* state, SoNode* node, const PbMesh* mesh);
-  static const PbMesh* current(SoState* state);
+  TAVREL_STANDIN_ONLY static const PbMesh* current(SoState* state);
 
  private:
   const PbMesh* mesh = nullptr;

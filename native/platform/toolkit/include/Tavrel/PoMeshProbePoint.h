@@ -35,6 +35,8 @@
 // outside. A field text that is not three numbers is ignored.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoMesh.h>
 
@@ -50,7 +52,7 @@ class PoMeshProbePoint : public PoMesh {
   enum Event : int { MOTION = 0, CHANGE_CELL = 1, ENTER_MESH = 2, LEAVE_MESH = 3 };
 
   struct Callback {
-    PoMeshProbePointCB* function = nullptr;
+    TAVREL_STANDIN_ONLY PoMeshProbePointCB* function = nullptr;
     void* userData = nullptr;
   };
 
@@ -62,16 +64,16 @@ class PoMeshProbePoint : public PoMesh {
   void setLeaveMeshCallback(PoMeshProbePointCB* function, void* userData);
 
   // The pair installed for an event (a null function when detached).
-  const Callback& getCallback(Event event) const { return callbacks[event]; }
+  TAVREL_STANDIN_ONLY const Callback& getCallback(Event event) const { return callbacks[event]; }
 
-  void moveTo(const SbVec3f& position, const PbCell* cell, long cellIndex);
-  void setPosition(const SbVec3f& point);
-  void raiseEvent(Event event, const PbCell* cell);
+  TAVREL_STANDIN_ONLY void moveTo(const SbVec3f& position, const PbCell* cell, long cellIndex);
+  TAVREL_STANDIN_ONLY void setPosition(const SbVec3f& point);
+  TAVREL_STANDIN_ONLY void raiseEvent(Event event, const PbCell* cell);
 
-  const SbVec3f& getPosition() const { return position; }
-  const PbCell* getCurrentCell() const { return currentCell; }
-  long getCurrentCellIndex() const { return currentCellIndex; }
-  bool isInsideMesh() const { return currentCellIndex >= 0; }
+  TAVREL_STANDIN_ONLY const SbVec3f& getPosition() const { return position; }
+  TAVREL_STANDIN_ONLY const PbCell* getCurrentCell() const { return currentCell; }
+  TAVREL_STANDIN_ONLY long getCurrentCellIndex() const { return currentCellIndex; }
+  TAVREL_STANDIN_ONLY bool isInsideMesh() const { return currentCellIndex >= 0; }
 
   void doAction(SoAction* action) override;
   void GLRender(SoGLRenderAction* action) override;

@@ -16,6 +16,8 @@
 //    its field data: getField does not find it.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoNode.h>
@@ -40,13 +42,13 @@ class PoMeshProperty : public PoNode {
   // --- Used inside this toolkit (not journaled) ---
   // Makes the node's mesh the current mesh of the action's state, if the
   // action has one.
-  void makeCurrent(SoAction* action) const;
+  TAVREL_STANDIN_ONLY void makeCurrent(SoAction* action) const;
 
  protected:
   PoMeshProperty();
   ~PoMeshProperty() override;
   // The node's mesh field.
-  virtual PoSFMesh& meshField() const = 0;
+  TAVREL_STANDIN_ONLY virtual PoSFMesh& meshField() const = 0;
 };
 
 // The members every mesh node declares: FieldClass is the class of its field.
@@ -55,7 +57,7 @@ class PoMeshProperty : public PoNode {
                                                                                                         \
  public:                                                                                                \
   className();                                                                                          \
-  FieldClass mesh;                                                                                      \
+  TAVREL_ASSUMED FieldClass mesh;                                                                                      \
   const PbMesh* getMesh() const override;                                                              \
   void addValuesSet(int set, const float* values, const SbString& name) override;                     \
   void addValuesSet(int set, const float* values, DataBinding binding, const SbString& name) override; \

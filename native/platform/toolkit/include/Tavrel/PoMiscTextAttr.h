@@ -7,6 +7,8 @@
 // PbMiscTextAttr).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbMiscTextAttr.h>
 #include <Tavrel/PoPropertyNode.h>
 
@@ -17,7 +19,7 @@ class PoMiscTextAttr : public PoNode, public PoStateSetter {
   enum LineLength : int { LINELENGTHMAX = 0, LINELENGTHMIN = 1 };
 
   // --- Used inside this toolkit (not journaled) ---
-  const PbMiscTextAttr* getTextAttr() const;
+  TAVREL_STANDIN_ONLY const PbMiscTextAttr* getTextAttr() const;
 
  private:
   SoField* fontNameField;

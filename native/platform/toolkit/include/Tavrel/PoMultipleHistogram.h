@@ -16,6 +16,8 @@
 //    (0.84, 0.3, 0.3).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoHistogram.h>
 
@@ -39,7 +41,7 @@ class PoMultipleHistogram : public PoHistogram {
 
  protected:
   ~PoMultipleHistogram() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, const SbVec2f& origin, float histogSize, PoHistogram::Type type, int numHistog,
             int numValues, const float* values, const char** histogNames, const char** valueNames);
 

@@ -3,6 +3,8 @@
 // value black, opaque.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbNonLinearDataMapping.h>
 #include <Tavrel/PoDataMapping.h>
 
@@ -11,7 +13,7 @@ class PoNonLinearDataMapping : public PoDataMapping {
 
  public:
   PoNonLinearDataMapping();
-  const PbDataMapping* getMapping() const override;
+  TAVREL_STANDIN_ONLY const PbDataMapping* getMapping() const override;
 
  protected:
   ~PoNonLinearDataMapping() override;

@@ -8,6 +8,8 @@
 // fewer, the missing ones are black.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PbNonLinearDataMapping2.h>
 #include <Tavrel/PoDataMapping.h>
 
@@ -18,7 +20,7 @@ class PoNonLinearDataMapping2 : public PoDataMapping {
   enum Type : int { NONLINEARPERLEVEL = 0, LINEARPERLEVEL = 1 };
 
   PoNonLinearDataMapping2();
-  const PbDataMapping* getMapping() const override;
+  TAVREL_STANDIN_ONLY const PbDataMapping* getMapping() const override;
 
  protected:
   ~PoNonLinearDataMapping2() override;

@@ -8,6 +8,8 @@
 //    matrix of the domain when the node has one.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -24,13 +26,13 @@ class PoParallelogram : public PoQuorvex {
 
   // --- Used inside this toolkit (not journaled) ---
   // The four corners a, b, c, d.
-  const SbVec2f* getCorners() const { return corners; }
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY const SbVec2f* getCorners() const { return corners; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   ~PoParallelogram() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
 
  private:
   void init(const SbVec2f& a, const SbVec2f& b, const SbVec2f& c);

@@ -11,6 +11,8 @@
 //    of the domain when the node has one.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -26,13 +28,13 @@ class PoParallelogram3 : public PoQuorvex {
   void rebuild() override;
 
   // --- Used inside this toolkit (not journaled) ---
-  const SbVec3f* getCorners() const { return corners; }
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY const SbVec3f* getCorners() const { return corners; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   ~PoParallelogram3() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
 
  private:
   void init(int isDefault, const SbVec3f& a, const SbVec3f& b, const SbVec3f& c);

@@ -35,6 +35,8 @@
 //    written in the slice's colour.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoChart.h>
@@ -76,29 +78,29 @@ class PoPieChart : public PoChart {
     std::string name;
     float value;
     SbColor color;
-    float startAngle;  // radians
-    float sweep;       // radians, 0 for a value that is not positive
-    float translation;
+    TAVREL_STANDIN_ONLY float startAngle;  // radians
+    TAVREL_STANDIN_ONLY float sweep;       // radians, 0 for a value that is not positive
+    TAVREL_STANDIN_ONLY float translation;
   };
   const SbVec3f& getCenter() const { return center; }
-  float getRadius() const { return radius; }
-  short getNumSlices() const { return numSlices; }
-  const std::vector<Slice>& getSlices() const { return slices; }
+  TAVREL_STANDIN_ONLY float getRadius() const { return radius; }
+  TAVREL_STANDIN_ONLY short getNumSlices() const { return numSlices; }
+  TAVREL_STANDIN_ONLY const std::vector<Slice>& getSlices() const { return slices; }
   // The filled polygons of the last build, one per slice of positive span,
   // with the number of the slice.
   struct Polygon {
     int slice;
     std::vector<SbVec3f> points;
   };
-  const std::vector<Polygon>& getPolygons() const { return polygons; }
+  TAVREL_STANDIN_ONLY const std::vector<Polygon>& getPolygons() const { return polygons; }
 
  protected:
   PoPieChart();
   ~PoPieChart() override;
-  void setSlices(const SbVec3f& center, float radius, short numSlices, const char** names, const float* values,
+  TAVREL_STANDIN_ONLY void setSlices(const SbVec3f& center, float radius, short numSlices, const char** names, const float* values,
                  int numColors, const SbColor* colors);
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
 
  private:
   SbVec3f center;

@@ -7,6 +7,8 @@
 //    0.1 and no slices.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPieChart.h>
 
 class PoPieChart3D : public PoPieChart {
@@ -18,7 +20,7 @@ class PoPieChart3D : public PoPieChart {
                const float* values, int numColors, const SbColor* colors);
 
   // --- Used inside this toolkit (not journaled) ---
-  float getHeight() const { return height; }
+  TAVREL_STANDIN_ONLY float getHeight() const { return height; }
 
  protected:
   ~PoPieChart3D() override;

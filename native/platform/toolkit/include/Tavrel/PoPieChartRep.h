@@ -9,6 +9,8 @@
 //    nothing, so it stays modified.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPieChart.h>
 
 class PoPieChartRep : public PoChart {
@@ -24,7 +26,7 @@ class PoPieChartRep : public PoChart {
   // --- Used inside this toolkit (not journaled) ---
   // Slice values (colours and names do not matter here).
   void setValues(int count, const float* values);
-  const std::vector<PoPieChart::Slice>& getSlices() const { return slices; }
+  TAVREL_STANDIN_ONLY const std::vector<PoPieChart::Slice>& getSlices() const { return slices; }
 
  protected:
   ~PoPieChartRep() override;

@@ -16,6 +16,8 @@
 //    (0.27, 0.51, 0.71) without a mapping).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -40,7 +42,7 @@ class PoPointsFieldBars : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoPointsFieldBars() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int num, const SbVec3f* points, const float* heights, float width1, float width2);
 
  private:

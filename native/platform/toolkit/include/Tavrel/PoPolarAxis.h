@@ -13,6 +13,8 @@
 //    puts its graduations towards -y.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoAxis.h>
 
 class PoPolarAxis : public PoAxis {
@@ -29,10 +31,10 @@ class PoPolarAxis : public PoAxis {
  protected:
   PoPolarAxis();
   ~PoPolarAxis() override;
-  std::vector<SbVec3f> axisLine() const override;
-  SbVec3f pointOf(double value) const override;
-  SbVec3f gradSide(double value) const override;
-  double axisLength() const override;
+  TAVREL_STANDIN_ONLY std::vector<SbVec3f> axisLine() const override;
+  TAVREL_STANDIN_ONLY SbVec3f pointOf(double value) const override;
+  TAVREL_STANDIN_ONLY SbVec3f gradSide(double value) const override;
+  TAVREL_STANDIN_ONLY double axisLength() const override;
 
-  float x0 = 0.0f, y0 = 0.0f, x1 = 1.0f, y1 = 0.0f;
+  TAVREL_STANDIN_ONLY float x0 = 0.0f, y0 = 0.0f, x1 = 1.0f, y1 = 0.0f;
 };

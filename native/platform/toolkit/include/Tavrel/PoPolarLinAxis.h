@@ -9,6 +9,8 @@
 //  - The number format as for PoLinearAxis; four sub-ticks.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPolarAxis.h>
 
 class PoPolarLinAxis : public PoPolarAxis {
@@ -26,9 +28,9 @@ class PoPolarLinAxis : public PoPolarAxis {
 
  protected:
   ~PoPolarLinAxis() override;
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
-  unsigned short subTicks() const override { return 4; }
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY unsigned short subTicks() const override { return 4; }
 
  private:
   float step = 0.0f;

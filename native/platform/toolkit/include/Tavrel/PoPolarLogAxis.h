@@ -11,6 +11,8 @@
 //    of their logarithm (a value 10^d at the distance d).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoLogAxis.h>
 #include <Tavrel/PoPolarAxis.h>
 
@@ -33,10 +35,10 @@ class PoPolarLogAxis : public PoPolarAxis {
 
  protected:
   ~PoPolarLogAxis() override;
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
-  unsigned short subTicks() const override { return 8; }
-  bool logarithmic() const override { return true; }
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY unsigned short subTicks() const override { return 8; }
+  TAVREL_STANDIN_ONLY bool logarithmic() const override { return true; }
 
  private:
   DecadeListDef decadeListDef = DECADELISTAUTO;

@@ -6,6 +6,8 @@
 // (PoProfileElement).
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoPropertyNode.h>
 
 #include <vector>
@@ -15,11 +17,11 @@ class PoProfile : public PoNode, public PoStateSetter {
 
  public:
   void doAction(SoAction* action) override;
-  void makeCurrent(SoAction* action) const override;
+  TAVREL_STANDIN_ONLY void makeCurrent(SoAction* action) const override;
 
   // --- Used inside this toolkit (not journaled) ---
   // The polygon's points, in order.
-  virtual std::vector<SbVec2f> getPoints() const = 0;
+  TAVREL_STANDIN_ONLY virtual std::vector<SbVec2f> getPoints() const = 0;
 
  protected:
   PoProfile();

@@ -30,6 +30,8 @@
 //    "<Class>::doAction(action)".
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbColor.h>
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
@@ -45,7 +47,7 @@ class SoField;
 // through it (PoNode's action operations call makeCurrent).
 class PoStateSetter {
  public:
-  virtual void makeCurrent(SoAction* action) const = 0;
+  TAVREL_STANDIN_ONLY virtual void makeCurrent(SoAction* action) const = 0;
 
  protected:
   ~PoStateSetter() = default;

@@ -12,6 +12,8 @@
 //    the domain (getMatrix) when the node has one.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoQuorvex.h>
 
@@ -27,15 +29,15 @@ class PoRectangle : public PoQuorvex {
   void rebuild() override;
 
   // --- Used inside this toolkit (not journaled) ---
-  const SbVec2f& getCorner1() const { return corner1; }
-  const SbVec2f& getCorner2() const { return corner2; }
+  TAVREL_STANDIN_ONLY const SbVec2f& getCorner1() const { return corner1; }
+  TAVREL_STANDIN_ONLY const SbVec2f& getCorner2() const { return corner2; }
   // The outline made by the last build (empty before the first).
-  const std::vector<SbVec3f>& getOutline() const { return outline; }
+  TAVREL_STANDIN_ONLY const std::vector<SbVec3f>& getOutline() const { return outline; }
 
  protected:
   ~PoRectangle() override;
-  void build() override;
-  void draw(SoGLRenderAction* action) override;
+  TAVREL_STANDIN_ONLY void build() override;
+  TAVREL_STANDIN_ONLY void draw(SoGLRenderAction* action) override;
 
  private:
   void init(const SbVec2f& corner1, const SbVec2f& corner2);

@@ -19,6 +19,8 @@
 //  - operator== compares the held meshes (PbMesh::sameMeshAs); it gives 1 or 0.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbString.h>
 #include <Corvel/SbVec.h>
 #include <Corvel/SoField.h>
@@ -38,14 +40,14 @@ class PoSFMesh : public SoField {
 
   // --- Used inside this toolkit (not journaled) ---
   // The held mesh, without evaluating the field.
-  virtual PbMesh& heldMesh() const = 0;
+  TAVREL_STANDIN_ONLY virtual PbMesh& heldMesh() const = 0;
   // The data-set operations journaled under the caller's function name (a
   // mesh node's own operations).
-  void addValuesSetAs(const char* function, int set, const float* values, const SbString& name);
-  void addValuesSetAs(const char* function, int set, const float* values, PoMeshProperty::DataBinding binding,
+  TAVREL_STANDIN_ONLY void addValuesSetAs(const char* function, int set, const float* values, const SbString& name);
+  TAVREL_STANDIN_ONLY void addValuesSetAs(const char* function, int set, const float* values, PoMeshProperty::DataBinding binding,
                       const SbString& name);
-  void addStringsSetAs(const char* function, int set, const SbString* strings, const SbString& name);
-  void addVecsSetAs(const char* function, int set, const SbVec3f* vectors, const SbString& name);
+  TAVREL_STANDIN_ONLY void addStringsSetAs(const char* function, int set, const SbString* strings, const SbString& name);
+  TAVREL_STANDIN_ONLY void addVecsSetAs(const char* function, int set, const SbVec3f* vectors, const SbString& name);
 
  protected:
   PoSFMesh();
@@ -57,7 +59,7 @@ class PoSFMesh : public SoField {
 // when the field says it must.
 #define PO_SF_MESH_HEADER(className, MeshClass)                        \
  public:                                                               \
-  typedef MeshClass ValueType;                                         \
+  TAVREL_STANDIN_ONLY typedef MeshClass ValueType;                                         \
   static SoType getClassTypeId();                                      \
   SoType getTypeId() const override;                                   \
   className();                                                         \

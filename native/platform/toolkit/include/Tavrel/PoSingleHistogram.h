@@ -12,6 +12,8 @@
 //    without a data mapping.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoHistogram.h>
 
@@ -32,7 +34,7 @@ class PoSingleHistogram : public PoHistogram {
 
  protected:
   ~PoSingleHistogram() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, const SbVec2f& origin, float histogSize, PoHistogram::Type type, int numValues,
             const float* values, const char** names);
 

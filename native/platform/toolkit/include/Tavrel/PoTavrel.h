@@ -5,13 +5,15 @@
 // The class has no state; an instance may be made and deleted freely.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 class PoTavrel {
  public:
   static void init();
-  static void finish();
-  static bool isInitialized();
+  TAVREL_STANDIN_ONLY static void finish();
+  TAVREL_STANDIN_ONLY static bool isInitialized();
   // Number of init() calls so far.
-  static int getInitCount();
+  TAVREL_STANDIN_ONLY static int getInitCount();
   static const char* getProductName();
   static const char* getVersion();
 };

@@ -20,6 +20,8 @@
 //    length is the distance between the two dates' coordinates.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Tavrel/PoAxis.h>
 
 class PbDateFormatMapping;
@@ -43,13 +45,13 @@ class PoTimeAxis : public PoAxis {
  protected:
   ~PoTimeAxis() override;
   void init(int flag, const char* date1, const char* date2, float position, Type type);
-  void makeGraduations(std::vector<Graduation>& out) const override;
-  void range(double& startValue, double& endValue) const override;
-  unsigned short subTicks() const override { return 3; }
-  std::vector<SbVec3f> axisLine() const override;
-  SbVec3f pointOf(double value) const override;
-  SbVec3f gradSide(double value) const override;
-  double axisLength() const override;
+  TAVREL_STANDIN_ONLY void makeGraduations(std::vector<Graduation>& out) const override;
+  TAVREL_STANDIN_ONLY void range(double& startValue, double& endValue) const override;
+  TAVREL_STANDIN_ONLY unsigned short subTicks() const override { return 3; }
+  TAVREL_STANDIN_ONLY std::vector<SbVec3f> axisLine() const override;
+  TAVREL_STANDIN_ONLY SbVec3f pointOf(double value) const override;
+  TAVREL_STANDIN_ONLY SbVec3f gradSide(double value) const override;
+  TAVREL_STANDIN_ONLY double axisLength() const override;
 
  private:
   double coordinate(double seconds) const;

@@ -19,6 +19,8 @@
 //    a legend draws the values of its last build.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoLegend.h>
@@ -44,7 +46,7 @@ class PoValueLegend : public PoLegend, public PoBuiltParts {
   PoValueLegend();
   PoValueLegend(const SbVec2f& corner1, const SbVec2f& corner2);
   ~PoValueLegend() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
 
  private:
   SbVec2f corner1;

@@ -15,6 +15,8 @@
 //    when there is a mapping.
 #pragma once
 
+#include <Corvel/StandIn.h>
+
 #include <Corvel/SbVec.h>
 #include <Tavrel/PoBuiltParts.h>
 #include <Tavrel/PoQuorvex.h>
@@ -39,7 +41,7 @@ class PoValuedMarkerField : public PoQuorvex, public PoBuiltParts {
 
  protected:
   ~PoValuedMarkerField() override;
-  void build() override;
+  TAVREL_STANDIN_ONLY void build() override;
   void init(int isDefault, int num, const SbVec2f* points, const float* values1, const float* values2);
 
  private:

@@ -61,7 +61,7 @@ class ExportedSymbolsTest {
             "^(?:(?:typeinfo|typeinfo name|vtable|VTT|guard variable) for )?"
                     + "(?:(?:So|Sb|Po|Pb|Pi)[A-Z]\\w*|ArrayHelper|StringHelper|StringArrayHelper|ObjectHelper"
                     + "|ExceptionHelper|JNIEnvHelper|ICustomClass|I\\w+ProtectedMethodAccess)(?:::|$)"
-                    + "|^PRINTDBG\\(");
+                    + "|^PRINTDBG\\(char\\*\\)$");
 
     /**
      * Symbols of the C and C++ runtimes and of sanitizer runtimes that carry no version: in a
