@@ -113,7 +113,7 @@ public final class NativeMethods {
         int nextLength = firstLength;
         for (int i = 0; i < types.length; i++) {
             Class<?> t = types[i];
-            if (i == 0 && t == long.class) {
+            if (i == 0 && t == long.class && receiver != null) {
                 args[i] = ((NativeObject) receiver).getNativeResourceHandleInternal();
             } else if (t.isArray()) {
                 args[i] = java.lang.reflect.Array.newInstance(t.getComponentType(), nextLength++);
