@@ -29,6 +29,20 @@ JNIEXPORT jboolean JNICALL Java_com_kestrum_tavrel_testkit_Elements_matches(JNIE
   return from(element)->matches(from(other)) ? JNI_TRUE : JNI_FALSE;
 }
 
+// The element's virtual push, pop (with itself as the previous top), init or
+// captureThis with the state, as the state calls them: operation 0, 1, 2, 3.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Elements_stateOperation(JNIEnv*, jclass, jlong element,
+                                                                              jlong state, jint operation) {
+  SoElement* e = from(element);
+  SoState* s = from<SoState>(state);
+  switch (operation) {
+    case 0: e->push(s); break;
+    case 1: e->pop(s, e); break;
+    case 2: e->init(s); break;
+    default: e->captureThis(s); break;
+  }
+}
+
 JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_testkit_Elements_copyMatchInfo(JNIEnv*, jclass, jlong element) {
   return handleOf(from(element)->copyMatchInfo());
 }

@@ -1,6 +1,8 @@
 // com.kestrum.tavrel.testkit.Journal: the toolkit stand-in's call journal.
 
 #include <Corvel/CallJournal.h>
+
+#include <cstdint>
 #include <CorvelJNI/StringHelper.h>
 
 #include "TestkitSupport.h"
@@ -21,6 +23,11 @@ extern "C" {
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Journal_setEnabled(JNIEnv*, jclass, jboolean on) {
   CallJournal::setEnabled(on != JNI_FALSE);
+}
+
+// The function given every line from now on (its address, 0 for none).
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Journal_setListener(JNIEnv*, jclass, jlong address) {
+  CallJournal::setListener(reinterpret_cast<CallJournal::Listener>(static_cast<std::intptr_t>(address)));
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_Journal_clear(JNIEnv*, jclass) { CallJournal::clear(); }

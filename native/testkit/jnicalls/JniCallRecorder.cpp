@@ -38,6 +38,11 @@
 // tables stay installed from the start, so that the cost of passing through
 // them can be measured.
 //
+// Lines of the toolkit stand-in's call journal join the timeline when the
+// journal is given toolkitLine (testkit.JniCalls.recordWithToolkit): a line
+// appended on a recording thread is recorded as "toolkit: <line>" among the
+// JNI calls, where the toolkit was called.
+//
 // A variadic function (CallVoidMethod, NewObject, ...) is recorded under its
 // own name and carried out by the JVM's form with a va_list. Note that the C++
 // members of JNIEnv in jni.h implement the variadic calls with the va_list
@@ -472,6 +477,20 @@ jint JNICALL recordingGetEnv(JavaVM* vm, void** penv, jint version) {
   return rc;
 }
 
+// A line of the toolkit's call journal, appended on this thread.
+void toolkitLine(const char* line) {
+  if (javaVm == nullptr || jvmInvocation == nullptr) return;
+  void* penv = nullptr;
+  if (jvmInvocation->GetEnv(javaVm, &penv, JNI_VERSION_1_2) != JNI_OK || penv == nullptr) return;
+  Recorder* r = recorderOf(static_cast<JNIEnv*>(penv));
+  if (r == nullptr || !r->keepCalls) return;
+  if (r->calls.size() >= kMaxCalls) {
+    r->truncated = true;
+    return;
+  }
+  r->calls.push_back(std::string("toolkit: ") + line);
+}
+
 void buildRecordingTable() {
 #define JNI_PLAIN(name)                                                         \
   jvmFunctions[k##name] = reinterpret_cast<void*>(jvmTable->name);              \
@@ -686,6 +705,11 @@ JNIEXPORT jlongArray JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_references
 
 JNIEXPORT void JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_release(JNIEnv*, jclass, jlong handle) {
   delete &recording(handle);
+}
+
+// The address of the function that takes the toolkit journal's lines.
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_toolkitListener(JNIEnv*, jclass) {
+  return static_cast<jlong>(reinterpret_cast<std::intptr_t>(&toolkitLine));
 }
 
 JNIEXPORT jobjectArray JNICALL Java_com_kestrum_tavrel_testkit_JniCalls_functionNames(JNIEnv* env, jclass) {

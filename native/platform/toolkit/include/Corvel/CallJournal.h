@@ -40,6 +40,12 @@ class CallJournal {
   TAVREL_STANDIN_ONLY static std::vector<std::string> lines();
   TAVREL_STANDIN_ONLY static void append(std::string line);
 
+  // A function that is also given every line appended (on the appending
+  // thread, after the line is stored), or null: lets a test tool put the
+  // toolkit's calls in one timeline with calls of its own.
+  using Listener = void (*)(const char* line);
+  static void setListener(Listener listener) noexcept;
+
   // Records the call when the journal is on. The check is inlined into the
   // recording function, so that an accessor of the stand-in costs no call
   // while the journal is off; the line is made out of line.
@@ -64,6 +70,7 @@ class CallJournal {
   static void recordLine(const char* function, const Args&... args);
 
   static std::atomic<bool> s_enabled;
+  static std::atomic<Listener> s_listener;
 };
 
 // --- argument rendering ------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <mutex>
 
 std::atomic<bool> CallJournal::s_enabled{false};
+std::atomic<CallJournal::Listener> CallJournal::s_listener{nullptr};
 
 namespace {
 std::mutex& journalMutex() {
@@ -18,6 +19,8 @@ std::vector<std::string>& journalLines() {
 }  // namespace
 
 void CallJournal::setEnabled(bool on) noexcept { s_enabled.store(on); }
+
+void CallJournal::setListener(Listener listener) noexcept { s_listener.store(listener); }
 
 void CallJournal::clear() {
   std::lock_guard<std::mutex> lock(journalMutex());
@@ -38,6 +41,8 @@ CallJournal::Quiet::~Quiet() { --quietDepth; }
 
 void CallJournal::append(std::string line) {
   if (quietDepth > 0) return;
+  Listener listener = s_listener.load();
+  if (listener != nullptr) listener(line.c_str());
   std::lock_guard<std::mutex> lock(journalMutex());
   journalLines().push_back(std::move(line));
 }

@@ -9,6 +9,7 @@ import static com.kestrum.tavrel.testkit.CoreCalls.times;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 
 import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.testkit.CoreCalls;
 import com.kestrum.tavrel.testkit.JniCalls;
 import java.util.List;
 import java.util.stream.Stream;
@@ -20,7 +21,9 @@ import org.junit.jupiter.params.provider.MethodSource;
  * Which arrays a native method copies back: output arrays are converted ReadWrite (read, then
  * written back when their helper goes, after a check for a pending exception), input arrays
  * ReadOnly (read only), and a query point ReadWrite where the method takes it so. One row per
- * way the methods convert their arrays; the lengths tell the arrays apart.
+ * way the methods convert their arrays; the lengths tell the arrays apart. The toolkit's calls
+ * stand among them: outputs converted after the toolkit call, query points and a box the
+ * toolkit fills before it.
  */
 class ArrayModesCallsTest {
     private static final SbVec3f CENTRE = new SbVec3f(0.5f, 0.5f, 0);
@@ -28,6 +31,11 @@ class ArrayModesCallsTest {
     /** Output array of one element, written back at once (its own helper). */
     private static List<String> output(String kind, int length) {
         return sequence(array(kind, length), COPY_BACK_CHECK, copyBack(kind, length));
+    }
+
+    /** A toolkit call, by its function's name. */
+    private static String t(String function) {
+        return CoreCalls.toolkit(function);
     }
 
     static Stream<Arguments> methods() {
@@ -42,57 +50,65 @@ class ArrayModesCallsTest {
                 true);
         return Stream.of(
                 Arguments.of("PbMesh.addValuesSet: values ReadOnly", (JniCalls.Block) () ->
-                        grid.addValuesSet(1, new float[6], "w"), sequence(readString(1), array("Float", 6))),
+                        grid.addValuesSet(1, new float[6], "w"), sequence(t("PbMesh::getNumNodes"), readString(1), array("Float", 6), t("PbMesh::addValuesSet"))),
                 // The Java side first asks the mesh how many values each array must hold (through
                 // the coordinate buffers), then the native call reads x and y.
                 Arguments.of("PbMesh.setCoordinates: x, y, z ReadOnly", (JniCalls.Block) () ->
                         cartesian.setCoordinates(new float[] {0, 1, 0, 1}, new float[] {0, 0, 1, 1}, null),
-                        sequence("NewDirectByteBuffer(16)", "SetObjectArrayElement(0)", "DeleteLocalRef()",
-                                "NewDirectByteBuffer(16)", "SetObjectArrayElement(0)", "DeleteLocalRef()",
-                                "SetObjectArrayElement(0, null)", array("Float", 4), array("Float", 4))),
+                        sequence(t("PbCartesianGrid2D::getCoordinates"), "NewDirectByteBuffer(16)", "SetObjectArrayElement(0)",
+                                "DeleteLocalRef()", "NewDirectByteBuffer(16)", "SetObjectArrayElement(0)", "DeleteLocalRef()",
+                                "SetObjectArrayElement(0, null)", t("PbMesh::getNumNodes"), array("Float", 4),
+                                array("Float", 4), t("PbCartesianGrid2D::setCoordinates"))),
                 Arguments.of("PbMesh.getMinValuesSet: output ReadWrite after the toolkit", (JniCalls.Block) () ->
-                        grid.getMinValuesSet(0, new float[1]), output("Float", 1)),
+                        grid.getMinValuesSet(0, new float[1]), sequence(t("PbMesh::getMinValuesSet"), output("Float", 1))),
                 Arguments.of("PbMesh.getBoundingBox: six floats ReadWrite", (JniCalls.Block) grid::getBoundingBox,
-                        output("Float", 6)),
+                        sequence(t("PbMesh::getBoundingBox"), output("Float", 6))),
                 Arguments.of("PbMesh.getSmallestCellBox: box, then cell index, box written back first",
                         (JniCalls.Block) () -> grid.getSmallestCellBox(new float[6]),
-                        sequence(array("Float", 6), array("Int", 1), COPY_BACK_CHECK, copyBack("Float", 6),
+                        sequence(array("Float", 6), t("PbMesh::getSmallestCellBox"), array("Int", 1), COPY_BACK_CHECK,
+                                copyBack("Float", 6),
                                 COPY_BACK_CHECK, copyBack("Int", 1))),
                 Arguments.of("PbMesh.findContainingCell: point and pcoord ReadWrite, one helper",
                         (JniCalls.Block) () -> grid.findContainingCell(CENTRE, 0.01f, new float[3]),
-                        sequence(array("Float", 3), array("Float", 3), COPY_BACK_CHECK, times(2,
-                                copyBack("Float", 3)))),
+                        sequence(array("Float", 3), array("Float", 3), t("PbMesh::findContainingCell"), COPY_BACK_CHECK,
+                                times(2, copyBack("Float", 3)))),
                 Arguments.of("PbGrid2D.getDim: two outputs, each with its own helper",
-                        (JniCalls.Block) grid::getDim, sequence(output("Int", 1), output("Int", 1))),
+                        (JniCalls.Block) grid::getDim,
+                        sequence(t("PbGrid2D::getDim"), output("Int", 1), output("Int", 1))),
                 Arguments.of("PbGrid2D.getNodeIndices: two outputs", (JniCalls.Block) () -> grid.getNodeIndices(3),
-                        sequence(output("Int", 1), output("Int", 1))),
+                        sequence(t("PbGrid2D::getDim"), output("Int", 1), output("Int", 1))),
                 Arguments.of("PbGrid2D.setGeometry: x, y ReadOnly", (JniCalls.Block) () ->
                         cartesian.setGeometry(2, 2, new float[] {0, 2, 0, 2}, new float[] {0, 0, 2, 2}),
-                        sequence(array("Float", 4), array("Float", 4))),
+                        sequence(array("Float", 4), array("Float", 4), t("PbCartesianGrid2D::setGeometry"))),
                 Arguments.of("PbMesh2D.get2DBoundingBox: four floats ReadWrite",
-                        (JniCalls.Block) grid::get2DBoundingBox, output("Float", 4)),
+                        (JniCalls.Block) grid::get2DBoundingBox,
+                        sequence(t("PbMesh2D::get2DBoundingBox"), output("Float", 4))),
                 Arguments.of("PbCell.getBounds: six outputs, written back in reverse", (JniCalls.Block) pixel::getBounds,
-                        sequence(times(6, array("Float", 1)), times(6, COPY_BACK_CHECK, copyBack("Float", 1)))),
-                Arguments.of("PbCell.getCenter: output ReadWrite", (JniCalls.Block) pixel::getCenter, output("Float", 3)),
+                        sequence(t("PbCell::getBounds"), times(6, array("Float", 1)),
+                                times(6, COPY_BACK_CHECK, copyBack("Float", 1)))),
+                Arguments.of("PbCell.getCenter: output ReadWrite", (JniCalls.Block) pixel::getCenter,
+                        sequence(t("PbCell::getCenter"), output("Float", 3))),
                 Arguments.of("PbCell.locatePoint: point and pcoord ReadWrite", (JniCalls.Block) () ->
                         pixel.locatePoint(CENTRE, 0.01f, new float[3]),
-                        sequence(array("Float", 3), array("Float", 3), COPY_BACK_CHECK, times(2, copyBack("Float", 3)))),
+                        sequence(array("Float", 3), array("Float", 3), t("PbCell::locatePoint"), COPY_BACK_CHECK,
+                                times(2, copyBack("Float", 3)))),
                 Arguments.of("PbCell.getValue(SbVec3f, float[]): pcoord ReadWrite, values ReadOnly",
                         (JniCalls.Block) () -> pixel.getValue(CENTRE, new float[5]),
-                        sequence(array("Float", 3), array("Float", 5), COPY_BACK_CHECK, copyBack("Float", 3))),
+                        sequence(array("Float", 3), array("Float", 5), t("PbCell::getValue"), COPY_BACK_CHECK,
+                                copyBack("Float", 3))),
                 Arguments.of("PbCell.getValue(float[], float[]): both ReadOnly", (JniCalls.Block) () ->
                         pixel.getValue(new float[] {0.5f, 0.5f, 0}, new float[5]),
-                        sequence(array("Float", 3), array("Float", 5))),
+                        sequence(array("Float", 3), array("Float", 5), t("PbCell::getValue"))),
                 Arguments.of("PbHexahedronCell.getDerivs: pcoord and derivs ReadWrite", (JniCalls.Block) () ->
                         hexahedron.getDerivs(CENTRE, new float[24]),
-                        sequence(array("Float", 3), array("Float", 24), COPY_BACK_CHECK, copyBack("Float", 24),
-                                copyBack("Float", 3))));
+                        sequence(array("Float", 3), array("Float", 24), t("PbHexahedronCell::getDerivs"), COPY_BACK_CHECK,
+                                copyBack("Float", 24), copyBack("Float", 3))));
     }
 
     @ParameterizedTest(name = "{0}")
     @MethodSource("methods")
     void outputsAreCopiedBackAndInputsNot(String method, JniCalls.Block block, List<String> expected) {
         JniCalls.record(block); // the first run may load classes
-        assertEquals(expected, JniCalls.record(block).calls());
+        assertEquals(expected, CoreCalls.toolkitByName(JniCalls.recordWithToolkit(block).calls()));
     }
 }

@@ -300,12 +300,12 @@ class ForwardedCallsTest {
         }
     }
 
-    @Test
-    void filterOperationThatThrows() {
-        filter.failing = "acceptCell";
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("filterRows")
+    void filterOperationThatThrows(Row row) {
+        filter.failing = row.operation();
         try {
-            Row acceptCell = filterRows().findFirst().orElseThrow();
-            assertEquals(acceptCell.failingCalls("CustomPoCellFilter"), failingCall(filter, "acceptCell").calls());
+            assertEquals(row.failingCalls("CustomPoCellFilter"), failingCall(filter, row.operation()).calls());
         } finally {
             filter.failing = null;
         }

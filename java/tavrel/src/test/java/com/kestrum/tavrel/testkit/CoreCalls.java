@@ -31,6 +31,25 @@ public final class CoreCalls {
         return out;
     }
 
+    /** A toolkit call in a recording with the toolkit's calls ({@link JniCalls#recordWithToolkit}). */
+    public static String toolkit(String journalLine) {
+        return JniCalls.TOOLKIT + journalLine;
+    }
+
+    /**
+     * The calls, with each toolkit call shortened to {@code "toolkit: "} and its function's
+     * qualified name ({@code "toolkit: PbMesh::addValuesSet"}), for rows that hold where the
+     * toolkit is called rather than what it receives.
+     */
+    public static List<String> toolkitByName(List<String> calls) {
+        List<String> out = new ArrayList<>(calls.size());
+        for (String c : calls) {
+            int paren = c.indexOf('(');
+            out.add(c.startsWith(JniCalls.TOOLKIT) && paren > 0 ? c.substring(0, paren) : c);
+        }
+        return out;
+    }
+
     /** The call n times. */
     public static List<String> times(int n, Object... calls) {
         List<String> one = sequence(calls);
@@ -85,6 +104,32 @@ public final class CoreCalls {
     public static List<String> readString(int length) {
         return length == 0 ? List.of("GetStringLength() -> 0")
                 : List.of("GetStringLength() -> " + length, "GetStringRegion(0, " + length + ")");
+    }
+
+    /**
+     * A vector-object array of n vectors of the class (a signature) read into a temporary native
+     * array: element 0's class and field looked up once, then each vector's floats.
+     */
+    public static List<String> vectorArray(int n, String vectorClass) {
+        List<String> calls = new ArrayList<>(List.of("GetArrayLength() -> " + n, "GetObjectArrayElement(0)",
+                "GetObjectClass() -> " + vectorClass, "GetFieldID(" + vectorClass + ", \"array\", \"[F\")",
+                "DeleteLocalRef()", "DeleteLocalRef()"));
+        for (int i = 0; i < n; i++) {
+            calls.addAll(List.of("GetObjectArrayElement(" + i + ")", "GetObjectField(array)", "GetFloatArrayElements()",
+                    "ReleaseFloatArrayElements(JNI_ABORT)", "DeleteLocalRef()", "DeleteLocalRef()"));
+        }
+        return calls;
+    }
+
+    /** A {@code StringArrayHelper} reading a Java String[] of non-null elements of those lengths. */
+    public static List<String> stringArray(int... lengths) {
+        List<String> calls = new ArrayList<>(List.of("GetArrayLength() -> " + lengths.length));
+        for (int i = 0; i < lengths.length; i++) {
+            calls.add("GetObjectArrayElement(" + i + ")");
+            calls.addAll(readString(lengths[i]));
+            calls.add("DeleteLocalRef()");
+        }
+        return calls;
     }
 
     /** {@code ObjectHelper::getEnumValue} of a constant of the enumeration class (a signature). */

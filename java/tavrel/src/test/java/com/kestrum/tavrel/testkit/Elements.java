@@ -11,6 +11,12 @@ public final class Elements {
     /** The element's virtual matches (a Java element's override), exceptions left pending. */
     public static native boolean matches(long element, long other);
 
+    /**
+     * The element's virtual push (operation 0), pop with itself as the previous top (1), init (2)
+     * or captureThis (3) with the state; exceptions left pending.
+     */
+    public static native void stateOperation(long element, long state, int operation);
+
     /** The element's virtual copyMatchInfo: the address of the copy, 0 for none. */
     public static native long copyMatchInfo(long element);
 

@@ -44,6 +44,11 @@ import java.util.Map;
  * <p>The thread's environment lookups, {@code GetEnv} of the {@code JavaVM}, are recorded as well,
  * as {@code GetEnv(0x10008) -> 0} (the JNI version asked for, the result).
  *
+ * <p>{@link #recordWithToolkit} puts the toolkit stand-in's calls in the same timeline: each line
+ * of its call journal ({@link Journal}) made on the recording thread is one more line,
+ * {@code "toolkit: "} and the journal's line, where the toolkit was called (between the JNI calls
+ * before and after it).
+ *
  * <p>Local references count as made by every function that returns a non-null reference other
  * than {@code NewGlobalRef} and {@code NewWeakGlobalRef}, and as freed by {@code DeleteLocalRef}
  * of a non-null one; the references a native method holds when it returns are freed by the JVM
@@ -52,6 +57,8 @@ import java.util.Map;
 public final class JniCalls {
     private static final String AGENT_PROPERTY = "tavrel.jnicalls.agent";
     private static final int MAX_CALLS = 200_000;
+    /** The start of a toolkit call's line in a recording. */
+    public static final String TOOLKIT = "toolkit: ";
     private static List<String> functionNames;
 
     private JniCalls() {}
@@ -84,6 +91,39 @@ public final class JniCalls {
             throw new AssertionError("the block returned normally");
         }
         return r;
+    }
+
+    /**
+     * As {@link #record}, with the toolkit's calls in the timeline ({@code "toolkit: "} and the
+     * journal's line). Clears the call journal, and leaves it off.
+     */
+    public static Recording recordWithToolkit(Block block) {
+        Recording r = withToolkit(block);
+        if (r.thrown != null) {
+            throw JniCalls.<RuntimeException>sneaky(r.thrown);
+        }
+        return r;
+    }
+
+    /** As {@link #recordWithToolkit}, for a block that is to throw (see {@link #recordThrowing}). */
+    public static Recording recordThrowingWithToolkit(Block block) {
+        Recording r = withToolkit(block);
+        if (r.thrown == null) {
+            throw new AssertionError("the block returned normally");
+        }
+        return r;
+    }
+
+    private static Recording withToolkit(Block block) {
+        ensureLoaded();
+        Journal.setListener(toolkitListener());
+        Journal.start();
+        try {
+            return run(block, true);
+        } finally {
+            Journal.stop();
+            Journal.setListener(0);
+        }
     }
 
     /**
@@ -165,6 +205,17 @@ public final class JniCalls {
         /** The calls, one line each, in the order in which they were made. */
         public List<String> calls() {
             return calls;
+        }
+
+        /** The toolkit's calls only (see {@link JniCalls#recordWithToolkit}), without the prefix. */
+        public List<String> toolkitCalls() {
+            List<String> result = new ArrayList<>();
+            for (String c : calls) {
+                if (c.startsWith(TOOLKIT)) {
+                    result.add(c.substring(TOOLKIT.length()));
+                }
+            }
+            return result;
         }
 
         /** The names of the functions called, in order. */
@@ -273,4 +324,6 @@ public final class JniCalls {
     private static native void release(long recording);
 
     private static native String[] functionNames();
+
+    private static native long toolkitListener();
 }

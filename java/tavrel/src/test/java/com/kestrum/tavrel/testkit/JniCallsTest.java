@@ -115,4 +115,33 @@ class JniCallsTest {
         assertThrows(IllegalStateException.class, () -> JniCalls.record(() -> JniCalls.record(() -> { })));
         assertEquals(0, JniCalls.record(() -> { }).total(), "the outer recording has ended");
     }
+
+    /**
+     * The toolkit's calls join the timeline where they are made, with the journal's text; a plain
+     * recording has none, and the journal is left off; another thread's toolkit calls are not the
+     * recording thread's.
+     */
+    @Test
+    void toolkitCallsJoinTheTimelineOfTheirThreadOnly() throws InterruptedException {
+        com.kestrum.tavrel.data.PbRegularCartesianGrid2D grid =
+                new com.kestrum.tavrel.data.PbRegularCartesianGrid2D(2, 2, 0, 0, 1, 1, true);
+        grid.addValuesSet(0, new float[4], "v");
+        JniCalls.Recording r = JniCalls.recordWithToolkit(() -> grid.addValuesSet(1, new float[4], "w"));
+        // the Java side asks the mesh its node count first (for the array's length)
+        assertEquals(CoreCalls.sequence(CoreCalls.toolkit("PbMesh::getNumNodes()"), CoreCalls.readString(1),
+                CoreCalls.array("Float", 4),
+                CoreCalls.toolkit("PbMesh::addValuesSet(1, [0, 0, 0, 0], \"w\")")), r.calls());
+        assertEquals(List.of("PbMesh::getNumNodes()", "PbMesh::addValuesSet(1, [0, 0, 0, 0], \"w\")"),
+                r.toolkitCalls());
+        assertEquals(List.of(), JniCalls.record(() -> grid.addValuesSet(1, new float[4], "w")).toolkitCalls());
+        Thread other = new Thread(() -> grid.getValuesSetName(0));
+        JniCalls.Recording quiet = JniCalls.recordWithToolkit(() -> {
+            other.start();
+            other.join();
+        });
+        assertEquals(List.of(), quiet.toolkitCalls(), "another thread's toolkit calls");
+        Journal.start();
+        grid.getValuesSetName(0);
+        assertEquals(1, Journal.stop().size(), "the journal still records on its own");
+    }
 }

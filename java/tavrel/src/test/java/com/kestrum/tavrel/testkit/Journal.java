@@ -34,6 +34,9 @@ public final class Journal {
 
     public static native void setEnabled(boolean on);
 
+    /** Gives every line from now on also to the native function at that address (0: none). */
+    static native void setListener(long address);
+
     public static native void clear();
 
     public static native String[] lines();

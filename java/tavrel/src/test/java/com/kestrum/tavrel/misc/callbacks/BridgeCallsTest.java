@@ -1,5 +1,7 @@
 package com.kestrum.tavrel.misc.callbacks;
 
+import static com.kestrum.tavrel.testkit.CoreCalls.toolkit;
+import static com.kestrum.tavrel.testkit.CoreCalls.toolkitByName;
 import static com.kestrum.tavrel.testkit.CoreCalls.GET_ENV;
 import static com.kestrum.tavrel.testkit.CoreCalls.sequence;
 import static org.junit.jupiter.api.Assertions.assertEquals;
@@ -28,7 +30,8 @@ import org.junit.jupiter.params.provider.MethodSource;
 /**
  * The JNI calls of the callback bridges (an event: one environment lookup, the pending-exception
  * check, the liveness test, one class and one method lookup, one Java call) and of their
- * registration with a probe (the user data stored in "userData", then the toolkit's setter).
+ * registration with a probe (the user data stored in "userData", then the toolkit's setter, which
+ * the recording shows among the JNI calls).
  */
 class BridgeCallsTest {
     private static final String PROBE_CB = "Lcom/kestrum/tavrel/misc/callbacks/PoProbeCB;";
@@ -149,6 +152,11 @@ class BridgeCallsTest {
         assertEquals(0, r.weakGlobalReferencesDeleted() + r.globalReferencesDeleted());
     }
 
+    /** The calls of the block with the toolkit's, each toolkit call by its function's name. */
+    private static List<String> withToolkit(JniCalls.Block block) {
+        return toolkitByName(JniCalls.recordWithToolkit(block).calls());
+    }
+
     /** A probe's four setters. */
     interface Setter {
         void set(PoMeshProbePoint probe, PoProbeCB callback, Object userData);
@@ -180,9 +188,10 @@ class BridgeCallsTest {
         PoProbeCB callback = new PoProbeCB((p, cell, cellHandle, data) -> { });
         try {
             setter.set(probe, callback, "warm-up");
-            assertEquals(storeUserData(false), JniCalls.record(() -> setter.set(probe, callback, "data")).calls());
-            assertEquals(storeUserData(true), JniCalls.record(() -> setter.set(probe, callback, null)).calls());
-            assertEquals(List.of(), JniCalls.record(() -> setter.set(probe, null, "ignored")).calls(),
+            String toolkit = toolkit("PoMeshProbePoint::set" + event + "Callback");
+            assertEquals(sequence(storeUserData(false), toolkit), withToolkit(() -> setter.set(probe, callback, "data")));
+            assertEquals(sequence(storeUserData(true), toolkit), withToolkit(() -> setter.set(probe, callback, null)));
+            assertEquals(List.of(toolkit), withToolkit(() -> setter.set(probe, null, "ignored")),
                     "detaching touches no Java object");
         } finally {
             probe.dispose();
@@ -212,11 +221,12 @@ class BridgeCallsTest {
         PoRebuildCB callback = new PoRebuildCB((n, handle, data) -> { });
         try {
             setter.set(node, callback, "warm-up");
-            assertEquals(storeUserData(rebuildCb, false),
-                    JniCalls.record(() -> setter.set(node, callback, "data")).calls());
-            assertEquals(storeUserData(rebuildCb, true),
-                    JniCalls.record(() -> setter.set(node, callback, null)).calls());
-            assertEquals(List.of(), JniCalls.record(() -> setter.set(node, null, "ignored")).calls(),
+            String toolkit = toolkit("PoBase::add" + event + "Callback");
+            assertEquals(sequence(storeUserData(rebuildCb, false), toolkit),
+                    withToolkit(() -> setter.set(node, callback, "data")));
+            assertEquals(sequence(storeUserData(rebuildCb, true), toolkit),
+                    withToolkit(() -> setter.set(node, callback, null)));
+            assertEquals(List.of(toolkit), withToolkit(() -> setter.set(node, null, "ignored")),
                     "a null callback object touches no Java object");
         } finally {
             node.dispose();
