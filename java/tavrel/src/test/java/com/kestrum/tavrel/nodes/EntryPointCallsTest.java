@@ -35,7 +35,8 @@ import org.junit.jupiter.params.provider.MethodSource;
  * The JNI calls of the entry points of the Java node and cell filter classes: the guards of
  * their pure-virtual operations, the entry points that reach the toolkit's own behaviour (which
  * do not call the Java method back), and a node's start (its type name, one weak reference to its peer, its render mode),
- * after which its peer reference is never released by the library.
+ * after which its peer reference is never released by the library; the first node of a class
+ * creates its type. The toolkit's calls stand in the recordings where they are made.
  */
 class EntryPointCallsTest {
     private static final String RENDER_MODES = "Lcom/kestrum/corvel/nodes/SoNode$RenderModes;";
@@ -49,6 +50,26 @@ class EntryPointCallsTest {
     static final class PlainFilter extends PoCellFilter {
         PlainFilter() {
             super("EntryPlainFilter");
+        }
+    }
+
+    /** Classes whose first objects are made by aNodeOfANewClassCreatesItsType alone. */
+    static final class NewNode extends PoNode {
+        NewNode() {
+            super("EntryNewNode");
+        }
+    }
+
+    static final class NewFilter extends PoCellFilter {
+        NewFilter() {
+            super("EntryNewFilter");
+        }
+    }
+
+    /** Runs the creation path once before the rows, so that its first run's calls are not theirs. */
+    static final class NewWarmUp extends PoNode {
+        NewWarmUp() {
+            super("EntryNewWarmUp");
         }
     }
 
@@ -225,4 +246,39 @@ class EntryPointCallsTest {
         assertEquals(0, disposal.globalReferencesDeleted());
         assertEquals(0, disposal.weakGlobalReferencesCreated() + disposal.globalReferencesCreated());
     }
+    static Stream<Arguments> newClasses() {
+        return Stream.of(Arguments.of("EntryNewNode", "PoNode", (Supplier<PoNode>) NewNode::new),
+                Arguments.of("EntryNewFilter", "PoCellFilter", (Supplier<PoNode>) NewFilter::new));
+    }
+
+    /**
+     * The first node of a class creates its type: as a later node, but initCustomClass takes the
+     * next action-method index, makes a new type under the toolkit class's type with it, and
+     * moves the index on (the toolkit's calls, after the name is read and before the peer's
+     * reference).
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("newClasses")
+    void aNodeOfANewClassCreatesItsType(String typeName, String toolkitClass, Supplier<PoNode> make) {
+        new PlainNode().dispose(); // the classes registered
+        new PlainFilter().dispose();
+        synchronized (NewWarmUp.class) {
+            new NewWarmUp().dispose();
+        }
+        PoNode[] made = new PoNode[1];
+        List<String> calls = toolkitByName(JniCalls.recordWithToolkit(() -> made[0] = make.get()).calls());
+        try {
+            assertEquals(sequence(toolkit("SoBaseInitializer::SoBaseInitializer"), "NewWeakGlobalRef()",
+                    readString(typeName.length()), toolkit("SoNode::getNextActionMethodIndex"),
+                    toolkit(toolkitClass + "::getClassTypeId"), toolkit("SoType::createType"),
+                    toolkit("SoNode::incNextActionMethodIndex"), "NewWeakGlobalRef()",
+                    GET_ENV, "ExceptionCheck() -> false", "NewLocalRef()",
+                    "CallObjectMethodV(getRenderEngineMode()" + RENDER_MODES + ")",
+                    "ExceptionCheck() -> false", enumValue(RENDER_MODES, 0), "ExceptionOccurred() -> null",
+                    "DeleteLocalRef()", "DeleteLocalRef()"), calls, typeName);
+        } finally {
+            made[0].dispose();
+        }
+    }
 }
+
