@@ -4,7 +4,6 @@ import static com.kestrum.tavrel.testkit.CoreCalls.toolkit;
 import static com.kestrum.tavrel.testkit.CoreCalls.toolkitByName;
 import static org.junit.jupiter.api.Assertions.assertEquals;
 import static org.junit.jupiter.api.Assertions.assertNotNull;
-import static org.junit.jupiter.api.Assertions.assertTrue;
 
 import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.tavrel.testkit.JniCalls;
