@@ -4,6 +4,7 @@ import static com.kestrum.tavrel.testkit.CoreCalls.GET_ENV;
 import static com.kestrum.tavrel.testkit.CoreCalls.readString;
 import static com.kestrum.tavrel.testkit.CoreCalls.sequence;
 import static com.kestrum.tavrel.testkit.CoreCalls.toolkit;
+import static com.kestrum.tavrel.testkit.CoreCalls.toolkitByName;
 import static com.kestrum.tavrel.testkit.CoreCalls.throwIllegalArgument;
 import static org.junit.jupiter.api.Assertions.assertAll;
 import static org.junit.jupiter.api.Assertions.assertEquals;
@@ -149,6 +150,40 @@ class ElementForwardingCallsTest {
         @Override public void captureThis(SoState s) { act(); }
     }
 
+    /** Classes whose first object is made by bindingOfTheFirstObjectCreatesTheType alone: their types are new. */
+    static final class NewBevelEdge extends PoBevelEdgeElement { }
+    static final class NewCellFilter extends PoCellFilterElement { }
+    static final class NewDataMapping extends PoDataMappingElement { }
+    static final class NewDateFormatMapping extends PoDateFormatMappingElement { }
+    static final class NewDomain extends PoDomainElement { }
+    static final class NewIsovaluesList extends PoIsovaluesListElement { }
+    static final class NewLabelHints extends PoLabelHintsElement { }
+    static final class NewMesh1DFilter extends PoMesh1DFilterElement { }
+    static final class NewMesh1DHints extends PoMesh1DHintsElement { }
+    static final class NewMesh extends PoMeshElement { }
+    static final class NewMiscTextAttr extends PoMiscTextAttrElement { }
+    static final class NewNumericDisplayFormat extends PoNumericDisplayFormatElement { }
+    static final class NewProfile extends PoProfileElement { }
+    /** Runs the creation path once before the rows, so that its first run's calls are not theirs. */
+    static final class NewWarmUp extends PoBevelEdgeElement { }
+
+    static Stream<Arguments> newClasses() {
+        return Stream.of(
+                Arguments.of("PoBevelEdgeElement", (Supplier<SoElement>) NewBevelEdge::new),
+                Arguments.of("PoCellFilterElement", (Supplier<SoElement>) NewCellFilter::new),
+                Arguments.of("PoDataMappingElement", (Supplier<SoElement>) NewDataMapping::new),
+                Arguments.of("PoDateFormatMappingElement", (Supplier<SoElement>) NewDateFormatMapping::new),
+                Arguments.of("PoDomainElement", (Supplier<SoElement>) NewDomain::new),
+                Arguments.of("PoIsovaluesListElement", (Supplier<SoElement>) NewIsovaluesList::new),
+                Arguments.of("PoLabelHintsElement", (Supplier<SoElement>) NewLabelHints::new),
+                Arguments.of("PoMesh1DFilterElement", (Supplier<SoElement>) NewMesh1DFilter::new),
+                Arguments.of("PoMesh1DHintsElement", (Supplier<SoElement>) NewMesh1DHints::new),
+                Arguments.of("PoMeshElement", (Supplier<SoElement>) NewMesh::new),
+                Arguments.of("PoMiscTextAttrElement", (Supplier<SoElement>) NewMiscTextAttr::new),
+                Arguments.of("PoNumericDisplayFormatElement", (Supplier<SoElement>) NewNumericDisplayFormat::new),
+                Arguments.of("PoProfileElement", (Supplier<SoElement>) NewProfile::new));
+    }
+
     static Stream<Arguments> classes() {
         return Stream.of(
                 Arguments.of("PoBevelEdgeElement", (Supplier<SoElement>) JBevelEdge::new),
@@ -248,6 +283,32 @@ class ElementForwardingCallsTest {
         List<String> destruction = JniCalls.recordWithToolkit(made[0]::dispose).calls();
         assertEquals(List.of("DeleteWeakGlobalRef()", GET_ENV, "DeleteGlobalRef()"), destruction,
                 className + " destructor");
+    }
+
+    /**
+     * initCustomClass run by the first object of a class: the type name read, a new type made
+     * from it under the element class's type (the toolkit's calls, before the peer's reference),
+     * the peer's global reference, then the stack index (the element class's own, which every
+     * class has) and a new key (asked for with the bad key), then the int[2].
+     */
+    @ParameterizedTest(name = "{0}")
+    @MethodSource("newClasses")
+    void bindingOfTheFirstObjectCreatesTheType(String className, Supplier<SoElement> make) {
+        synchronized (NewWarmUp.class) {
+            new NewWarmUp().dispose();
+        }
+        SoElement[] made = new SoElement[1];
+        List<String> binding = toolkitByName(JniCalls.recordWithToolkit(() -> made[0] = make.get()).calls());
+        try {
+            String typeName = made[0].getClass().getName();
+            assertEquals(sequence("NewWeakGlobalRef()", readString(typeName.length()),
+                    toolkit(className + "::getClassTypeId"), toolkit("SoType::createType"), "NewGlobalRef()",
+                    toolkit(className + "::getClassStackIndex"), toolkit("SoElement::createElementKey"),
+                    "ExceptionCheck() -> false", "NewIntArray(2)", "SetIntArrayRegion(0, 2)"),
+                    binding, className + " initCustomClass");
+        } finally {
+            made[0].dispose();
+        }
     }
 
     /**
