@@ -3,6 +3,7 @@ package com.kestrum.tavrel.data;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.nio.ByteBuffer;
 import java.nio.FloatBuffer;
@@ -57,12 +58,7 @@ public abstract class PbMesh extends NativeObject {
          * @return the constant with the toolkit's value, or null
          */
         public static DataBindings fromValue(int value) {
-            for (DataBindings b : values()) {
-                if (b.value == value) {
-                    return b;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), DataBindings::getValue, value);
         }
 
         private static native int getPERCELLNative();

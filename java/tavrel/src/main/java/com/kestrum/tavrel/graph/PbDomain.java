@@ -5,6 +5,7 @@ import static com.kestrum.tavrel.graph.Checks.notNull;
 import com.kestrum.corvel.SbBox2f;
 import com.kestrum.corvel.SbBox3f;
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -56,12 +57,7 @@ public class PbDomain extends PbBase {
          * @return the constant with the toolkit's value, or null
          */
         public static TransformTypes fromValue(int value) {
-            for (TransformTypes t : values()) {
-                if (t.value == value) {
-                    return t;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TransformTypes::getValue, value);
         }
 
         private static native int getTRANSFORM01Native();

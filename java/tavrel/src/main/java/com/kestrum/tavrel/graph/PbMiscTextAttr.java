@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -45,12 +46,7 @@ public class PbMiscTextAttr extends PbBase {
          * @return the constant with the toolkit's value, or null
          */
         public static LineLengths fromValue(int value) {
-            for (LineLengths l : values()) {
-                if (l.value == value) {
-                    return l;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), LineLengths::getValue, value);
         }
 
         private static native int getLINELENGTHMAXNative();

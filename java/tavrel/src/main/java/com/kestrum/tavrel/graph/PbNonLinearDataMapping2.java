@@ -6,6 +6,7 @@ import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
@@ -57,12 +58,7 @@ public class PbNonLinearDataMapping2 extends PbDataMapping {
          * @return the constant with the toolkit's value, or null
          */
         public static Types fromValue(int value) {
-            for (Types t : values()) {
-                if (t.value == value) {
-                    return t;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Types::getValue, value);
         }
 
         /**

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.misc.ManagedObjects;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -47,12 +48,7 @@ public class PbNumericDisplayFormat extends PbBase {
          * @return the constant with the toolkit's value, or null
          */
         public static FormatTypes fromValue(int value) {
-            for (FormatTypes f : values()) {
-                if (f.value == value) {
-                    return f;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), FormatTypes::getValue, value);
         }
 
         private static native int getAUTOFORMATNative();

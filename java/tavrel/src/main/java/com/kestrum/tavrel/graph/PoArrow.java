@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -46,12 +47,7 @@ public class PoArrow extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static PatternTypes fromValue(int value) {
-            for (PatternTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), PatternTypes::getValue, value);
         }
 
         private static native int getNOPATTERNNative();

@@ -4,6 +4,7 @@ import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.actions.SoGLRenderAction;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** A cube of axes around the box between two corners. */
@@ -43,12 +44,7 @@ public class PoAutoCubeAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static AxisTypes fromValue(int value) {
-            for (AxisTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), AxisTypes::getValue, value);
         }
 
         private static native int getLINEARNative();

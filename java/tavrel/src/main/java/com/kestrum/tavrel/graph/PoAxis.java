@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 import java.util.List;
@@ -45,12 +46,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static Visibilities fromValue(int value) {
-            for (Visibilities c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Visibilities::getValue, value);
         }
 
         private static native int getVISIBILITYOFFNative();
@@ -95,12 +91,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static TextPaths fromValue(int value) {
-            for (TextPaths c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TextPaths::getValue, value);
         }
 
         private static native int getPATHRIGHTNative();
@@ -145,12 +136,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static GradPositions fromValue(int value) {
-            for (GradPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), GradPositions::getValue, value);
         }
 
         private static native int getGRADABOVENative();
@@ -189,12 +175,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static MarginTypes fromValue(int value) {
-            for (MarginTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), MarginTypes::getValue, value);
         }
 
         private static native int getRELMARGINNative();
@@ -233,12 +214,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static TickPositions fromValue(int value) {
-            for (TickPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TickPositions::getValue, value);
         }
 
         private static native int getTICKGRADSIDENative();
@@ -279,12 +255,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static TitlePositions fromValue(int value) {
-            for (TitlePositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TitlePositions::getValue, value);
         }
 
         private static native int getTITLEMIDDLENative();
@@ -323,12 +294,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static TickSubDefs fromValue(int value) {
-            for (TickSubDefs c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TickSubDefs::getValue, value);
         }
 
         private static native int getNUMSUBTICKNative();
@@ -367,12 +333,7 @@ public abstract class PoAxis extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static AxisReverses fromValue(int value) {
-            for (AxisReverses c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), AxisReverses::getValue, value);
         }
 
         private static native int getAXISNOREVERSENative();

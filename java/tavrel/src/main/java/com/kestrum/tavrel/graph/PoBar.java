@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** Base of the bar representations of a curve, with their orientations. Abstract. */
@@ -37,12 +38,7 @@ public abstract class PoBar extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static Orientations fromValue(int value) {
-            for (Orientations c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Orientations::getValue, value);
         }
 
         private static native int getHORIZONTALNative();

@@ -6,6 +6,7 @@ import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.misc.NativeObject;
 import com.kestrum.corvel.nodekits.SoBaseKit;
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 import com.kestrum.tavrel.misc.callbacks.PoRebuildCB;
@@ -73,12 +74,7 @@ public abstract class PoBase extends SoBaseKit {
          * @return the constant with the toolkit's value, or null
          */
         public static UpdateMethodTypes fromValue(int value) {
-            for (UpdateMethodTypes u : values()) {
-                if (u.value == value) {
-                    return u;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), UpdateMethodTypes::getValue, value);
         }
 
         private static native int getUPDATEMETHODIMMEDIATENative();
@@ -115,12 +111,7 @@ public abstract class PoBase extends SoBaseKit {
          * @return the constant with the toolkit's value, or null
          */
         public static NodeWriteFormats fromValue(int value) {
-            for (NodeWriteFormats f : values()) {
-                if (f.value == value) {
-                    return f;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), NodeWriteFormats::getValue, value);
         }
 
         private static native int getFOLDNODEWRITEFORMATNative();
@@ -157,12 +148,7 @@ public abstract class PoBase extends SoBaseKit {
          * @return the constant with the toolkit's value, or null
          */
         public static TextTypes fromValue(int value) {
-            for (TextTypes t : values()) {
-                if (t.value == value) {
-                    return t;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TextTypes::getValue, value);
         }
 
         private static native int getSOTEXT3Native();

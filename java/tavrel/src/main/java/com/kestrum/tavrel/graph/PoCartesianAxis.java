@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** Base of the axes drawn along a coordinate direction: linear, logarithmic and generalised axes. */
@@ -45,12 +46,7 @@ public abstract class PoCartesianAxis extends PoAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static Types fromValue(int value) {
-            for (Types c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Types::getValue, value);
         }
 
         private static native int getXYNative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** Base of the charts, with the ways a chart binds its colours. */
@@ -39,12 +40,7 @@ public abstract class PoChart extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static ColorBindings fromValue(int value) {
-            for (ColorBindings b : values()) {
-                if (b.value == value) {
-                    return b;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ColorBindings::getValue, value);
         }
 
         private static native int getINHERITEDNative();

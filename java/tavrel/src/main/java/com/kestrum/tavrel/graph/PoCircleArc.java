@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -42,12 +43,7 @@ public abstract class PoCircleArc extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static ArcTypes fromValue(int value) {
-            for (ArcTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ArcTypes::getValue, value);
         }
 
         private static native int getOPENEDNative();

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -45,12 +46,7 @@ public class PoCurve3 extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static CurveReps fromValue(int value) {
-            for (CurveReps c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), CurveReps::getValue, value);
         }
 
         private static native int getCURVENONENative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** A curve drawn as a line of a thickness. */
@@ -37,12 +38,7 @@ public class PoCurveLine extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static ThicknessBindings fromValue(int value) {
-            for (ThicknessBindings c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ThicknessBindings::getValue, value);
         }
 
         private static native int getPERPARTTHICKNESSNative();

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -47,12 +48,7 @@ public class PoErrorCurve extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static VariationTypes fromValue(int value) {
-            for (VariationTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), VariationTypes::getValue, value);
         }
 
         private static native int getFIXEDVARIATIONNative();
@@ -95,12 +91,7 @@ public class PoErrorCurve extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static ErrorCurveReps fromValue(int value) {
-            for (ErrorCurveReps c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ErrorCurveReps::getValue, value);
         }
 
         private static native int getHIGHLOWCLOSENative();

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -47,12 +48,7 @@ public class PoErrorPointField extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static ShapeTypes fromValue(int value) {
-            for (ShapeTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ShapeTypes::getValue, value);
         }
 
         private static native int getNOSHAPENative();
@@ -99,12 +95,7 @@ public class PoErrorPointField extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static SkeletonTypes fromValue(int value) {
-            for (SkeletonTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), SkeletonTypes::getValue, value);
         }
 
         private static native int getNOSKELETONNative();

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** A 2D group of two axes, x and y, between two corners. */
@@ -40,12 +41,7 @@ public class PoGroup2Axis extends PoBaseAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static AxisTypes fromValue(int value) {
-            for (AxisTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), AxisTypes::getValue, value);
         }
 
         private static native int getLINEARNative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -38,12 +39,7 @@ public abstract class PoHistogram extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static Types fromValue(int value) {
-            for (Types c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Types::getValue, value);
         }
 
         private static native int getXNative();
@@ -96,12 +92,7 @@ public abstract class PoHistogram extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static Positions fromValue(int value) {
-            for (Positions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Positions::getValue, value);
         }
 
         private static native int getPOSTOPOUTNative();
@@ -154,12 +145,7 @@ public abstract class PoHistogram extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static Visibilities fromValue(int value) {
-            for (Visibilities c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Visibilities::getValue, value);
         }
 
         private static native int getVISIBILITYOFFNative();
@@ -202,12 +188,7 @@ public abstract class PoHistogram extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static TextPaths fromValue(int value) {
-            for (TextPaths c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TextPaths::getValue, value);
         }
 
         private static native int getPATHRIGHTNative();
@@ -250,12 +231,7 @@ public abstract class PoHistogram extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static BarSpaceTypes fromValue(int value) {
-            for (BarSpaceTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), BarSpaceTypes::getValue, value);
         }
 
         private static native int getRELSPACENative();
@@ -292,12 +268,7 @@ public abstract class PoHistogram extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static Colorings fromValue(int value) {
-            for (Colorings c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Colorings::getValue, value);
         }
 
         private static native int getCOLORLISTNative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** The labels of the points of a curve. */
@@ -37,12 +38,7 @@ public class PoLabel extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static ValueTypes fromValue(int value) {
-            for (ValueTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ValueTypes::getValue, value);
         }
 
         private static native int getVALUENative();
@@ -81,12 +77,7 @@ public class PoLabel extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static Positions fromValue(int value) {
-            for (Positions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Positions::getValue, value);
         }
 
         private static native int getVALUEPOSNative();
@@ -125,12 +116,7 @@ public class PoLabel extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static AxisType fromValue(int value) {
-            for (AxisType c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), AxisType::getValue, value);
         }
 
         private static native int getXNative();

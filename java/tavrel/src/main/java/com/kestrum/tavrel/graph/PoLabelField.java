@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -46,12 +47,7 @@ public class PoLabelField extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static Justifications fromValue(int value) {
-            for (Justifications c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Justifications::getValue, value);
         }
 
         private static native int getLEFTNative();
@@ -96,12 +92,7 @@ public class PoLabelField extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static VerticalJustifications fromValue(int value) {
-            for (VerticalJustifications c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), VerticalJustifications::getValue, value);
         }
 
         private static native int getTOPNative();
@@ -144,12 +135,7 @@ public class PoLabelField extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static CoordinateTypes fromValue(int value) {
-            for (CoordinateTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), CoordinateTypes::getValue, value);
         }
 
         private static native int getCOORDINATEINDOMAINNative();
@@ -190,12 +176,7 @@ public class PoLabelField extends PoQuorvex {
          * @return the constant with the toolkit's value, or null
          */
         public static ConcatTypes fromValue(int value) {
-            for (ConcatTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ConcatTypes::getValue, value);
         }
 
         private static native int getSTRINGBEFOREVALUENative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -38,12 +39,7 @@ public abstract class PoLegend extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static Visibilities fromValue(int value) {
-            for (Visibilities c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Visibilities::getValue, value);
         }
 
         private static native int getVISIBILITYOFFNative();
@@ -84,12 +80,7 @@ public abstract class PoLegend extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static TextPaths fromValue(int value) {
-            for (TextPaths c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TextPaths::getValue, value);
         }
 
         private static native int getPATHRIGHTNative();
@@ -134,12 +125,7 @@ public abstract class PoLegend extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static Positions fromValue(int value) {
-            for (Positions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Positions::getValue, value);
         }
 
         private static native int getPOSBOTTOMNative();
@@ -180,12 +166,7 @@ public abstract class PoLegend extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static MarginTypes fromValue(int value) {
-            for (MarginTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), MarginTypes::getValue, value);
         }
 
         private static native int getRELMARGINNative();
@@ -222,12 +203,7 @@ public abstract class PoLegend extends PoBase {
          * @return the constant with the toolkit's value, or null
          */
         public static IncrementTypes fromValue(int value) {
-            for (IncrementTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), IncrementTypes::getValue, value);
         }
 
         private static native int getVERTICALINCREMENTNative();

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -44,12 +45,7 @@ public class PoLinearAxis extends PoCartesianAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static GradFits fromValue(int value) {
-            for (GradFits c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), GradFits::getValue, value);
         }
 
         private static native int getGRADFITNative();
@@ -90,12 +86,7 @@ public class PoLinearAxis extends PoCartesianAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static MultFactorPositions fromValue(int value) {
-            for (MultFactorPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), MultFactorPositions::getValue, value);
         }
 
         private static native int getMULTFACTORSTARTNative();

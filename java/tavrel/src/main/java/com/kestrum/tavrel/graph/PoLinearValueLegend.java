@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.graph;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** A value legend of values distributed linearly, in the rectangle between two corners. */
@@ -40,12 +41,7 @@ public class PoLinearValueLegend extends PoValueLegend {
          * @return the constant with the toolkit's value, or null
          */
         public static ValueDistributions fromValue(int value) {
-            for (ValueDistributions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ValueDistributions::getValue, value);
         }
 
         private static native int getALLVALUESNative();

@@ -4,6 +4,7 @@ import static com.kestrum.tavrel.graph.Checks.count;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec3f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -45,12 +46,7 @@ public class PoLogAxis extends PoCartesianAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static DecadeListDefs fromValue(int value) {
-            for (DecadeListDefs c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), DecadeListDefs::getValue, value);
         }
 
         private static native int getDECADELISTAUTONative();
@@ -89,12 +85,7 @@ public class PoLogAxis extends PoCartesianAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static TenPowGradReps fromValue(int value) {
-            for (TenPowGradReps c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TenPowGradReps::getValue, value);
         }
 
         private static native int getTENPOWERPOW10Native();
@@ -139,12 +130,7 @@ public class PoLogAxis extends PoCartesianAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static DecadeReps fromValue(int value) {
-            for (DecadeReps c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), DecadeReps::getValue, value);
         }
 
         private static native int getDECADENONENative();
@@ -191,12 +177,7 @@ public class PoLogAxis extends PoCartesianAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static MultFactorPositions fromValue(int value) {
-            for (MultFactorPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), MultFactorPositions::getValue, value);
         }
 
         private static native int getMULTFACTORSTARTNative();

@@ -3,6 +3,7 @@ package com.kestrum.tavrel.graph;
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.corvel.SbVec2f;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -43,12 +44,7 @@ public class PoMultipleHistogram extends PoHistogram {
          * @return the constant with the toolkit's value, or null
          */
         public static HistogPaths fromValue(int value) {
-            for (HistogPaths c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), HistogPaths::getValue, value);
         }
 
         private static native int getROWCOLUMNNative();
@@ -87,12 +83,7 @@ public class PoMultipleHistogram extends PoHistogram {
          * @return the constant with the toolkit's value, or null
          */
         public static Representations fromValue(int value) {
-            for (Representations c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Representations::getValue, value);
         }
 
         private static native int getJUXTAPOSEDNative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -43,12 +44,7 @@ public abstract class PoPieChart extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static IntAnnotPositions fromValue(int value) {
-            for (IntAnnotPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), IntAnnotPositions::getValue, value);
         }
 
         private static native int getRADIALINTPOSNative();
@@ -91,12 +87,7 @@ public abstract class PoPieChart extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static ExtAnnotPositions fromValue(int value) {
-            for (ExtAnnotPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), ExtAnnotPositions::getValue, value);
         }
 
         private static native int getRADIALEXTPOSNative();
@@ -145,12 +136,7 @@ public abstract class PoPieChart extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static Alignments fromValue(int value) {
-            for (Alignments c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Alignments::getValue, value);
         }
 
         private static native int getLEFTALIGNNative();
@@ -193,12 +179,7 @@ public abstract class PoPieChart extends PoChart {
          * @return the constant with the toolkit's value, or null
          */
         public static PercentStatus fromValue(int value) {
-            for (PercentStatus c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), PercentStatus::getValue, value);
         }
 
         private static native int getABSOLUTENative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** Base of the polar axes, whose values are distances from a centre. */
@@ -41,12 +42,7 @@ public abstract class PoPolarAxis extends PoAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static MultFactorPositions fromValue(int value) {
-            for (MultFactorPositions c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), MultFactorPositions::getValue, value);
         }
 
         private static native int getMULTFACTORSTARTNative();

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.graph;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -38,12 +39,7 @@ public class PoPolarLinAxis extends PoPolarAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static GradFits fromValue(int value) {
-            for (GradFits c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), GradFits::getValue, value);
         }
 
         private static native int getGRADFITNative();

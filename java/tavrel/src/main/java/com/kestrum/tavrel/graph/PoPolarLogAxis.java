@@ -2,6 +2,7 @@ package com.kestrum.tavrel.graph;
 
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /** A logarithmic polar axis from a centre (x0, y0) to a point (x1, y1). */
@@ -39,12 +40,7 @@ public class PoPolarLogAxis extends PoPolarAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static DecadeListDefs fromValue(int value) {
-            for (DecadeListDefs c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), DecadeListDefs::getValue, value);
         }
 
         private static native int getDECADELISTAUTONative();
@@ -83,12 +79,7 @@ public class PoPolarLogAxis extends PoPolarAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static TenPowGradReps fromValue(int value) {
-            for (TenPowGradReps c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), TenPowGradReps::getValue, value);
         }
 
         private static native int getTENPOWERPOW10Native();
@@ -133,12 +124,7 @@ public class PoPolarLogAxis extends PoPolarAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static DecadeReps fromValue(int value) {
-            for (DecadeReps c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), DecadeReps::getValue, value);
         }
 
         private static native int getDECADENONENative();

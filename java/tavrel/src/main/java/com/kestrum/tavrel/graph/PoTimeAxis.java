@@ -2,6 +2,7 @@ package com.kestrum.tavrel.graph;
 
 import static com.kestrum.tavrel.graph.Checks.notNull;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.JavaViews;
 
@@ -47,12 +48,7 @@ public class PoTimeAxis extends PoAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static Languages fromValue(int value) {
-            for (Languages c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Languages::getValue, value);
         }
 
         private static native int getENGLISHNative();
@@ -93,12 +89,7 @@ public class PoTimeAxis extends PoAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static GradFits fromValue(int value) {
-            for (GradFits c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), GradFits::getValue, value);
         }
 
         private static native int getGRADFITNative();
@@ -135,12 +126,7 @@ public class PoTimeAxis extends PoAxis {
          * @return the constant with the toolkit's value, or null
          */
         public static Types fromValue(int value) {
-            for (Types c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Types::getValue, value);
         }
 
         private static native int getXNative();

@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -57,12 +58,7 @@ public class PoBevelEdge extends SoNode {
          * @return the constant, or null for a value outside the enumeration
          */
         public static RadiusFlags fromValue(int value) {
-            for (RadiusFlags c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), RadiusFlags::getValue, value);
         }
 
         private static native int getABSOLUTERADIUSNative();

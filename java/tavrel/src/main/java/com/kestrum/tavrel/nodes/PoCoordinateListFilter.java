@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.nodes;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -54,12 +55,7 @@ public class PoCoordinateListFilter extends PoMesh1DFilter {
          * @return the constant, or null for a value outside the enumeration
          */
         public static AxisType fromValue(int value) {
-            for (AxisType c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), AxisType::getValue, value);
         }
 
         private static native int getXNative();

@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -59,12 +60,7 @@ public class PoLabelHints extends SoNode {
          * @return the constant, or null for a value outside the enumeration
          */
         public static LabelPaths fromValue(int value) {
-            for (LabelPaths c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), LabelPaths::getValue, value);
         }
 
         private static native int getPATHRIGHTNative();
@@ -111,12 +107,7 @@ public class PoLabelHints extends SoNode {
          * @return the constant, or null for a value outside the enumeration
          */
         public static Justifications fromValue(int value) {
-            for (Justifications c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Justifications::getValue, value);
         }
 
         private static native int getLEFTNative();

@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -65,12 +66,7 @@ public class PoMesh1DHints extends SoNode {
          * @return the constant, or null for a value outside the enumeration
          */
         public static GeomInterpretations fromValue(int value) {
-            for (GeomInterpretations c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), GeomInterpretations::getValue, value);
         }
 
         private static native int getASISNative();

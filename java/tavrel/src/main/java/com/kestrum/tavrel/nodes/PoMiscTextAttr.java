@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -54,12 +55,7 @@ public class PoMiscTextAttr extends SoNode {
          * @return the constant, or null for a value outside the enumeration
          */
         public static LineLengths fromValue(int value) {
-            for (LineLengths c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), LineLengths::getValue, value);
         }
 
         private static native int getLINELENGTHMAXNative();

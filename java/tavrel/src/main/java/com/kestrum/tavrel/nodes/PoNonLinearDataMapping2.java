@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.nodes;
 
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -56,12 +57,7 @@ public class PoNonLinearDataMapping2 extends PoDataMapping {
          * @return the constant, or null for a value outside the enumeration
          */
         public static Types fromValue(int value) {
-            for (Types c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), Types::getValue, value);
         }
 
         private static native int getNONLINEARPERLEVELNative();

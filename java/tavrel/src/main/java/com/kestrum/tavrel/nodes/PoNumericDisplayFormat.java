@@ -1,6 +1,7 @@
 package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.nodes.SoNode;
+import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -57,12 +58,7 @@ public class PoNumericDisplayFormat extends SoNode {
          * @return the constant, or null for a value outside the enumeration
          */
         public static FormatTypes fromValue(int value) {
-            for (FormatTypes c : values()) {
-                if (c.value == value) {
-                    return c;
-                }
-            }
-            return null;
+            return Enums.fromValue(values(), FormatTypes::getValue, value);
         }
 
         private static native int getAUTOFORMATNative();
