@@ -8,8 +8,8 @@ import java.util.Map;
  * {@code perf record -g java -XX:+UnlockDiagnosticVMOptions -XX:+DumpPerfMapAtExit ... ProfileLoop forwarded-call 20}.
  *
  * <p>Arguments: the path ({@code thin-getter}, {@code addVecsSet}, {@code forwarded-call},
- * {@code cell-filter}, {@code probe-event}; each with {@code -floor} for its floor, and the last
- * three with {@code -jni} for their JNI calls alone) and the seconds to run (10). Prints the time
+ * {@code cell-filter}, {@code probe-event}, {@code element-push}, {@code rebuild-event}; the first five
+ * with {@code -floor} for their floor, the last five with {@code -jni} for their JNI calls alone) and the seconds to run (10). Prints the time
  * per invocation of the path.
  */
 public final class ProfileLoop {
@@ -29,10 +29,13 @@ public final class ProfileLoop {
         ForwardedCallBenchmark forwarded = new ForwardedCallBenchmark();
         CellFilterBenchmark filter = new CellFilterBenchmark();
         ProbeEventBenchmark probe = new ProbeEventBenchmark();
+        ElementPushBenchmark push = new ElementPushBenchmark();
+        RebuildCallbackBenchmark rebuild = new RebuildCallbackBenchmark();
         Map<String, Runnable> setUps = Map.of("thin-getter", thin::setUp, "addVecsSet", () -> {
             vectors.size = 1_000_000;
             vectors.setUp();
-        }, "forwarded-call", forwarded::setUp, "cell-filter", filter::setUp, "probe-event", probe::setUp);
+        }, "forwarded-call", forwarded::setUp, "cell-filter", filter::setUp, "probe-event", probe::setUp,
+                "element-push", push::setUp, "rebuild-event", rebuild::setUp);
         Map<String, Runnable> paths = Map.ofEntries(Map.entry("thin-getter", thin::getNumNodes),
                 Map.entry("thin-getter-floor", thin::emptyGetterFloor), Map.entry("addVecsSet", vectors::addVecsSet),
                 Map.entry("addVecsSet-floor", vectors::vectorLoopFloor),
@@ -43,7 +46,10 @@ public final class ProfileLoop {
                 Map.entry("cell-filter-floor", filter::booleanUpcallFloor),
                 Map.entry("cell-filter-jni", filter::jniSequenceFloor), Map.entry("probe-event", probe::motionEvents),
                 Map.entry("probe-event-floor", probe::objectUpcallFloor),
-                Map.entry("probe-event-jni", probe::jniSequenceFloor));
+                Map.entry("probe-event-jni", probe::jniSequenceFloor),
+                Map.entry("element-push", push::renderSeparators), Map.entry("element-push-jni", push::jniSequenceFloor),
+                Map.entry("rebuild-event", rebuild::rebuildEvents),
+                Map.entry("rebuild-event-jni", rebuild::jniSequenceFloor));
         Runnable path = paths.get(args[0]);
         if (path == null) {
             throw new IllegalArgumentException("no path " + args[0] + "; paths: " + paths.keySet());
