@@ -170,3 +170,26 @@ TEST(PeerTable, ShortLivedReaderThreads) {
 }
 
 }  // namespace
+
+// getManagedObject matches a class name by its address only when the text
+// there can never change: a literal, not a buffer that a caller may reuse for
+// another name.
+#include "platform/corvel/src/ManagedObjectsClass.h"
+
+#include <cstring>
+#include <memory>
+
+namespace {
+char writableName[] = "com.kestrum.corvel.actions.SoGLRenderAction";
+
+TEST(ClassNameAddresses, OnlyLiteralsAreMatchedByAddress) {
+  EXPECT_TRUE(corvel::isPinnedLiteral("com.kestrum.corvel.actions.SoGLRenderAction"));
+  EXPECT_FALSE(corvel::isPinnedLiteral(writableName));
+  char onStack[64];
+  std::strcpy(onStack, writableName);
+  EXPECT_FALSE(corvel::isPinnedLiteral(onStack));
+  std::unique_ptr<char[]> onHeap(new char[64]);
+  std::strcpy(onHeap.get(), writableName);
+  EXPECT_FALSE(corvel::isPinnedLiteral(onHeap.get()));
+}
+}  // namespace

@@ -20,8 +20,10 @@
 // of each name is resolved by the Java side once (initialising it, as a first
 // use does) and kept as a global reference for the process's life. A
 // registered peer of that class is then found without calling Java (the
-// native side of the peer table, PeerTable.cpp); anything else takes one
-// static Java call with the class and the address.
+// native side of the peer table, PeerTable.cpp, read without a lock);
+// anything else takes one static Java call with the class and the address.
+// Neither the class nor the peer lookup compares text or takes a lock on the
+// way of a registered peer: the caller's literal is matched by its address.
 
 namespace {
 struct NamedClass {
@@ -71,9 +73,11 @@ int findSegment(dl_phdr_info* info, size_t, void* data) {
   return 0;
 }
 
+}  // namespace
+
 // Whether the text at the address can never change: it lies in a read-only
 // segment of the program or of a shared object, which is then pinned.
-bool isPinnedLiteral(const char* text) {
+bool corvel::isPinnedLiteral(const char* text) {
   Segment segment{text, false, std::string()};
   if (dl_iterate_phdr(findSegment, &segment) == 0 || !segment.readOnly) return false;
   if (segment.objectName.empty()) return true;  // the program itself
@@ -82,6 +86,8 @@ bool isPinnedLiteral(const char* text) {
   dlclose(handle);  // RTLD_NODELETE stays
   return true;
 }
+
+namespace {
 
 jclass findByAddress(const char* className) {
   const int n = numAddresses.load(std::memory_order_acquire);
@@ -100,7 +106,7 @@ jclass findNamed(const char* className) {
 // Under namedMutex: keeps the literal's address for the class.
 void rememberAddress(const char* className, jclass cls) {
   const int n = numAddresses.load(std::memory_order_relaxed);
-  if (n == kAddressCapacity || findByAddress(className) != nullptr || !isPinnedLiteral(className)) return;
+  if (n == kAddressCapacity || findByAddress(className) != nullptr || !corvel::isPinnedLiteral(className)) return;
   addresses[n].cls = cls;
   addresses[n].key.store(className, std::memory_order_relaxed);
   numAddresses.store(n + 1, std::memory_order_release);

@@ -17,14 +17,17 @@
 //    thread announces itself in a slot of its own (an epoch, 0 when outside),
 //    writers tag what they retire with the epoch they close, and free it, in
 //    a later write, once no reader announced an epoch at or before that tag.
-//    Readers are short (a probe and one use of the ref); writers free what is
-//    retired once some has gathered (kReclaimBatch), so retired refs go a few
-//    writes later.
+//    Readers are short (a probe and one use of the ref), so what a write takes
+//    out is freed by that write itself unless a reader is inside the table at
+//    that moment; then it goes with a later write.
 //  - The announcement must be visible to writers before the reader reads the
-//    table. Where the kernel offers process-wide barriers (membarrier), the
-//    reader's side is a plain store and the writer, when it frees, makes every
-//    thread of the process pass a full barrier; elsewhere the reader's store
-//    is itself a full barrier.
+//    table. Where the kernel offers process-wide barriers (membarrier, Linux
+//    4.14 and later, unless a sandbox forbids it), the reader's side is a
+//    plain store and a writer that is about to free something makes every
+//    running thread of the process pass a full barrier first (a fraction of a
+//    microsecond, paid by unregistrations and replacements only); elsewhere
+//    the reader's store is itself a full barrier (an atomic exchange). Either
+//    way readers on different threads write no shared memory.
 //
 // Ref is a pointer-like type whose null value means "none". A reader's use of
 // a ref happens inside find's protection, so a ref is never freed while it is
@@ -39,6 +42,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdlib>
 #include <cstdint>
 #include <mutex>
 #include <vector>
@@ -77,10 +81,10 @@ class PeerReaders {
   static void leave(Slot* slot) { slot->epoch.store(0, std::memory_order_release); }
 
   // A full barrier on this thread and, where readers only store, on every
-  // thread of the process.
+  // running thread of the process.
   static void heavyBarrier() {
     std::atomic_thread_fence(std::memory_order_seq_cst);
-    if (asymmetric()) syscall(__NR_membarrier, MEMBARRIER_CMD_PRIVATE_EXPEDITED, 0, 0);
+    if (asymmetric() && syscall(__NR_membarrier, MEMBARRIER_CMD_PRIVATE_EXPEDITED, 0, 0) != 0) std::abort();
   }
 
   static std::atomic<std::uint64_t>& epoch() { return globalEpoch; }
@@ -123,7 +127,8 @@ class PeerReaders {
     return found;
   }
 
-  // Whether the process could register for expedited process-wide barriers.
+  // Whether the process is registered for expedited process-wide barriers
+  // (decided once, before the first reader or writer).
   static bool asymmetric() {
     static const bool registered = syscall(__NR_membarrier, MEMBARRIER_CMD_REGISTER_PRIVATE_EXPEDITED, 0, 0) == 0;
     return registered;
@@ -182,7 +187,7 @@ class PeerTable {
       --a->live;
       retire(old);
     }
-    if (retiredRefs.size() + retiredArrays.size() >= reclaimAt) reclaim(freeRef);
+    reclaim(freeRef);
   }
 
   // Removes the key's ref (nothing when it has none); it is retired.
@@ -199,7 +204,7 @@ class PeerTable {
         retire(old);
       }
     }
-    if (retiredRefs.size() + retiredArrays.size() >= reclaimAt) reclaim(freeRef);
+    reclaim(freeRef);
   }
 
   // The number of keys with a ref, and of retired refs not yet freed (tests).
@@ -221,7 +226,6 @@ class PeerTable {
 
  private:
   static constexpr std::size_t kMinSlots = 64;
-  static constexpr std::size_t kReclaimBatch = 32;
 
   struct Slot {
     std::atomic<jlong> key{0};  // 0: empty (address 0 is never a key)
@@ -311,15 +315,12 @@ class PeerTable {
     for (Retired& r : retiredArrays)
       if (done(r)) delete r.array;
     retiredArrays.erase(std::remove_if(retiredArrays.begin(), retiredArrays.end(), done), retiredArrays.end());
-    // What a reader still held waits for the next batch.
-    reclaimAt = retiredRefs.size() + retiredArrays.size() + kReclaimBatch;
   }
 
   std::atomic<Array*> current;
   std::mutex writers;
   std::vector<Retired> retiredRefs;    // writers only
   std::vector<Retired> retiredArrays;  // writers only
-  std::size_t reclaimAt = kReclaimBatch;  // writers only
 };
 
 }  // namespace corvel
