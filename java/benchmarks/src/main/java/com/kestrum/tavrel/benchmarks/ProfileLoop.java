@@ -1,5 +1,7 @@
 package com.kestrum.tavrel.benchmarks;
 
+import java.lang.management.ManagementFactory;
+import java.lang.management.ThreadMXBean;
 import java.util.Map;
 
 /**
@@ -10,7 +12,8 @@ import java.util.Map;
  * <p>Arguments: the path ({@code thin-getter}, {@code addVecsSet}, {@code forwarded-call},
  * {@code cell-filter}, {@code probe-event}, {@code element-push}, {@code rebuild-event}; the first five
  * with {@code -floor} for their floor, the last five with {@code -jni} for their JNI calls alone) and the seconds to run (10). Prints the time
- * per invocation of the path.
+ * per invocation of the path, and the processor time of the thread per invocation (which a loaded
+ * machine disturbs less: time spent waiting for a processor does not count).
  */
 public final class ProfileLoop {
     private ProfileLoop() {}
@@ -55,6 +58,8 @@ public final class ProfileLoop {
             throw new IllegalArgumentException("no path " + args[0] + "; paths: " + paths.keySet());
         }
         setUps.get(args[0].replaceFirst("-(floor|jni)$", "")).run();
+        ThreadMXBean threads = ManagementFactory.getThreadMXBean();
+        long cpuStart = threads.getCurrentThreadCpuTime();
         long start = System.nanoTime();
         long end = start + (long) (1e9 * (args.length > 1 ? Double.parseDouble(args[1]) : 10));
         long rounds = 0;
@@ -64,6 +69,8 @@ public final class ProfileLoop {
             rounds++;
             now = System.nanoTime();
         }
-        System.out.printf("%s: %d invocations, %.1f ns each%n", args[0], rounds, (now - start) / (double) rounds);
+        long cpu = threads.getCurrentThreadCpuTime() - cpuStart;
+        System.out.printf("%s: %d invocations, %.1f ns each (%.1f ns of this thread's processor time)%n", args[0],
+                rounds, (now - start) / (double) rounds, cpu / (double) rounds);
     }
 }
