@@ -61,7 +61,6 @@ class PeerReaders {
 
   // The calling thread's slot (made or reused on its first read).
   static Slot* mine() {
-    static thread_local Slot* slot __attribute__((tls_model("initial-exec"))) = nullptr;
     if (slot == nullptr) slot = acquire();
     return slot;
   }
@@ -104,6 +103,9 @@ class PeerReaders {
     Slot* slot = nullptr;
     ~Release() {
       if (slot == nullptr) return;
+      // A read made later by this ending thread (from another thread-exit
+      // destructor) takes a slot afresh instead of sharing this one.
+      PeerReaders::slot = nullptr;
       slot->epoch.store(0, std::memory_order_release);
       slot->used.store(false, std::memory_order_release);
     }
@@ -134,6 +136,8 @@ class PeerReaders {
     return registered;
   }
 
+  // The calling thread's slot, once it has one.
+  static inline thread_local Slot* slot __attribute__((tls_model("initial-exec"))) = nullptr;
   static inline std::atomic<Slot*> head{nullptr};
   static inline std::atomic<std::uint64_t> globalEpoch{1};
 };
