@@ -193,3 +193,73 @@ TEST(ClassNameAddresses, OnlyLiteralsAreMatchedByAddress) {
   EXPECT_FALSE(corvel::isPinnedLiteral(onHeap.get()));
 }
 }  // namespace
+
+// The binding core's own table of weak references to Java peers, driven
+// through the natives that com.kestrum.corvel.misc.ManagedObjects calls, with
+// real Java objects: threads attached to the test's JVM register, replace and
+// unregister peers while others hand them to Java as local references. The
+// JVM checks every JNI call (-Xcheck:jni): a weak reference used after its
+// deletion is reported, and the runner fails on the report.
+#include <CorvelJNI/JNIEnvHelper.h>
+
+#include "JavaVM.h"
+
+extern "C" {
+JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_rememberPeerNative(JNIEnv*, jclass, jlong,
+                                                                                     jobject);
+JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_forgetPeerNative(JNIEnv*, jclass, jlong);
+}
+
+namespace {
+TEST(PeerTableJni, RegisteringAndLookingUpFromManyThreads) {
+  const int keys = 64;
+  const jlong base = 0x5eed000000;  // addresses no other test registers
+  jclass objectClass = nativetest::env()->FindClass("java/lang/Object");
+  jclass objects = static_cast<jclass>(nativetest::env()->NewGlobalRef(objectClass));
+  nativetest::env()->DeleteLocalRef(objectClass);
+  std::atomic<bool> stop{false};
+  std::atomic<long> found{0}, wrong{0};
+  std::vector<std::thread> threads;
+  for (int w = 0; w < 2; ++w) {
+    threads.emplace_back([&, w] {
+      JNIEnv* env = JNIEnvHelper::getEnv();
+      std::mt19937 random(7 + w);
+      for (int round = 0; round < 12000; ++round) {
+        jlong address = base + 8 * static_cast<jlong>(random() % keys);
+        if (random() % 3 == 0) {
+          Java_com_kestrum_corvel_misc_ManagedObjects_forgetPeerNative(env, nullptr, address);
+        } else {
+          jobject peer = env->AllocObject(objects);
+          Java_com_kestrum_corvel_misc_ManagedObjects_rememberPeerNative(env, nullptr, address, peer);
+          env->DeleteLocalRef(peer);  // held weakly: some are collected while registered
+        }
+      }
+    });
+  }
+  for (int r = 0; r < 2; ++r) {
+    threads.emplace_back([&, r] {
+      JNIEnv* env = JNIEnvHelper::getEnv();
+      std::mt19937 random(70 + r);
+      while (!stop.load(std::memory_order_relaxed)) {
+        jobject peer = corvel::registeredPeer(env, base + 8 * static_cast<jlong>(random() % keys));
+        if (peer == nullptr) continue;
+        if (!env->IsInstanceOf(peer, objects)) wrong.fetch_add(1);
+        found.fetch_add(1, std::memory_order_relaxed);
+        env->DeleteLocalRef(peer);
+      }
+    });
+  }
+  nativetest::collectGarbage();  // on this thread, whose environment it uses
+  threads[0].join();
+  threads[1].join();
+  stop = true;
+  for (std::size_t i = 2; i < threads.size(); ++i) threads[i].join();
+  EXPECT_EQ(0, wrong.load());
+  EXPECT_GT(found.load(), 0);
+  JNIEnv* env = nativetest::env();
+  for (int k = 0; k < keys; ++k)
+    Java_com_kestrum_corvel_misc_ManagedObjects_forgetPeerNative(env, nullptr, base + 8 * k);
+  for (int k = 0; k < keys; ++k) EXPECT_EQ(nullptr, corvel::registeredPeer(env, base + 8 * k));
+  env->DeleteGlobalRef(objects);
+}
+}  // namespace
