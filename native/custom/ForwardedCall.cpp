@@ -16,38 +16,6 @@ static SoModuleCheck soVersionDeprecatedErrorCheck(0);
 namespace tavrel {
 namespace custom {
 
-ForwardedCall::ForwardedCall(const ICustomClass& object, const char* className, const char* operation,
-                             jmethodID handleMethod)
-    : env(JNIEnvHelper::getEnv()), className(className), operation(operation), handleMethod(handleMethod) {
-  // Skipped while an exception is pending: NewLocalRef and every call into
-  // Java are forbidden then, and the first exception must reach Java as it is.
-  if (env == nullptr || env->ExceptionCheck()) return;
-  jobject stored = javaPeerOf(object);
-  if (stored == nullptr) return;
-  // The reference to the peer is weak: a local reference keeps the peer alive
-  // for the call, and is null once the peer has been collected.
-  peer = env->NewLocalRef(stored);
-}
-
-ForwardedCall::~ForwardedCall() {
-  // DeleteLocalRef is allowed while an exception is pending.
-  for (int i = 0; i < numLocals; ++i) env->DeleteLocalRef(locals[i]);
-  if (peer != nullptr) env->DeleteLocalRef(peer);
-}
-
-jobject ForwardedCall::keep(jobject local) {
-  if (local != nullptr) locals[numLocals++] = local;
-  return local;
-}
-
-jobject ForwardedCall::object(const char* dottedClassName, const void* address) {
-  if (peer == nullptr) return nullptr;
-  jobject converted = ObjectHelper::getManagedObject(env, dottedClassName,
-                                                     static_cast<long>(reinterpret_cast<std::intptr_t>(address)));
-  if (converted == nullptr && address != nullptr) conversionFailed = true;
-  return keep(converted);
-}
-
 jstring ForwardedCall::string(const SbName& name) {
   if (peer == nullptr) return nullptr;
   jstring converted = StringHelper::fromNativeString(env, name);
@@ -55,21 +23,10 @@ jstring ForwardedCall::string(const SbName& name) {
   return static_cast<jstring>(keep(converted));
 }
 
-bool ForwardedCall::argumentsReady() {
-  if (peer == nullptr) return false;
-  // A conversion that gave null may have raised an exception in Java (no
-  // wrapper class, for instance): it is reported like one of the Java method
-  // itself, which is then not called. Without one, null is passed.
-  return !(conversionFailed && reportException());
-}
-
-bool ForwardedCall::reportException() {
-  jthrowable thrown = env->ExceptionOccurred();
-  if (thrown == nullptr) return false;
+void ForwardedCall::report(jthrowable thrown) {
   std::string message = std::string("Exception raised during execution of ") + className + '.' + operation + '.';
   ExceptionHelper::throwIllegalArgException(env, message.c_str(), thrown);
   env->DeleteLocalRef(thrown);
-  return true;
 }
 
 // No exception check follows "getNativeResourceHandleInternal" (a final getter

@@ -33,10 +33,14 @@
 
 #include <Corvel/SbBase.h>
 #include <Corvel/SbName.h>
+#include <CorvelJNI/ICustomClass.h>
+#include <CorvelJNI/JNIEnvHelper.h>
+#include <CorvelJNI/ObjectHelper.h>
 
+#include <cstdint>
 #include <string>
 
-class ICustomClass;
+#include "common/JavaPeer.h"
 
 namespace tavrel {
 namespace custom {
@@ -46,14 +50,37 @@ class ForwardedCall {
   // className and operation make the exception message; handleMethod is the
   // peer class's "getNativeResourceHandleInternal" method, used to read the
   // native handle of an object result.
-  ForwardedCall(const ICustomClass& object, const char* className, const char* operation, jmethodID handleMethod);
-  ~ForwardedCall();
+  // Inline, with the rest of each row's plain path: a traversal forwards one
+  // call per node, so the calls around the JNI functions are kept few.
+  ForwardedCall(const ICustomClass& object, const char* className, const char* operation, jmethodID handleMethod)
+      : env(JNIEnvHelper::getEnv()), className(className), operation(operation), handleMethod(handleMethod) {
+    // Skipped while an exception is pending: NewLocalRef and every call into
+    // Java are forbidden then, and the first exception must reach Java as it is.
+    if (env == nullptr || env->ExceptionCheck()) return;
+    jobject stored = javaPeerOf(object);
+    if (stored == nullptr) return;
+    // The reference to the peer is weak: a local reference keeps the peer
+    // alive for the call, and is null once the peer has been collected.
+    peer = env->NewLocalRef(stored);
+  }
+
+  ~ForwardedCall() {
+    // DeleteLocalRef is allowed while an exception is pending.
+    for (int i = 0; i < numLocals; ++i) env->DeleteLocalRef(locals[i]);
+    if (peer != nullptr) env->DeleteLocalRef(peer);
+  }
   ForwardedCall(const ForwardedCall&) = delete;
   ForwardedCall& operator=(const ForwardedCall&) = delete;
 
   // Argument conversions (null while the call is skipped).
   // The Java object for the toolkit object at address, as the dotted class.
-  jobject object(const char* dottedClassName, const void* address);
+  jobject object(const char* dottedClassName, const void* address) {
+    if (peer == nullptr) return nullptr;
+    jobject converted = ObjectHelper::getManagedObject(
+        env, dottedClassName, static_cast<long>(reinterpret_cast<std::intptr_t>(address)));
+    if (converted == nullptr && address != nullptr) conversionFailed = true;
+    return keep(converted);
+  }
   jstring string(const SbName& name);
 
   // The JNI call of each row kind, with the row's result handling.
@@ -101,10 +128,26 @@ class ForwardedCall {
   bool callEnum(jmethodID method, int& value);
 
  private:
-  bool argumentsReady();
-  bool reportException();
+  bool argumentsReady() {
+    if (peer == nullptr) return false;
+    // A conversion that gave null may have raised an exception in Java (no
+    // wrapper class, for instance): it is reported like one of the Java
+    // method itself, which is then not called. Without one, null is passed.
+    return !(conversionFailed && reportException());
+  }
+  bool reportException() {
+    jthrowable thrown = env->ExceptionOccurred();
+    if (thrown == nullptr) return false;
+    report(thrown);
+    return true;
+  }
+  // Raises the wrapping exception for thrown (and deletes its reference).
+  void report(jthrowable thrown);
   void* handleOf(jobject result);
-  jobject keep(jobject local);
+  jobject keep(jobject local) {
+    if (local != nullptr) locals[numLocals++] = local;
+    return local;
+  }
   // After a Java call that returned an object: -Xcheck:jni wants an exception
   // check before the next JNI call that may call Java. Nothing can be pending
   // (the method returned normally), so nothing else is done.

@@ -7,6 +7,7 @@
 #include <jni.h>
 
 #include <Tavrel/PbMesh.h>
+#include <Tavrel/PoBase.h>
 #include <Tavrel/PoMeshProbePoint.h>
 
 #include "common/Handles.h"
@@ -164,6 +165,87 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_raiseMotions(JN
   PoMeshProbePoint* node = tavrel::fromHandle<PoMeshProbePoint>(probe);
   const PbCell* at = tavrel::fromHandle<const PbCell>(cell);
   for (jint i = 0; i < times; ++i) node->raiseEvent(PoMeshProbePoint::MOTION, at);
+}
+
+// The JNI calls of a Java element's push and pop, as a traversal forwards them
+// when a separator opens and closes (README.md, "JNI call sequences"), around
+// the same upcalls, with none of the lookups: per pair, for push the
+// environment, the pending-exception check, local references to the globally
+// held peer and to the weakly held state (a registered peer) with its class
+// check, the upcall passing the state, the exception check and the two
+// deletions; for pop the same with the weakly held previous element as a
+// second argument (its local reference, its class check, its deletion).
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_elementSequences(
+    JNIEnv* env, jclass, jobject sink, jobject state, jclass stateClass, jobject element, jclass elementClass,
+    jint times) {
+  jclass sinkClass = env->GetObjectClass(sink);
+  jmethodID popTarget = env->GetMethodID(sinkClass, "accept", "(Ljava/lang/Object;Ljava/lang/Object;)V");
+  env->DeleteLocalRef(sinkClass);
+  JavaVM* vm = nullptr;
+  env->GetJavaVM(&vm);
+  jobject peerRef = env->NewGlobalRef(sink);
+  jweak stateRef = env->NewWeakGlobalRef(state);
+  jweak elementRef = env->NewWeakGlobalRef(element);
+  for (jint i = 0; i < times; ++i) {
+    JNIEnv* e = nullptr;
+    vm->GetEnv(reinterpret_cast<void**>(&e), JNI_VERSION_1_8);
+    if (e->ExceptionCheck()) break;
+    jobject peer = e->NewLocalRef(peerRef);
+    jobject s = e->NewLocalRef(stateRef);
+    if (e->IsInstanceOf(s, stateClass)) e->CallVoidMethod(peer, objectTarget, s);
+    jthrowable thrown = e->ExceptionOccurred();
+    e->DeleteLocalRef(s);
+    e->DeleteLocalRef(peer);
+    if (thrown != nullptr) break;
+
+    vm->GetEnv(reinterpret_cast<void**>(&e), JNI_VERSION_1_8);
+    if (e->ExceptionCheck()) break;
+    peer = e->NewLocalRef(peerRef);
+    s = e->NewLocalRef(stateRef);
+    bool ready = e->IsInstanceOf(s, stateClass);
+    jobject previous = e->NewLocalRef(elementRef);
+    ready = e->IsInstanceOf(previous, elementClass) && ready;
+    if (ready) e->CallVoidMethod(peer, popTarget, s, previous);
+    thrown = e->ExceptionOccurred();
+    e->DeleteLocalRef(s);
+    e->DeleteLocalRef(previous);
+    e->DeleteLocalRef(peer);
+    if (thrown != nullptr) break;
+  }
+  env->DeleteWeakGlobalRef(elementRef);
+  env->DeleteWeakGlobalRef(stateRef);
+  env->DeleteGlobalRef(peerRef);
+}
+
+// The JNI calls of a rebuild bridge's event: as bridgeSequences, with the
+// rebuild bridge's method "(J)V" and the node's handle.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_rebuildBridgeSequences(JNIEnv* env, jclass,
+                                                                                       jobject sink, jlong node,
+                                                                                       jint times) {
+  JavaVM* vm = nullptr;
+  env->GetJavaVM(&vm);
+  jweak stored = env->NewWeakGlobalRef(sink);
+  for (jint i = 0; i < times; ++i) {
+    JNIEnv* e = nullptr;
+    vm->GetEnv(reinterpret_cast<void**>(&e), JNI_VERSION_1_8);
+    if (e->ExceptionCheck()) break;
+    jobject live = e->NewLocalRef(stored);
+    jclass cls = e->GetObjectClass(stored);
+    jmethodID method = e->GetMethodID(cls, "invokeNativ", "(J)V");
+    if (method != nullptr) e->CallVoidMethod(stored, method, node);
+    e->DeleteLocalRef(cls);
+    e->DeleteLocalRef(live);
+  }
+  env->DeleteWeakGlobalRef(stored);
+}
+
+// times pre-rebuild events of the graph node, as its rebuild raises them (each
+// callback added, in order), without the build.
+JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_raiseRebuilds(JNIEnv*, jclass, jlong node,
+                                                                              jint times) {
+  PoBase* graphNode = tavrel::fromHandle<PoBase>(node);
+  for (jint i = 0; i < times; ++i)
+    for (const PoBase::Callback& c : graphNode->preRebuildCallbacks()) c.function(c.userData, graphNode);
 }
 
 }  // extern "C"

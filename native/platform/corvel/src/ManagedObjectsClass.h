@@ -16,4 +16,8 @@ ManagedObjectsClass& managedObjectsClass(JNIEnv* env);
 // there is none or it has been collected (PeerTable.cpp).
 jobject registeredPeer(JNIEnv* env, jlong address);
 void rememberJavaVM(JavaVM* vm);
+// Whether the text at the address can never change (a literal in a read-only
+// segment of the program or of a shared object, which this pins so that it is
+// never unloaded): getManagedObject then matches that class name by address.
+bool isPinnedLiteral(const char* text);
 }  // namespace corvel

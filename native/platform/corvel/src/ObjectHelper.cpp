@@ -1,6 +1,9 @@
 #include <CorvelJNI/JNIEnvHelper.h>
 #include <CorvelJNI/ObjectHelper.h>
 
+#include <dlfcn.h>
+#include <link.h>
+
 #include <atomic>
 #include <cstdint>
 #include <cstring>
@@ -17,12 +20,13 @@
 // of each name is resolved by the Java side once (initialising it, as a first
 // use does) and kept as a global reference for the process's life. A
 // registered peer of that class is then found without calling Java (the
-// native side of the peer table, PeerTable.cpp); anything else takes one
-// static Java call with the class and the address.
+// native side of the peer table, PeerTable.cpp, read without a lock);
+// anything else takes one static Java call with the class and the address.
+// Neither the class nor the peer lookup compares text or takes a lock on the
+// way of a registered peer: the caller's literal is matched by its address.
 
 namespace {
 struct NamedClass {
-  const char* key = nullptr;  // the caller's pointer, for the quick match
   std::string name;
   jclass cls = nullptr;
 };
@@ -35,13 +39,88 @@ NamedClass named[kNamedCapacity];
 std::atomic<int> numNamed{0};
 std::mutex namedMutex;
 
+// The callers name their classes with string literals. A literal lies in a
+// read-only segment of a loaded object; once that object is pinned (never
+// unloaded), its address stands for its text for the rest of the process. So
+// each such address is kept with its class and matched by address alone, with
+// no comparison of text; other names are compared by text.
+struct KnownAddress {
+  std::atomic<const char*> key{nullptr};
+  jclass cls = nullptr;  // written before key is published
+};
+constexpr int kAddressCapacity = 64;
+KnownAddress addresses[kAddressCapacity];
+std::atomic<int> numAddresses{0};
+
+struct Segment {
+  const void* address;
+  bool readOnly = false;
+  std::string objectName;
+};
+
+int findSegment(dl_phdr_info* info, size_t, void* data) {
+  auto* wanted = static_cast<Segment*>(data);
+  const auto at = reinterpret_cast<ElfW(Addr)>(wanted->address);
+  for (int i = 0; i < info->dlpi_phnum; ++i) {
+    const ElfW(Phdr)& ph = info->dlpi_phdr[i];
+    if (ph.p_type != PT_LOAD) continue;
+    const ElfW(Addr) start = info->dlpi_addr + ph.p_vaddr;
+    if (at < start || at >= start + ph.p_memsz) continue;
+    wanted->readOnly = (ph.p_flags & PF_W) == 0;
+    wanted->objectName = info->dlpi_name != nullptr ? info->dlpi_name : "";
+    return 1;
+  }
+  return 0;
+}
+
+}  // namespace
+
+// Whether the text at the address can never change: it lies in a read-only
+// segment of the program or of a shared object, which is then pinned.
+bool corvel::isPinnedLiteral(const char* text) {
+  Segment segment{text, false, std::string()};
+  if (dl_iterate_phdr(findSegment, &segment) == 0 || !segment.readOnly) return false;
+  if (segment.objectName.empty()) return true;  // the program itself
+  void* handle = dlopen(segment.objectName.c_str(), RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+  if (handle == nullptr) return false;
+  dlclose(handle);  // RTLD_NODELETE stays
+  return true;
+}
+
+namespace {
+
+jclass findByAddress(const char* className) {
+  const int n = numAddresses.load(std::memory_order_acquire);
+  for (int i = 0; i < n; ++i)
+    if (addresses[i].key.load(std::memory_order_relaxed) == className) return addresses[i].cls;
+  return nullptr;
+}
+
 jclass findNamed(const char* className) {
   const int n = numNamed.load(std::memory_order_acquire);
   for (int i = 0; i < n; ++i)
-    if (named[i].key == className && std::strcmp(named[i].name.c_str(), className) == 0) return named[i].cls;
-  for (int i = 0; i < n; ++i)
     if (std::strcmp(named[i].name.c_str(), className) == 0) return named[i].cls;
   return nullptr;
+}
+
+// Under namedMutex: keeps the literal's address for the class.
+void rememberAddress(const char* className, jclass cls) {
+  const int n = numAddresses.load(std::memory_order_relaxed);
+  if (n == kAddressCapacity || findByAddress(className) != nullptr || !corvel::isPinnedLiteral(className)) return;
+  addresses[n].cls = cls;
+  addresses[n].key.store(className, std::memory_order_relaxed);
+  numAddresses.store(n + 1, std::memory_order_release);
+}
+
+// The class kept for the name, found by text; its address is remembered
+// when it is a literal.
+jclass findKept(const char* className) {
+  jclass cls = findNamed(className);
+  if (cls != nullptr) {
+    std::lock_guard<std::mutex> lock(namedMutex);
+    rememberAddress(className, cls);
+  }
+  return cls;
 }
 
 // Resolves the class through the Java side. Returns null with the exception
@@ -56,6 +135,7 @@ jclass resolveNamed(JNIEnv* env, const corvel::ManagedObjectsClass& mo, const ch
   std::lock_guard<std::mutex> lock(namedMutex);
   if (jclass known = findNamed(className)) {
     env->DeleteLocalRef(local);
+    rememberAddress(className, known);
     return known;
   }
   const int n = numNamed.load(std::memory_order_relaxed);
@@ -63,11 +143,11 @@ jclass resolveNamed(JNIEnv* env, const corvel::ManagedObjectsClass& mo, const ch
     isLocal = true;
     return static_cast<jclass>(local);
   }
-  named[n].key = className;
   named[n].name = className;
   named[n].cls = static_cast<jclass>(env->NewGlobalRef(local));
   env->DeleteLocalRef(local);
   numNamed.store(n + 1, std::memory_order_release);
+  rememberAddress(className, named[n].cls);
   return named[n].cls;
 }
 }  // namespace
@@ -75,7 +155,8 @@ jclass resolveNamed(JNIEnv* env, const corvel::ManagedObjectsClass& mo, const ch
 jobject ObjectHelper::getManagedObject(JNIEnv* env, const char* className, long address) {
   if (address == 0) return nullptr;
   bool isLocal = false;
-  jclass wanted = findNamed(className);
+  jclass wanted = findByAddress(className);
+  if (wanted == nullptr) wanted = findKept(className);
   if (wanted == nullptr) wanted = resolveNamed(env, corvel::managedObjectsClass(env), className, isLocal);
   if (wanted == nullptr) return nullptr;  // the exception stays pending for the caller
   if (jobject peer = corvel::registeredPeer(env, static_cast<jlong>(address))) {

@@ -5,30 +5,32 @@
 // a registered peer to Java (an action, a Java node, a mesh) needs no call into
 // Java.
 //
-// Readers make their local reference under the lock, and a replaced or
-// forgotten weak reference is deleted only once it has left the table, so no
-// reader ever uses a deleted reference.
+// Lookups run on every forwarded call of a traversal, on any thread, so they
+// take no lock (PeerTable.h): a reader makes its local reference inside the
+// table's protection, and a replaced or forgotten weak reference is deleted
+// only once no reader can still be using it.
+
+#include "PeerTable.h"
 
 #include <jni.h>
-
-#include <mutex>
-#include <unordered_map>
 
 #include "ManagedObjectsClass.h"
 
 namespace {
-std::mutex peersMutex;
-std::unordered_map<jlong, jweak>& peers() {
-  static auto* table = new std::unordered_map<jlong, jweak>();  // never destroyed: used until the process ends
+corvel::PeerTable<jweak>& peers() {
+  static auto* table = new corvel::PeerTable<jweak>();  // never destroyed: used until the process ends
   return *table;
 }
+
+struct DeleteWeak {
+  JNIEnv* env;
+  void operator()(jweak ref) const { env->DeleteWeakGlobalRef(ref); }
+};
 }  // namespace
 
 namespace corvel {
 jobject registeredPeer(JNIEnv* env, jlong address) {
-  std::lock_guard<std::mutex> lock(peersMutex);
-  auto found = peers().find(address);
-  return found == peers().end() ? nullptr : env->NewLocalRef(found->second);
+  return peers().find(address, [env](jweak ref) { return ref == nullptr ? nullptr : env->NewLocalRef(ref); });
 }
 }  // namespace corvel
 
@@ -36,28 +38,12 @@ extern "C" {
 
 JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_rememberPeerNative(JNIEnv* env, jclass,
                                                                                      jlong address, jobject peer) {
-  jweak added = env->NewWeakGlobalRef(peer);
-  jweak replaced = nullptr;
-  {
-    std::lock_guard<std::mutex> lock(peersMutex);
-    jweak& slot = peers()[address];
-    replaced = slot;
-    slot = added;
-  }
-  if (replaced != nullptr) env->DeleteWeakGlobalRef(replaced);
+  peers().put(address, env->NewWeakGlobalRef(peer), DeleteWeak{env});
 }
 
 JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_forgetPeerNative(JNIEnv* env, jclass,
                                                                                    jlong address) {
-  jweak removed = nullptr;
-  {
-    std::lock_guard<std::mutex> lock(peersMutex);
-    auto found = peers().find(address);
-    if (found == peers().end()) return;
-    removed = found->second;
-    peers().erase(found);
-  }
-  env->DeleteWeakGlobalRef(removed);
+  peers().remove(address, DeleteWeak{env});
 }
 
 }  // extern "C"

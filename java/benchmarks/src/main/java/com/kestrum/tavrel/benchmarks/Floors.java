@@ -64,6 +64,25 @@ public final class Floors {
         public void invokeNativ(long probe, long cell) {
             calls++;
         }
+
+        /**
+         * Called from native code: the shape of an element's pop.
+         *
+         * @param state the first argument
+         * @param element the second argument
+         */
+        public void accept(Object state, Object element) {
+            calls++;
+        }
+
+        /**
+         * Called from native code, as a rebuild bridge calls its Java callback object.
+         *
+         * @param node a native handle
+         */
+        public void invokeNativ(long node) {
+            calls++;
+        }
     }
 
     /** The target of the boolean upcalls: counts them and accepts values in [0, 1). */
@@ -111,4 +130,21 @@ public final class Floors {
 
     /** Raises {@code times} motion events of the probe, with the cell (0 for none). */
     static native void raiseMotions(long probe, long cell, int times);
+
+    /**
+     * {@code times} pairs of upcalls, {@code sink.accept(state)} and {@code sink.accept(state, element)},
+     * with the JNI calls of a Java element's forwarded push and pop around them (peer held globally,
+     * state and element weakly, their classes checked).
+     */
+    static native void elementSequences(ObjectSink sink, Object state, Class<?> stateClass, Object element,
+            Class<?> elementClass, int times);
+
+    /**
+     * {@code times} upcalls of {@code sink.invokeNativ(node)} with the JNI calls of a rebuild bridge's
+     * event (the method looked up by name each time).
+     */
+    static native void rebuildBridgeSequences(ObjectSink sink, long node, int times);
+
+    /** Raises {@code times} times the pre-rebuild callbacks of the graph node, without rebuilding it. */
+    static native void raiseRebuilds(long node, int times);
 }

@@ -42,6 +42,8 @@ public final class RunBenchmarks {
             ForwardedCallBenchmark.class.getName(),
             CellFilterBenchmark.class.getName(),
             ProbeEventBenchmark.class.getName(),
+            ElementPushBenchmark.class.getName(),
+            RebuildCallbackBenchmark.class.getName(),
             "com.kestrum.tavrel.benchmarks.PanamaBenchmark");
 
     /**
