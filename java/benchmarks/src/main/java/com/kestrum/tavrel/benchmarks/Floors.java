@@ -111,4 +111,13 @@ public final class Floors {
 
     /** Raises {@code times} motion events of the probe, with the cell (0 for none). */
     static native void raiseMotions(long probe, long cell, int times);
+
+    /** The per-vector JNI calls of the vector-object conversion, k components a vector; their sum. */
+    static native float vectorComponents(Object[] vectors, int k);
+
+    /** A {@code float[]} read in: its elements and their release without copy back; element 0. */
+    static native float floatArray(float[] values);
+
+    /** A {@code String[]} read in as UTF-8, string by string; the bytes read. */
+    static native long stringArray(String[] strings);
 }
