@@ -114,15 +114,33 @@ class SoGLRenderAction : public SoAction {
     enum Anchor { MIDDLE, START, END } anchor = MIDDLE;
     enum Baseline { BASELINE, CENTRAL, HANGING } baseline = BASELINE;
   };
-  TAVREL_STANDIN_ONLY void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
+  // Adds a primitive to the picture. The primitives of the previous apply
+  // are kept as spares, and a copied primitive is assigned into one, so that
+  // a picture drawn again reuses their memory: a large drawing copied into
+  // fresh memory at every apply would pay the kernel's page faults for it
+  // each time (above the C library's mapping threshold), a cost per point
+  // that grew with the picture.
+  TAVREL_STANDIN_ONLY void addPrimitive(const Primitive& primitive) {
+    if (primitives.size() < spares.size()) {
+      primitives.push_back(std::move(spares[primitives.size()]));
+      primitives.back() = primitive;
+    } else {
+      primitives.push_back(primitive);
+    }
+  }
+  TAVREL_STANDIN_ONLY void addPrimitive(Primitive&& primitive) { primitives.push_back(std::move(primitive)); }
   TAVREL_STANDIN_ONLY const std::vector<Primitive>& getPrimitives() const { return primitives; }
   TAVREL_STANDIN_ONLY std::string toSvg() const;
 
  protected:
-  TAVREL_STANDIN_ONLY void beginApply() override { primitives.clear(); }
+  TAVREL_STANDIN_ONLY void beginApply() override {
+    spares.swap(primitives);
+    primitives.clear();
+  }
 
  private:
   std::vector<Primitive> primitives;
+  std::vector<Primitive> spares;  // the previous apply's, reused by addPrimitive
 };
 class SoCallbackAction : public SoAction { SO_ACTION_HEADER(SoCallbackAction) };
 class SoGetBoundingBoxAction : public SoAction {

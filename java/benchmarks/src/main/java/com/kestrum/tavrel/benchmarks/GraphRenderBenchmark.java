@@ -1,11 +1,8 @@
 package com.kestrum.tavrel.benchmarks;
 
-import com.kestrum.corvel.SbVec2f;
 import com.kestrum.corvel.actions.SoGLRenderAction;
 import com.kestrum.corvel.nodes.SoNode;
 import com.kestrum.tavrel.graph.PoCurve;
-import com.kestrum.tavrel.graph.PoHistogram;
-import com.kestrum.tavrel.graph.PoMultipleHistogram;
 import com.kestrum.tavrel.graph.PoValuedMarkerField;
 import java.util.concurrent.TimeUnit;
 import org.openjdk.jmh.annotations.Benchmark;
@@ -19,10 +16,11 @@ import org.openjdk.jmh.annotations.State;
 import org.openjdk.jmh.annotations.TearDown;
 
 /**
- * The nodes of {@link GraphBuildBenchmark}, built once from {@code size} elements, rendered into
+ * The curve and the marker field of {@link GraphBuildBenchmark}, built once from {@code size} elements, rendered into
  * the picture of a render action (each {@code apply} starts a new picture). The report divides by
  * {@code size}: time per element drawn, which should not grow with the size. The pie chart's
- * render is in {@link PieChartBenchmark}.
+ * render is in {@link PieChartBenchmark}, the multiple histogram's in
+ * {@link HistogramRenderBenchmark}.
  */
 @State(Scope.Thread)
 @BenchmarkMode(Mode.AverageTime)
@@ -35,7 +33,6 @@ public class GraphRenderBenchmark {
     private SoGLRenderAction render;
     private SoNode curve;
     private SoNode markers;
-    private SoNode histogram;
 
     /** Builds the nodes and the action. */
     @Setup
@@ -45,9 +42,6 @@ public class GraphRenderBenchmark {
         arrays.setUp();
         curve = new PoCurve(size, arrays.points, PoCurve.CurveReps.CURVEPOLYLINE);
         markers = new PoValuedMarkerField(size, arrays.points, arrays.values1, arrays.values2);
-        histogram = new PoMultipleHistogram(new SbVec2f(0, 0), 6, PoHistogram.Types.X,
-                GraphBuildBenchmark.HISTOGRAMS, size / GraphBuildBenchmark.HISTOGRAMS, arrays.values1,
-                arrays.histogramNames, arrays.valueNames);
         arrays.tearDown();
         render = new SoGLRenderAction();
     }
@@ -58,7 +52,6 @@ public class GraphRenderBenchmark {
         render.dispose();
         curve.dispose();
         markers.dispose();
-        histogram.dispose();
     }
 
     /** The curve, a polyline through every point. */
@@ -72,13 +65,6 @@ public class GraphRenderBenchmark {
     @Benchmark
     public SoGLRenderAction renderMarkerField() {
         render.apply(markers);
-        return render;
-    }
-
-    /** The multiple histogram, a bar with its name and value a value. */
-    @Benchmark
-    public SoGLRenderAction renderMultipleHistogram() {
-        render.apply(histogram);
         return render;
     }
 }

@@ -9,8 +9,11 @@ import java.util.Map;
  *
  * <p>Arguments: the path ({@code thin-getter}, {@code addVecsSet}, {@code forwarded-call},
  * {@code cell-filter}, {@code probe-event}; each with {@code -floor} for its floor, and the last
- * three with {@code -jni} for their JNI calls alone) and the seconds to run (10). Prints the time
- * per invocation of the path.
+ * three with {@code -jni} for their JNI calls alone; or a bulk path, {@code build-curve},
+ * {@code build-curve-floats}, {@code build-markers}, {@code build-histogram}, {@code build-isovalues},
+ * {@code render-curve}, {@code render-markers}, {@code render-histogram}, {@code mesh-java-filter},
+ * {@code mesh-interval-filter}, of {@code -Dprofile.size} elements, 10^7 by default) and the seconds
+ * to run (10). Prints the time per invocation of the path.
  */
 public final class ProfileLoop {
     private ProfileLoop() {}
@@ -29,6 +32,34 @@ public final class ProfileLoop {
         ForwardedCallBenchmark forwarded = new ForwardedCallBenchmark();
         CellFilterBenchmark filter = new CellFilterBenchmark();
         ProbeEventBenchmark probe = new ProbeEventBenchmark();
+        int bulkSize = Integer.getInteger("profile.size", 10_000_000);
+        GraphBuildBenchmark build = new GraphBuildBenchmark();
+        build.size = bulkSize;
+        GraphRenderBenchmark render = new GraphRenderBenchmark();
+        render.size = bulkSize;
+        HistogramRenderBenchmark histogramRender = new HistogramRenderBenchmark();
+        histogramRender.size = bulkSize;
+        MeshFilterBenchmark meshes = new MeshFilterBenchmark();
+        meshes.size = bulkSize;
+        Map<String, Runnable> bulkPaths = Map.of("build-curve", build::curveFromVectors, "build-curve-floats",
+                build::curveFromFloats, "build-markers", build::markerField, "build-histogram", build::multipleHistogram,
+                "build-isovalues", build::isovalueList, "render-curve", render::renderCurve, "render-markers",
+                render::renderMarkerField, "render-histogram", histogramRender::renderMultipleHistogram, "mesh-java-filter",
+                meshes::javaFilter, "mesh-interval-filter", meshes::intervalFilter);
+        Runnable bulk = bulkPaths.get(args[0]);
+        if (bulk != null) {
+            if (args[0].startsWith("build")) {
+                build.setUp();
+            } else if (args[0].equals("render-histogram")) {
+                histogramRender.setUp();
+            } else if (args[0].startsWith("render")) {
+                render.setUp();
+            } else {
+                meshes.setUp();
+            }
+            loop(args, bulk);
+            return;
+        }
         Map<String, Runnable> setUps = Map.of("thin-getter", thin::setUp, "addVecsSet", () -> {
             vectors.size = 1_000_000;
             vectors.setUp();
@@ -49,6 +80,10 @@ public final class ProfileLoop {
             throw new IllegalArgumentException("no path " + args[0] + "; paths: " + paths.keySet());
         }
         setUps.get(args[0].replaceFirst("-(floor|jni)$", "")).run();
+        loop(args, path);
+    }
+
+    private static void loop(String[] args, Runnable path) {
         long start = System.nanoTime();
         long end = start + (long) (1e9 * (args.length > 1 ? Double.parseDouble(args[1]) : 10));
         long rounds = 0;

@@ -60,6 +60,7 @@ public final class RunBenchmarks {
             GraphBuildBenchmark.class.getName(),
             PieChartBenchmark.class.getName(),
             GraphRenderBenchmark.class.getName(),
+            HistogramRenderBenchmark.class.getName(),
             MeshFilterBenchmark.class.getName(),
             AttributeBenchmark.class.getName());
 
