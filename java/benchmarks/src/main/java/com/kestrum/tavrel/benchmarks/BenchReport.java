@@ -102,38 +102,43 @@ public final class BenchReport {
         final double goal = 1.20;  // of a bulk conversion path against its floor
         final String[] sizes = {"1000", "100000", "10000000"};
         List<Ratio> list = new ArrayList<>();
-        String[][] builds = {{"curveFromVectors", "curve from `SbVec2f[]`", "curveFloor"},
-            {"curveFromFloats", "curve from `float[]` x, y pairs", "curveFloor"},
-            {"markerField", "valued marker field (points, 2 value lists)", "markerFieldFloor"},
-            {"multipleHistogram", "multiple histogram (10 histograms; values, names)", "multipleHistogramFloor"},
-            {"isovalueList", "irregular isovalue list", "isovalueListFloor"}};
+        String[][] builds = {{"curveFromVectors", "curve from `SbVec2f[]`", "curveFloor", "curve"},
+            {"curveFromFloats", "curve from `float[]` x, y pairs", "curveFloor", "curve-xy"},
+            {"markerField", "valued marker field (points, 2 value lists)", "markerFieldFloor", "markers"},
+            {"multipleHistogram", "multiple histogram (10 histograms; values, names)", "multipleHistogramFloor",
+                "histogram"},
+            {"isovalueList", "irregular isovalue list", "isovalueListFloor", "isovalues"}};
         for (String[] b : builds) {
             for (String size : sizes) {
-                list.add(new Ratio("build-" + b[0] + "-" + size, b[1] + ", " + count(size),
+                list.add(new Ratio(b[3] + "-" + shortCount(size), b[1] + ", " + count(size),
                         "its conversions' JNI calls alone, same size", "GraphBuildBenchmark." + b[0], size,
                         "GraphBuildBenchmark." + b[2], size, goal, "≤ 1.20"));
             }
         }
         for (String size : new String[] {"1000", "32000"}) {
-            list.add(new Ratio("build-pieChart-" + size, "pie chart (names, values, colours), " + count(size) + " slices",
+            list.add(new Ratio("pie-" + shortCount(size), "pie chart (names, values, colours), " + count(size) + " slices",
                     "its conversions' JNI calls alone, same size", "PieChartBenchmark.pieChart", size,
                     "PieChartBenchmark.pieChartFloor", size, goal, "≤ 1.20"));
         }
-        String[][] flat = {{"GraphBuildBenchmark.curveFromVectors", "curve from `SbVec2f[]`", "10000000", "1000"},
-            {"GraphBuildBenchmark.curveFromFloats", "curve from `float[]`", "10000000", "1000"},
-            {"GraphBuildBenchmark.markerField", "marker field", "10000000", "1000"},
-            {"GraphBuildBenchmark.multipleHistogram", "multiple histogram", "10000000", "1000"},
-            {"GraphBuildBenchmark.isovalueList", "isovalue list", "10000000", "1000"},
-            {"PieChartBenchmark.pieChart", "pie chart", "32000", "1000"},
-            {"GraphRenderBenchmark.renderCurve", "render of the curve", "10000000", "1000"},
-            {"GraphRenderBenchmark.renderMarkerField", "render of the marker field", "10000000", "1000"},
-            {"HistogramRenderBenchmark.renderMultipleHistogram", "render of the multiple histogram", "1000000", "1000"},
-            {"PieChartBenchmark.renderPieChart", "render of the pie chart", "32000", "1000"},
-            {"MeshFilterBenchmark.javaFilter", "render of a mesh through a Java cell filter", "10000000", "10000"},
-            {"MeshFilterBenchmark.intervalFilter", "render of a mesh through `PoIntervalCellFilter`", "10000000", "10000"}};
+        String[][] flat = {
+            {"GraphBuildBenchmark.curveFromVectors", "curve from `SbVec2f[]`", "10000000", "1000", "curve"},
+            {"GraphBuildBenchmark.curveFromFloats", "curve from `float[]`", "10000000", "1000", "curve-xy"},
+            {"GraphBuildBenchmark.markerField", "marker field", "10000000", "1000", "markers"},
+            {"GraphBuildBenchmark.multipleHistogram", "multiple histogram", "10000000", "1000", "histogram"},
+            {"GraphBuildBenchmark.isovalueList", "isovalue list", "10000000", "1000", "isovalues"},
+            {"PieChartBenchmark.pieChart", "pie chart", "32000", "1000", "pie"},
+            {"GraphRenderBenchmark.renderCurve", "render of the curve", "10000000", "1000", "render-curve"},
+            {"GraphRenderBenchmark.renderMarkerField", "render of the marker field", "10000000", "1000",
+                "render-markers"},
+            {"HistogramRenderBenchmark.renderMultipleHistogram", "render of the multiple histogram", "1000000", "1000",
+                "render-histogram"},
+            {"PieChartBenchmark.renderPieChart", "render of the pie chart", "32000", "1000", "render-pie"},
+            {"MeshFilterBenchmark.javaFilter", "render of a mesh through a Java cell filter", "10000000", "10000",
+                "mesh-java"},
+            {"MeshFilterBenchmark.intervalFilter", "render of a mesh through `PoIntervalCellFilter`", "10000000",
+                "10000", "mesh-interval"}};
         for (String[] f : flat) {
-            String simple = f[0].substring(f[0].indexOf('.') + 1);
-            list.add(new Ratio("flat-" + simple + "-" + f[2], f[1] + ", per element at " + count(f[2]),
+            list.add(new Ratio(f[4] + "-flat", f[1] + ", per element at " + count(f[2]),
                     "its time per element at " + count(f[3]), f[0], f[2], f[0], f[3], FLAT, "flat (≤ 1.25)"));
         }
         list.add(new Ratio("read-isovalues-1M", "read 1,000,000 isovalues through the direct buffer", "through the copy",
@@ -149,6 +154,12 @@ public final class BenchReport {
         List<Ratio> all = new ArrayList<>(a);
         all.addAll(b);
         return List.copyOf(all);
+    }
+
+    /** 1k, 100k, 10M. */
+    private static String shortCount(String size) {
+        long n = Long.parseLong(size);
+        return n >= 1_000_000 ? n / 1_000_000 + "M" : n >= 1000 ? n / 1000 + "k" : size;
     }
 
     private static String count(String size) {
