@@ -12,7 +12,8 @@ import java.util.Map;
  * three with {@code -jni} for their JNI calls alone; or a bulk path, {@code build-curve},
  * {@code build-curve-floats}, {@code build-markers}, {@code build-histogram}, {@code build-isovalues},
  * {@code render-curve}, {@code render-markers}, {@code render-histogram}, {@code mesh-java-filter},
- * {@code mesh-interval-filter}, of {@code -Dprofile.size} elements, 10^7 by default) and the seconds
+ * {@code mesh-interval-filter}, of {@code -Dprofile.size} elements, 10^7 by default; {@code build-pie},
+ * {@code render-pie} of at most 32,000 slices) and the seconds
  * to run (10). Prints the time per invocation of the path.
  */
 public final class ProfileLoop {
@@ -41,14 +42,21 @@ public final class ProfileLoop {
         histogramRender.size = bulkSize;
         MeshFilterBenchmark meshes = new MeshFilterBenchmark();
         meshes.size = bulkSize;
+        PieChartBenchmark pie = new PieChartBenchmark();
+        pie.size = Math.min(bulkSize, 32_000);
         Map<String, Runnable> bulkPaths = Map.of("build-curve", build::curveFromVectors, "build-curve-floats",
                 build::curveFromFloats, "build-markers", build::markerField, "build-histogram", build::multipleHistogram,
                 "build-isovalues", build::isovalueList, "render-curve", render::renderCurve, "render-markers",
                 render::renderMarkerField, "render-histogram", histogramRender::renderMultipleHistogram, "mesh-java-filter",
                 meshes::javaFilter, "mesh-interval-filter", meshes::intervalFilter);
+        bulkPaths = new java.util.HashMap<>(bulkPaths);
+        bulkPaths.put("build-pie", pie::pieChart);
+        bulkPaths.put("render-pie", pie::renderPieChart);
         Runnable bulk = bulkPaths.get(args[0]);
         if (bulk != null) {
-            if (args[0].startsWith("build")) {
+            if (args[0].endsWith("-pie")) {
+                pie.setUp();
+            } else if (args[0].startsWith("build")) {
                 build.setUp();
             } else if (args[0].equals("render-histogram")) {
                 histogramRender.setUp();
