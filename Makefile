@@ -8,7 +8,7 @@
 #   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
 #   make bench   runs the JMH benchmarks on JDK 17 and the newest JDK (22 or newer), writes their
 #                results into benchmarks/ and BENCHMARKS.md and draws the plots (needs gnuplot)
-#   make bench-quick  the same, shorter, into java/benchmarks/target/bench-quick (about five minutes)
+#   make bench-quick  the same, shorter, into java/benchmarks/target/bench-quick (about seven minutes)
 #   make fuzz    hostile calls to the public API in child JVMs (CALLS=200000 SEED=...)
 #   make install builds the jars (natives, sources, Javadoc) and installs them into the local
 #                Maven repository
@@ -132,8 +132,9 @@ soak: native
 
 # JMH benchmarks (BENCHMARKS.md): each hot path against its floor in the test library, on JDK 17
 # and on PANAMA_JDK. BENCH_OPTS adds JVM options, e.g. -Dbench.include=ThinGetter or
-# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 25 minutes; needs
-# gnuplot: apt-get install gnuplot-nox); `make bench-quick` prints the ratios (about five).
+# -Dbench.forks=1. `make bench` writes benchmarks/ and BENCHMARKS.md (about 25 minutes, and some
+# 7 more for the bulk benchmarks; needs gnuplot: apt-get install gnuplot-nox); `make bench-quick`
+# prints the ratios (about seven).
 BENCH_OPTS ?=
 bench-build: native
 	$(MVN) -q -Pbench $(PANAMA_OPTS) package -DskipTests

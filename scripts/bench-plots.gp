@@ -1,7 +1,7 @@
 # The plots of BENCHMARKS.md, from the data files that BenchReport writes into `dir`:
 #   gnuplot -e "dir='benchmarks'" scripts/bench-plots.gp
-# vector-conversion.png and data-sets.png: ns per element against size (log-log), one line per
-# benchmark and JDK (the newer JDK dashed); ratios.png: each path's ratio to its floor per JDK,
+# vector-conversion.png, data-sets.png, bulk-build.png and bulk-render.png: ns per element against
+# size (log-log), one line per benchmark and JDK (the newer JDK dashed); ratios.png: each path's ratio to its floor per JDK,
 # with its goal.
 if (!exists("dir")) dir = "benchmarks"
 load dir."/plot-vars.gp"
@@ -23,6 +23,20 @@ set output dir."/data-sets.png"
 set title "A values set leaving the mesh: ns per value against the number of values"
 set ylabel "ns per value"
 plot for [c=2:ndatasets] dir."/datasets.dat" using 1:c with linespoints \
+     lt 1 + (c - 2) / njdk dt 1 + (c - 2) % njdk lw 2 pt 7 title columnhead(c)
+
+# bulk-build.png and bulk-render.png: the bulk paths (graph nodes built from arrays with their
+# floors; renders of those nodes and of meshes through cell filters), ns per element against size.
+set output dir."/bulk-build.png"
+set title "Graph nodes built from Java arrays, and their floors: ns per element against size"
+set ylabel "ns per element"
+plot for [c=2:nbulkbuild] dir."/bulk-build.dat" using 1:c with linespoints \
+     lt 1 + (c - 2) / njdk dt 1 + (c - 2) % njdk lw 2 pt 7 title columnhead(c)
+
+set output dir."/bulk-render.png"
+set title "Renders: ns per element drawn (per cell for the meshes) against size"
+set ylabel "ns per element"
+plot for [c=2:nbulkrender] dir."/bulk-render.dat" using 1:c with linespoints \
      lt 1 + (c - 2) / njdk dt 1 + (c - 2) % njdk lw 2 pt 7 title columnhead(c)
 
 unset logscale

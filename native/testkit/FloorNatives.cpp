@@ -248,4 +248,58 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_raiseRebuilds(J
     for (const PoBase::Callback& c : graphNode->preRebuildCallbacks()) c.function(c.userData, graphNode);
 }
 
+// The bulk conversions' JNI calls and nothing else (the floors of the graph
+// nodes built from Java arrays). The vector-object conversion with k
+// components a vector: the class and field once, then per vector the
+// element, its float[] field, the floats, their release without copy back,
+// and the two deletions. Returns the sum of the components read.
+JNIEXPORT jfloat JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_vectorComponents(JNIEnv* env, jclass,
+                                                                                   jobjectArray vectors, jint k) {
+  jsize n = env->GetArrayLength(vectors);
+  if (n == 0) return 0;
+  jobject first = env->GetObjectArrayElement(vectors, 0);
+  jclass cls = env->GetObjectClass(first);
+  jfieldID field = env->GetFieldID(cls, "array", "[F");
+  env->DeleteLocalRef(cls);
+  env->DeleteLocalRef(first);
+  float sum = 0;
+  for (jsize i = 0; i < n; ++i) {
+    jobject element = env->GetObjectArrayElement(vectors, i);
+    jfloatArray floats = static_cast<jfloatArray>(env->GetObjectField(element, field));
+    jfloat* components = env->GetFloatArrayElements(floats, nullptr);
+    for (jint c = 0; c < k; ++c) sum += components[c];
+    env->ReleaseFloatArrayElements(floats, components, JNI_ABORT);
+    env->DeleteLocalRef(floats);
+    env->DeleteLocalRef(element);
+  }
+  return sum;
+}
+
+// A float[] read in: its elements and their release without copy back.
+// Returns the first element (0 for an empty array).
+JNIEXPORT jfloat JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_floatArray(JNIEnv* env, jclass,
+                                                                             jfloatArray values) {
+  jsize n = env->GetArrayLength(values);
+  jfloat* elements = env->GetFloatArrayElements(values, nullptr);
+  jfloat first = n > 0 ? elements[0] : 0;
+  env->ReleaseFloatArrayElements(values, elements, JNI_ABORT);
+  return first;
+}
+
+// A String[] read in as UTF-8: per string the element, its UTF-8 characters,
+// their release and the deletion. Returns the total length in bytes.
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_stringArray(JNIEnv* env, jclass,
+                                                                             jobjectArray strings) {
+  jsize n = env->GetArrayLength(strings);
+  jlong bytes = 0;
+  for (jsize i = 0; i < n; ++i) {
+    jstring s = static_cast<jstring>(env->GetObjectArrayElement(strings, i));
+    const char* utf = env->GetStringUTFChars(s, nullptr);
+    for (const char* c = utf; *c != 0; ++c) ++bytes;
+    env->ReleaseStringUTFChars(s, utf);
+    env->DeleteLocalRef(s);
+  }
+  return bytes;
+}
+
 }  // extern "C"

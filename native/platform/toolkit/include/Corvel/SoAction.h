@@ -78,6 +78,8 @@ class SoAction {
   TAVREL_STANDIN_ONLY void countNode() { ++nodesTraversed; }
   // Called when an apply starts that is not inside another of this action.
   TAVREL_STANDIN_ONLY virtual void beginApply() {}
+  // Called when the outermost apply has traversed its node.
+  TAVREL_STANDIN_ONLY virtual void endApply() {}
 
  private:
   SoState* state = nullptr;
@@ -114,15 +116,41 @@ class SoGLRenderAction : public SoAction {
     enum Anchor { MIDDLE, START, END } anchor = MIDDLE;
     enum Baseline { BASELINE, CENTRAL, HANGING } baseline = BASELINE;
   };
-  TAVREL_STANDIN_ONLY void addPrimitive(Primitive primitive) { primitives.push_back(std::move(primitive)); }
+  // Adds a primitive to the picture. The previous apply's primitives are
+  // kept until this apply ends and each new one is assigned into the one at
+  // its place, reusing its memory: a large drawing copied into fresh memory
+  // at every apply would pay the kernel's page faults for it each time (above
+  // the C library's mapping threshold), a cost per point that grew with the
+  // picture.
+  TAVREL_STANDIN_ONLY void addPrimitive(const Primitive& primitive) {
+    if (drawn < primitives.size()) {
+      primitives[drawn] = primitive;
+    } else {
+      primitives.push_back(primitive);
+    }
+    ++drawn;
+  }
+  TAVREL_STANDIN_ONLY void addPrimitive(Primitive&& primitive) {
+    if (drawn < primitives.size()) {
+      primitives[drawn] = std::move(primitive);
+    } else {
+      primitives.push_back(std::move(primitive));
+    }
+    ++drawn;
+  }
   TAVREL_STANDIN_ONLY const std::vector<Primitive>& getPrimitives() const { return primitives; }
   TAVREL_STANDIN_ONLY std::string toSvg() const;
 
  protected:
-  TAVREL_STANDIN_ONLY void beginApply() override { primitives.clear(); }
+  TAVREL_STANDIN_ONLY void beginApply() override { drawn = 0; }
+  // Drops what the previous apply drew beyond this one's primitives.
+  TAVREL_STANDIN_ONLY void endApply() override {
+    primitives.erase(primitives.begin() + static_cast<std::ptrdiff_t>(drawn), primitives.end());
+  }
 
  private:
   std::vector<Primitive> primitives;
+  std::size_t drawn = 0;  // the primitives of the current apply, at the front
 };
 class SoCallbackAction : public SoAction { SO_ACTION_HEADER(SoCallbackAction) };
 class SoGetBoundingBoxAction : public SoAction {

@@ -29,6 +29,7 @@ void SoAction::apply(SoNode* node) {
   state = new SoState(this);
   node->ref();
   traverse(node);
+  if (outer == nullptr) endApply();
   // The state goes first: it may hold a reference on the node itself.
   delete state;
   state = outer;

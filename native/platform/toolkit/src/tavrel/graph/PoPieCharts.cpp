@@ -10,6 +10,7 @@
 #include <Corvel/SoAction.h>
 
 #include <cmath>
+#include <utility>
 
 PO_GRAPH_KIT_ABSTRACT_SOURCE(PoPieChart, PoChart, "PoPieChart", {"slices", "annotations"})
 PO_GRAPH_KIT_SOURCE(PoPieChart2D, PoPieChart, "PoPieChart2D", {})
@@ -84,12 +85,13 @@ void PoPieChart::setSlices(const SbVec3f& newCenter, float newRadius, short coun
   radius = newRadius;
   numSlices = count;
   slices.clear();
+  slices.reserve(count > 0 ? static_cast<std::size_t>(count) : 0);
   for (int i = 0; i < count; ++i) {
     Slice s{};
     s.name = names != nullptr && names[i] != nullptr ? names[i] : "";
     s.value = values != nullptr ? values[i] : 0.0f;
     s.color = colors != nullptr && numColors > 0 ? colors[i % numColors] : SbColor(1, 1, 1);
-    slices.push_back(s);
+    slices.push_back(std::move(s));
   }
   layOut(slices);
 }

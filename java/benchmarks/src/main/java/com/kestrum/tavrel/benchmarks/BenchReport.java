@@ -23,7 +23,7 @@ import java.util.TreeSet;
  */
 public final class BenchReport {
     /** The first line of a results file. */
-    static final String RAW_HEADER = "jdk,benchmark,size,samples,mean,error,median,unit";
+    static final String RAW_HEADER = "jdk,benchmark,size,samples,mean,error,median,unit,alloc";
     static final String BEGIN = "<!-- results:begin (make bench writes this section) -->";
     static final String END = "<!-- results:end -->";
     /** A path counts as flat while its cost per element at the largest size stays within this. */
@@ -32,7 +32,7 @@ public final class BenchReport {
     private BenchReport() {}
 
     /** One measured benchmark. */
-    record Measure(double median, double mean, double error, String unit) {
+    record Measure(double median, double mean, double error, String unit, double alloc) {
         double relativeError() {
             return mean == 0 ? Double.NaN : error / mean;
         }
@@ -42,7 +42,7 @@ public final class BenchReport {
     record Ratio(String id, String path, String floor, String benchmark, String size, String floorBenchmark,
             String floorSize, double goal, String goalText) {}
 
-    static final List<Ratio> RATIOS = List.of(
+    static final List<Ratio> RATIOS = concat(List.of(
             new Ratio("thin-getter", "thin getter `PbMesh.getNumNodes()`", "empty instance native taking a `long`",
                     "ThinGetterBenchmark.getNumNodes", "", "ThinGetterBenchmark.emptyGetterFloor", "", 1.10, "≤ 1.10"),
             new Ratio("addVecsSet-1k", "`addVecsSet`, 1,000 vectors", "raw conversion loop, same size",
@@ -97,7 +97,107 @@ public final class BenchReport {
                     "PanamaBenchmark.jniGetNumNodes", "", "PanamaBenchmark.downcallPlain", "", 1.10, "≤ 1.10"),
             new Ratio("panama-critical", "thin getter through JNI", "critical downcall (out of JNI's reach)",
                     "PanamaBenchmark.jniGetNumNodes", "", "PanamaBenchmark.downcallCritical", "", Double.NaN,
-                    "(floor JNI cannot reach)"));
+                    "(floor JNI cannot reach)")), bulkRatios());
+
+    /**
+     * The graph nodes built from arrays against their conversions alone, and the flatness of each
+     * bulk path (cost per element at its largest size against its smallest); then the direct
+     * buffers against the copies.
+     */
+    private static List<Ratio> bulkRatios() {
+        final double goal = 1.20;  // of a bulk conversion path against its floor
+        final String[] sizes = {"1000", "100000", "10000000"};
+        List<Ratio> list = new ArrayList<>();
+        String[][] builds = {{"curveFromVectors", "curve from `SbVec2f[]`", "curveFloor", "curve"},
+            {"curveFromFloats", "curve from `float[]` x, y pairs", "curveFloor", "curve-xy"},
+            {"markerField", "valued marker field (points, 2 value lists)", "markerFieldFloor", "markers"},
+            {"multipleHistogram", "multiple histogram (10 histograms; values, names)", "multipleHistogramFloor",
+                "histogram"},
+            {"isovalueList", "irregular isovalue list", "isovalueListFloor", "isovalues"}};
+        for (String[] b : builds) {
+            for (String size : sizes) {
+                list.add(new Ratio(b[3] + "-" + shortCount(size), b[1] + ", " + count(size),
+                        "its conversions' JNI calls alone, same size", "GraphBuildBenchmark." + b[0], size,
+                        "GraphBuildBenchmark." + b[2], size, goal, "≤ 1.20"));
+            }
+        }
+        for (String size : new String[] {"1000", "32000"}) {
+            list.add(new Ratio("pie-" + shortCount(size), "pie chart (names, values, colours), " + count(size) + " slices",
+                    "its conversions' JNI calls alone, same size", "PieChartBenchmark.pieChart", size,
+                    "PieChartBenchmark.pieChartFloor", size, goal, "≤ 1.20"));
+        }
+        String[][] flat = {
+            {"GraphBuildBenchmark.curveFromVectors", "curve from `SbVec2f[]`", "10000000", "1000", "curve"},
+            {"GraphBuildBenchmark.curveFromFloats", "curve from `float[]`", "10000000", "1000", "curve-xy"},
+            {"GraphBuildBenchmark.markerField", "marker field", "10000000", "1000", "markers"},
+            {"GraphBuildBenchmark.multipleHistogram", "multiple histogram", "10000000", "1000", "histogram"},
+            {"GraphBuildBenchmark.isovalueList", "isovalue list", "10000000", "1000", "isovalues"},
+            {"PieChartBenchmark.pieChart", "pie chart", "32000", "1000", "pie"},
+            {"GraphRenderBenchmark.renderCurve", "render of the curve", "10000000", "1000", "render-curve"},
+            {"GraphRenderBenchmark.renderMarkerField", "render of the marker field", "10000000", "1000",
+                "render-markers"},
+            {"HistogramRenderBenchmark.renderMultipleHistogram", "render of the multiple histogram", "1000000", "1000",
+                "render-histogram"},
+            {"PieChartBenchmark.renderPieChart", "render of the pie chart", "32000", "1000", "render-pie"},
+            {"MeshFilterBenchmark.javaFilter", "render of a mesh through a Java cell filter", "10000000", "10000",
+                "mesh-java"},
+            {"MeshFilterBenchmark.intervalFilter", "render of a mesh through `PoIntervalCellFilter`", "10000000",
+                "10000", "mesh-interval"}};
+        for (String[] f : flat) {
+            list.add(new Ratio(f[4] + "-flat", f[1] + ", per element at " + count(f[2]),
+                    "its time per element at " + count(f[3]), f[0], f[2], f[0], f[3], FLAT, "flat (≤ 1.25)"));
+        }
+        list.add(new Ratio("read-isovalues-1M", "read 1,000,000 isovalues through the direct buffer", "through the copy",
+                "AttributeBenchmark.isovaluesDirect", "1000000", "AttributeBenchmark.isovaluesCopy", "1000000",
+                Double.NaN, "(none)"));
+        list.add(new Ratio("read-colors-1M", "read a data mapping's 1,000,000 colours through the direct buffer",
+                "through the copy (`SbColor[]`)", "AttributeBenchmark.colorsDirect", "1000000",
+                "AttributeBenchmark.colorsCopy", "1000000", Double.NaN, "(none)"));
+        return list;
+    }
+
+    private static List<Ratio> concat(List<Ratio> a, List<Ratio> b) {
+        List<Ratio> all = new ArrayList<>(a);
+        all.addAll(b);
+        return List.copyOf(all);
+    }
+
+    /** 1k, 100k, 10M. */
+    private static String shortCount(String size) {
+        long n = Long.parseLong(size);
+        return n >= 1_000_000 ? n / 1_000_000 + "M" : n >= 1000 ? n / 1000 + "k" : size;
+    }
+
+    private static String count(String size) {
+        return String.format(Locale.ROOT, "%,d", Long.parseLong(size));
+    }
+
+    /** An allocation row: a benchmark (and size) and the goal of its bytes per call. */
+    record Allocation(String path, String benchmark, String size, String goal) {}
+
+    static final List<Allocation> ALLOCATIONS = List.of(
+            new Allocation("thin getter `PbMesh.getNumNodes()`", "ThinGetterBenchmark.getNumNodes", "", "0"),
+            new Allocation("setter `PbLinearDataMapping.setMinThreshold(float)`", "ThinGetterBenchmark.setMinThreshold",
+                    "", "0"),
+            new Allocation("setter `setMinThreshold(float, SbColor, float)` (the colour crosses as a copy)",
+                    "ThinGetterBenchmark.setMinThresholdColor", "", "constant (32: a `float[3]`)"),
+            new Allocation("`addVecsSet`, 1,000 vectors", "AddVecsSetBenchmark.addVecsSet", "1000", "constant per call"),
+            new Allocation("`addVecsSet`, 1,000,000 vectors", "AddVecsSetBenchmark.addVecsSet", "1000000",
+                    "constant per call"),
+            new Allocation("Java cell filter, per cell (render of 1,000,000 cells)", "CellFilterBenchmark.renderFilteredMesh",
+                    "", "0 per cell"),
+            new Allocation("render through a Java cell filter, 10,000 cells", "MeshFilterBenchmark.javaFilter", "10000",
+                    "constant per render"),
+            new Allocation("render through a Java cell filter, 10,000,000 cells", "MeshFilterBenchmark.javaFilter",
+                    "10000000", "constant per render"),
+            new Allocation("curve from `SbVec2f[]`, 1,000 points", "GraphBuildBenchmark.curveFromVectors", "1000",
+                    "constant per call"),
+            new Allocation("curve from `SbVec2f[]`, 10,000,000 points", "GraphBuildBenchmark.curveFromVectors",
+                    "10000000", "constant per call"),
+            new Allocation("curve from `float[]`, 1,000 points", "GraphBuildBenchmark.curveFromFloats", "1000",
+                    "a vector a point"),
+            new Allocation("curve from `float[]`, 10,000,000 points", "GraphBuildBenchmark.curveFromFloats", "10000000",
+                    "a vector a point"));
 
     /**
      * Writes the report.
@@ -128,12 +228,15 @@ public final class BenchReport {
                 continue;
             }
             for (String line : Files.readAllLines(input, StandardCharsets.UTF_8)) {
-                if (line.isBlank() || line.equals(RAW_HEADER)) {
+                if (line.isBlank() || line.startsWith("jdk,")) {
                     continue;
                 }
                 String[] f = line.split(",", -1);
+                // Files of earlier runs have no allocation column.
+                double alloc = f.length > 8 && !f[8].isEmpty() ? Double.parseDouble(f[8]) : Double.NaN;
                 byJdk.computeIfAbsent(f[0], k -> new LinkedHashMap<>()).put(f[1] + "|" + f[2],
-                        new Measure(Double.parseDouble(f[6]), Double.parseDouble(f[4]), Double.parseDouble(f[5]), f[7]));
+                        new Measure(Double.parseDouble(f[6]), Double.parseDouble(f[4]), Double.parseDouble(f[5]), f[7],
+                                alloc));
             }
         }
         List<String> jdks = new ArrayList<>(new TreeSet<>(byJdk.keySet()));
@@ -200,22 +303,73 @@ public final class BenchReport {
             {"DataSetBenchmark.getValuesSet", "getValuesSet (copy)"},
             {"DataSetBenchmark.readDirect", "obtain + read, direct"},
             {"DataSetBenchmark.readCopy", "obtain + read, copy"}};
+        String[][] buildSeries = {{"GraphBuildBenchmark.curveFromVectors", "curve, SbVec2f[]"},
+            {"GraphBuildBenchmark.curveFromFloats", "curve, float[]"},
+            {"GraphBuildBenchmark.curveFloor", "curve floor"},
+            {"GraphBuildBenchmark.markerField", "marker field"},
+            {"GraphBuildBenchmark.markerFieldFloor", "marker field floor"},
+            {"GraphBuildBenchmark.multipleHistogram", "multiple histogram"},
+            {"GraphBuildBenchmark.multipleHistogramFloor", "multiple histogram floor"},
+            {"GraphBuildBenchmark.isovalueList", "isovalue list"},
+            {"GraphBuildBenchmark.isovalueListFloor", "isovalue list floor"},
+            {"PieChartBenchmark.pieChart", "pie chart"},
+            {"PieChartBenchmark.pieChartFloor", "pie chart floor"}};
+        String[][] renderSeries = {{"GraphRenderBenchmark.renderCurve", "render: curve"},
+            {"GraphRenderBenchmark.renderMarkerField", "render: marker field"},
+            {"HistogramRenderBenchmark.renderMultipleHistogram", "render: multiple histogram"},
+            {"PieChartBenchmark.renderPieChart", "render: pie chart"},
+            {"MeshFilterBenchmark.javaFilter", "mesh render, Java cell filter"},
+            {"MeshFilterBenchmark.intervalFilter", "mesh render, PoIntervalCellFilter"}};
+        String[] bulkSizes = {"1000", "10000", "32000", "100000", "1000000", "10000000"};
+        writeSeries(out.resolve("bulk-build.dat"), byJdk, jdks, buildSeries, bulkSizes);
+        writeSeries(out.resolve("bulk-render.dat"), byJdk, jdks, renderSeries, bulkSizes);
         writeSeries(out.resolve("vectors.dat"), byJdk, jdks, vectorSeries, new String[] {"1000", "100000", "1000000"});
         writeSeries(out.resolve("datasets.dat"), byJdk, jdks, dataSeries, new String[] {"1000", "1000000", "16000000"});
         Files.writeString(out.resolve("ratios.dat"), ratioDat, StandardCharsets.UTF_8);
         Files.write(out.resolve("ratios.csv"), ratioCsv, StandardCharsets.UTF_8);
         Files.writeString(out.resolve("plot-vars.gp"), String.format(Locale.ROOT,
-                "njdk = %d%nnvectors = %d%nndatasets = %d%n", jdks.size(), 1 + vectorSeries.length * jdks.size(),
-                1 + dataSeries.length * jdks.size()), StandardCharsets.UTF_8);
+                "njdk = %d%nnvectors = %d%nndatasets = %d%nnbulkbuild = %d%nnbulkrender = %d%n", jdks.size(),
+                1 + vectorSeries.length * jdks.size(), 1 + dataSeries.length * jdks.size(),
+                1 + buildSeries.length * jdks.size(), 1 + renderSeries.length * jdks.size()), StandardCharsets.UTF_8);
+
+        // Bytes allocated on the Java heap per call (JMH's GC profiler), and per element for a size.
+        StringBuilder allocTable = new StringBuilder("| path | goal (bytes per call) |");
+        for (String jdk : jdks) {
+            allocTable.append(" JDK ").append(jdk).append(" |");
+        }
+        allocTable.append("\n|---|---|");
+        allocTable.append("---|".repeat(jdks.size())).append('\n');
+        boolean anyAlloc = false;
+        for (Allocation a : ALLOCATIONS) {
+            StringBuilder row = new StringBuilder("| ").append(a.path()).append(" | ").append(a.goal()).append(" |");
+            boolean any = false;
+            for (String jdk : jdks) {
+                Measure m = byJdk.get(jdk).get(a.benchmark() + "|" + a.size());
+                if (m == null || Double.isNaN(m.alloc())) {
+                    row.append(" – |");
+                    continue;
+                }
+                any = true;
+                row.append(' ').append(bytes(m.alloc())).append(" B");
+                if (!a.size().isEmpty()) {
+                    row.append(" (").append(bytes(m.alloc() / Long.parseLong(a.size()))).append(" B/element)");
+                }
+                row.append(" |");
+            }
+            if (any) {
+                anyAlloc = true;
+                allocTable.append(row).append('\n');
+            }
+        }
 
         StringBuilder all = new StringBuilder();
         all.append("| benchmark | size |");
         for (String jdk : jdks) {
-            all.append(" JDK ").append(jdk).append(" median | error (99.9%) |");
+            all.append(" JDK ").append(jdk).append(" median | error (99.9%) | B/op |");
         }
         all.append(" unit |\n|---|---|");
         for (int i = 0; i < jdks.size(); i++) {
-            all.append("---|---|");
+            all.append("---|---|---|");
         }
         all.append("---|\n");
         TreeSet<String> keys = new TreeSet<>();
@@ -234,9 +388,10 @@ public final class BenchReport {
             for (String jdk : jdks) {
                 Measure m = byJdk.get(jdk).get(key);
                 if (m == null) {
-                    all.append(" – | – |");
+                    all.append(" – | – | – |");
                 } else {
-                    all.append(' ').append(num(m.median())).append(" | ± ").append(num(m.error())).append(" |");
+                    all.append(' ').append(num(m.median())).append(" | ± ").append(num(m.error())).append(" | ")
+                            .append(Double.isNaN(m.alloc()) ? "–" : bytes(m.alloc())).append(" |");
                     unit = m.unit();
                 }
             }
@@ -253,9 +408,15 @@ public final class BenchReport {
         }
         section.append("\nEach path against its floor (medians; per vector, per value, per node, per cell or per call;"
                 + " the ratio's error from the 99.9% errors of both):\n\n").append(table)
-                .append("\nEvery benchmark (median of the measured iterations per operation as JMH counts it):\n\n")
+                .append(anyAlloc ? "\nBytes allocated on the Java heap per call (JMH's GC profiler, `gc.alloc.rate.norm`;"
+                        + " the figures of calls that take seconds include a few kilobytes of JMH's own per iteration):\n\n"
+                        + allocTable : "")
+                .append("\nEvery benchmark (median of the measured iterations per operation as JMH counts it, and the"
+                        + " bytes it allocated on the Java heap per operation):\n\n")
                 .append(all)
                 .append("\n![ns per element against size](benchmarks/vector-conversion.png)\n")
+                .append("![bulk builds: ns per element against size](benchmarks/bulk-build.png)\n")
+                .append("![bulk renders: ns per element against size](benchmarks/bulk-render.png)\n")
                 .append("![ns per value against size](benchmarks/data-sets.png)\n")
                 .append("![each path's ratio to its floor](benchmarks/ratios.png)\n\n").append(END);
         if (markdown != null) {
@@ -271,6 +432,9 @@ public final class BenchReport {
         }
         System.out.println();
         System.out.println(table);
+        if (anyAlloc) {
+            System.out.println(allocTable);
+        }
     }
 
     private static void writeSeries(Path file, Map<String, Map<String, Measure>> byJdk, List<String> jdks, String[][] series,
@@ -304,10 +468,21 @@ public final class BenchReport {
         if (benchmark.startsWith("AddVecsSet")) {
             return "ns/vector";
         }
-        if (benchmark.startsWith("DataSet")) {
+        if (benchmark.startsWith("DataSet") || benchmark.startsWith("Attribute")) {
             return "ns/value";
         }
+        if (benchmark.startsWith("MeshFilter")) {
+            return "ns/cell";
+        }
+        if (benchmark.startsWith("GraphBuild") || benchmark.startsWith("GraphRender")
+                || benchmark.startsWith("HistogramRender") || benchmark.startsWith("PieChart")) {
+            return "ns/element";
+        }
         return unit;
+    }
+
+    private static String bytes(double v) {
+        return Math.abs(v) < 0.5 ? "0" : num(v);
     }
 
     private static String fmt(double v) {

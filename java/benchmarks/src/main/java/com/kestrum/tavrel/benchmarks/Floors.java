@@ -147,4 +147,13 @@ public final class Floors {
 
     /** Raises {@code times} times the pre-rebuild callbacks of the graph node, without rebuilding it. */
     static native void raiseRebuilds(long node, int times);
+
+    /** The per-vector JNI calls of the vector-object conversion, k components a vector; their sum. */
+    static native float vectorComponents(Object[] vectors, int k);
+
+    /** A {@code float[]} read in: its elements and their release without copy back; element 0. */
+    static native float floatArray(float[] values);
+
+    /** A {@code String[]} read in as UTF-8, string by string; the bytes read. */
+    static native long stringArray(String[] strings);
 }

@@ -11,9 +11,14 @@ import java.util.Map;
  *
  * <p>Arguments: the path ({@code thin-getter}, {@code addVecsSet}, {@code forwarded-call},
  * {@code cell-filter}, {@code probe-event}, {@code element-push}, {@code rebuild-event}; the first five
- * with {@code -floor} for their floor, the last five with {@code -jni} for their JNI calls alone) and the seconds to run (10). Prints the time
- * per invocation of the path, and the processor time of the thread per invocation (which a loaded
- * machine disturbs less: time spent waiting for a processor does not count).
+ * with {@code -floor} for their floor, the last five with {@code -jni} for their JNI calls alone; or a
+ * bulk path, {@code build-curve}, {@code build-curve-floats}, {@code build-markers},
+ * {@code build-histogram}, {@code build-isovalues}, {@code render-curve}, {@code render-markers},
+ * {@code render-histogram}, {@code mesh-java-filter}, {@code mesh-interval-filter}, of
+ * {@code -Dprofile.size} elements, 10^7 by default; {@code build-pie}, {@code render-pie} of at most
+ * 32,000 slices) and the seconds to run (10). Prints the time per invocation of the path, and the
+ * processor time of the thread per invocation (which a loaded machine disturbs less: time spent
+ * waiting for a processor does not count).
  */
 public final class ProfileLoop {
     private ProfileLoop() {}
@@ -34,6 +39,41 @@ public final class ProfileLoop {
         ProbeEventBenchmark probe = new ProbeEventBenchmark();
         ElementPushBenchmark push = new ElementPushBenchmark();
         RebuildCallbackBenchmark rebuild = new RebuildCallbackBenchmark();
+        int bulkSize = Integer.getInteger("profile.size", 10_000_000);
+        GraphBuildBenchmark build = new GraphBuildBenchmark();
+        build.size = bulkSize;
+        GraphRenderBenchmark render = new GraphRenderBenchmark();
+        render.size = bulkSize;
+        HistogramRenderBenchmark histogramRender = new HistogramRenderBenchmark();
+        histogramRender.size = bulkSize;
+        MeshFilterBenchmark meshes = new MeshFilterBenchmark();
+        meshes.size = bulkSize;
+        PieChartBenchmark pie = new PieChartBenchmark();
+        pie.size = Math.min(bulkSize, 32_000);
+        Map<String, Runnable> bulkPaths = Map.of("build-curve", build::curveFromVectors, "build-curve-floats",
+                build::curveFromFloats, "build-markers", build::markerField, "build-histogram", build::multipleHistogram,
+                "build-isovalues", build::isovalueList, "render-curve", render::renderCurve, "render-markers",
+                render::renderMarkerField, "render-histogram", histogramRender::renderMultipleHistogram, "mesh-java-filter",
+                meshes::javaFilter, "mesh-interval-filter", meshes::intervalFilter);
+        bulkPaths = new java.util.HashMap<>(bulkPaths);
+        bulkPaths.put("build-pie", pie::pieChart);
+        bulkPaths.put("render-pie", pie::renderPieChart);
+        Runnable bulk = bulkPaths.get(args[0]);
+        if (bulk != null) {
+            if (args[0].endsWith("-pie")) {
+                pie.setUp();
+            } else if (args[0].startsWith("build")) {
+                build.setUp();
+            } else if (args[0].equals("render-histogram")) {
+                histogramRender.setUp();
+            } else if (args[0].startsWith("render")) {
+                render.setUp();
+            } else {
+                meshes.setUp();
+            }
+            loop(args, bulk);
+            return;
+        }
         Map<String, Runnable> setUps = Map.of("thin-getter", thin::setUp, "addVecsSet", () -> {
             vectors.size = 1_000_000;
             vectors.setUp();
@@ -58,6 +98,10 @@ public final class ProfileLoop {
             throw new IllegalArgumentException("no path " + args[0] + "; paths: " + paths.keySet());
         }
         setUps.get(args[0].replaceFirst("-(floor|jni)$", "")).run();
+        loop(args, path);
+    }
+
+    private static void loop(String[] args, Runnable path) {
         ThreadMXBean threads = ManagementFactory.getThreadMXBean();
         long cpuStart = threads.getCurrentThreadCpuTime();
         long start = System.nanoTime();
