@@ -1,3 +1,5 @@
 njdk = 2
 nvectors = 5
 ndatasets = 9
+nbulkbuild = 23
+nbulkrender = 13
