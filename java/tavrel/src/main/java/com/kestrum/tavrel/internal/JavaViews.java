@@ -65,9 +65,14 @@ public final class JavaViews {
      * @throws IllegalArgumentException when the object is a view tied to a traversal
      */
     public static <T extends NativeObject> T keepable(T object, String name) {
+        return keepable(object, name, "a node cannot keep it");
+    }
+
+    /** As {@link #keepable(NativeObject, String)}, with the advice that ends the message. */
+    static <T extends NativeObject> T keepable(T object, String name, String advice) {
         if (object != null && !object.isDisposed() && Traversals.isTiedToTraversal(object)) {
             throw new IllegalArgumentException(name + " is a view of a traversal's state, valid only during the"
-                    + " traversal: a node cannot keep it");
+                    + " traversal: " + advice);
         }
         return object;
     }

@@ -1,7 +1,6 @@
 package com.kestrum.tavrel.internal;
 
 import com.kestrum.corvel.misc.NativeObject;
-import com.kestrum.corvel.misc.Traversals;
 import com.kestrum.tavrel.data.PbCartesianGrid2D;
 import com.kestrum.tavrel.data.PbCartesianGrid3D;
 import com.kestrum.tavrel.data.PbHexahedronMesh3D;
@@ -110,11 +109,7 @@ public final class MeshViews {
      * @throws IllegalArgumentException when the mesh is a view tied to a traversal
      */
     public static <M extends PbMesh> M keepable(M mesh) {
-        if (mesh != null && !mesh.isDisposed() && Traversals.isTiedToTraversal(mesh)) {
-            throw new IllegalArgumentException("mesh is a view of a traversal's state, valid only during the"
-                    + " traversal: give the mesh node's getMesh() instead");
-        }
-        return mesh;
+        return JavaViews.keepable(mesh, "mesh", "give the mesh node's getMesh() instead");
     }
 
     /**
