@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -68,7 +69,7 @@ public class PbCartesianGrid2D extends PbGrid2D {
     }
 
     private static long create(int numX, int numY, float[] x, float[] y, float[] z, boolean isDataDuplicated) {
-        checkArrays(numX, numY, x, y, z, false);
+        Checks.grid2D(numX, numY, x, y, z, false);
         return z == null ? ctorImpl2(numX, numY, x, y, isDataDuplicated)
                 : ctorImpl3(numX, numY, x, y, z, isDataDuplicated);
     }

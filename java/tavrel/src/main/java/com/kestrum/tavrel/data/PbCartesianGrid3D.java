@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -56,7 +57,7 @@ public class PbCartesianGrid3D extends PbGrid3D {
 
     private static long create(int numX, int numY, int numZ, float[] x, float[] y, float[] z,
             boolean isDataDuplicated) {
-        checkArrays(numX, numY, numZ, x, y, z, false);
+        Checks.grid3D(numX, numY, numZ, x, y, z, false);
         return ctorImpl2(numX, numY, numZ, x, y, z, isDataDuplicated);
     }
 

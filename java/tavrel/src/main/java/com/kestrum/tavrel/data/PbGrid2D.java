@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.tavrel.internal.JarInitializer;
 
@@ -96,7 +97,7 @@ public abstract class PbGrid2D extends PbMesh2D {
      */
     public void setGeometry(int numX, int numY, float[] x, float[] y) {
         long h = handle();
-        checkArrays(numX, numY, x, y, null, perAxis);
+        Checks.grid2D(numX, numY, x, y, null, perAxis);
         setGeometryImpl(h, numX, numY, x, y);
         geometryChanged();
     }
@@ -112,20 +113,9 @@ public abstract class PbGrid2D extends PbMesh2D {
      */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
         long h = handle();
-        checkArrays(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);
+        Checks.grid2D(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);
         setGeometryImpl1(h, numX, numY, x, y, z);
         geometryChanged();
-    }
-
-    /**
-     * Checks the arrays of a numX x numY grid: x and y with one value per node, or per column and
-     * per row (perAxis); z, when not null, one per node.
-     */
-    static void checkArrays(int numX, int numY, float[] x, float[] y, float[] z, boolean perAxis) {
-        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"));
-        Checks.length(x, perAxis ? numX : n, "x");
-        Checks.length(y, perAxis ? numY : n, "y");
-        Checks.optional(z, n, "z");
     }
 
     private native void getNodeCoordImpl(long handle, int i, int j, float[] out);

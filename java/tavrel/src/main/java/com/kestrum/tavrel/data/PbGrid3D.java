@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.tavrel.internal.JarInitializer;
 
@@ -98,17 +99,9 @@ public abstract class PbGrid3D extends PbMesh3D {
      */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
         long h = handle();
-        checkArrays(numX, numY, numZ, x, y, z, perAxis);
+        Checks.grid3D(numX, numY, numZ, x, y, z, perAxis);
         setGeometryImpl(h, numX, numY, numZ, x, y, z);
         geometryChanged();
-    }
-
-    /** Checks the arrays of a grid: one value per node, or per index along each axis (perAxis). */
-    static void checkArrays(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean perAxis) {
-        int n = Checks.product(Checks.count(numX, "numX"), Checks.count(numY, "numY"), Checks.count(numZ, "numZ"));
-        Checks.length(x, perAxis ? numX : n, "x");
-        Checks.length(y, perAxis ? numY : n, "y");
-        Checks.length(z, perAxis ? numZ : n, "z");
     }
 
     private native void getNodeCoordImpl(long handle, int i, int j, int k, float[] out);

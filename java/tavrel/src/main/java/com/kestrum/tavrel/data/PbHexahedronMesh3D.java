@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -52,7 +53,7 @@ public class PbHexahedronMesh3D extends PbIndexedMesh3D {
      */
     public PbHexahedronMesh3D(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(checkFixed(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
+        super(ctorImpl2(Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
                 numHexahedra, hexahedraNodes, isDataDuplicated));
     }
 
@@ -68,7 +69,7 @@ public class PbHexahedronMesh3D extends PbIndexedMesh3D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes) {
         long h = handle();
-        setGeometryImpl(h, checkFixed(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
+        setGeometryImpl(h, Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
                 numHexahedra, hexahedraNodes);
         geometryChanged();
     }

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.nio.FloatBuffer;
 
@@ -54,7 +55,7 @@ public class PbIndexedMesh2D extends PbMesh2D {
      */
     public PbIndexedMesh2D(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex,
             boolean isDataDuplicated) {
-        super(ctorImpl2(check(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
+        super(ctorImpl2(Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
                 cellIndex, isDataDuplicated));
     }
 
@@ -72,7 +73,7 @@ public class PbIndexedMesh2D extends PbMesh2D {
      */
     public PbIndexedMesh2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex, boolean isDataDuplicated) {
-        super(ctorImpl3(check(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
+        super(ctorImpl3(Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
                 numCells, cellTypes, cellIndex, isDataDuplicated));
     }
 
@@ -88,7 +89,7 @@ public class PbIndexedMesh2D extends PbMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex) {
         long h = handle();
-        setGeometryImpl(h, check(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
+        setGeometryImpl(h, Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
                 cellIndex);
         geometryChanged();
     }
@@ -107,31 +108,9 @@ public class PbIndexedMesh2D extends PbMesh2D {
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         long h = handle();
-        setGeometryImpl1(h, check(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
+        setGeometryImpl1(h, Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
                 numCells, cellTypes, cellIndex);
         geometryChanged();
-    }
-
-    /** Checks a mesh whose cells all have perCell nodes, listed in cellNodes; returns numNodes. */
-    static int checkFixed(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell, int[] cellNodes,
-            String name) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, perCell, cellNodes, name);
-        return numNodes;
-    }
-
-    /** Checks the nodes (z may be null); returns numNodes. */
-    static int nodes(int numNodes, float[] x, float[] y, float[] z) {
-        Checks.count(numNodes, "numNodes");
-        Checks.length(x, numNodes, "x");
-        Checks.length(y, numNodes, "y");
-        Checks.optional(z, numNodes, "z");
-        return numNodes;
-    }
-
-    static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
-            int[] cellIndex) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, cellTypes, cellIndex, 3, 4);
-        return numNodes;
     }
 
     /**

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.nio.FloatBuffer;
 
@@ -56,7 +57,7 @@ public class PbIndexedMesh3D extends PbMesh3D {
      */
     public PbIndexedMesh3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex, boolean isDataDuplicated) {
-        super(ctorImpl2(check(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
+        super(ctorImpl2(Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
                 cellIndex, isDataDuplicated));
     }
 
@@ -74,31 +75,9 @@ public class PbIndexedMesh3D extends PbMesh3D {
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
         long h = handle();
-        setGeometryImpl(h, check(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
+        setGeometryImpl(h, Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
                 cellIndex);
         geometryChanged();
-    }
-
-    /** Checks a mesh whose cells all have perCell nodes, listed in cellNodes; returns numNodes. */
-    static int checkFixed(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell, int[] cellNodes,
-            String name) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, perCell, cellNodes, name);
-        return numNodes;
-    }
-
-    /** Checks the nodes; returns numNodes. */
-    static int nodes(int numNodes, float[] x, float[] y, float[] z) {
-        Checks.count(numNodes, "numNodes");
-        Checks.length(x, numNodes, "x");
-        Checks.length(y, numNodes, "y");
-        Checks.length(z, numNodes, "z");
-        return numNodes;
-    }
-
-    static int check(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
-            int[] cellIndex) {
-        Checks.cells(nodes(numNodes, x, y, z), numCells, cellTypes, cellIndex, 4, 5, 6, 8);
-        return numNodes;
     }
 
     /**

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -50,7 +51,7 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
      */
     public PbQuadrangleMesh2D(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(checkFixed(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x, y,
+        super(ctorImpl2(Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x, y,
                 numQuadrangles, quadrangleNodes, isDataDuplicated));
     }
 
@@ -67,7 +68,7 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
      */
     public PbQuadrangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles, int[] quadrangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
+        super(ctorImpl3(Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
                 "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes, isDataDuplicated));
     }
 
@@ -82,7 +83,7 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
         long h = handle();
-        setGeometryImpl(h, checkFixed(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x,
+        setGeometryImpl(h, Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x,
                 y, numQuadrangles, quadrangleNodes);
         geometryChanged();
     }
@@ -100,7 +101,7 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles,
             int[] quadrangleNodes) {
         long h = handle();
-        setGeometryImpl1(h, checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
+        setGeometryImpl1(h, Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
                 "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes);
         geometryChanged();
     }

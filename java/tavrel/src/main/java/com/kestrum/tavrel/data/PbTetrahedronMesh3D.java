@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -51,7 +52,7 @@ public class PbTetrahedronMesh3D extends PbIndexedMesh3D {
      */
     public PbTetrahedronMesh3D(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedraNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(checkFixed(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y, z,
+        super(ctorImpl2(Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y, z,
                 numTetrahedra, tetrahedraNodes, isDataDuplicated));
     }
 
@@ -67,7 +68,7 @@ public class PbTetrahedronMesh3D extends PbIndexedMesh3D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedraNodes) {
         long h = handle();
-        setGeometryImpl(h, checkFixed(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y,
+        setGeometryImpl(h, Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y,
                 z, numTetrahedra, tetrahedraNodes);
         geometryChanged();
     }

@@ -1,5 +1,6 @@
 package com.kestrum.tavrel.data;
 
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
@@ -50,7 +51,7 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      */
     public PbTriangleMesh2D(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl2(checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
+        super(ctorImpl2(Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
                 numTriangles, triangleNodes, isDataDuplicated));
     }
 
@@ -67,7 +68,7 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      */
     public PbTriangleMesh2D(int numNodes, float[] x, float[] y, float[] z, int numTriangles, int[] triangleNodes,
             boolean isDataDuplicated) {
-        super(ctorImpl3(checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+        super(ctorImpl3(Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
                 "triangleNodes"), x, y, z, numTriangles, triangleNodes, isDataDuplicated));
     }
 
@@ -82,7 +83,7 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
         long h = handle();
-        setGeometryImpl(h, checkFixed(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
+        setGeometryImpl(h, Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
                 numTriangles, triangleNodes);
         geometryChanged();
     }
@@ -100,7 +101,7 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles,
             int[] triangleNodes) {
         long h = handle();
-        setGeometryImpl2(h, checkFixed(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
+        setGeometryImpl2(h, Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
                 "triangleNodes"), x, y, z, numTriangles, triangleNodes);
         geometryChanged();
     }
@@ -115,7 +116,7 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y) {
         long h = handle();
-        setGeometryImpl1(h, nodes(numNodes, x, y, null), x, y);
+        setGeometryImpl1(h, Checks.nodes2D(numNodes, x, y, null), x, y);
         geometryChanged();
     }
 

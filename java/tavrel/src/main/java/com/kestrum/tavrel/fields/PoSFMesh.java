@@ -4,7 +4,7 @@ import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.fields.SoField;
 import com.kestrum.corvel.misc.ManagedObjects;
 import com.kestrum.corvel.nodes.SoNode;
-import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.MeshViews;

@@ -1,7 +1,7 @@
 package com.kestrum.tavrel.fields;
 
 import com.kestrum.corvel.nodes.SoNode;
-import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.data.PbRegularCartesianGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.nodes.PoRegularCartesianGrid2D;

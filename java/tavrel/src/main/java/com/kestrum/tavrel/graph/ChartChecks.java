@@ -34,14 +34,14 @@ final class ChartChecks {
             }
             return false;
         }
-        com.kestrum.tavrel.data.Checks.length(points, numPoints, name);
+        com.kestrum.tavrel.internal.Checks.length(points, numPoints, name);
         return true;
     }
 
     /** The slices of a pie chart: a count the toolkit's short holds, with that many names and values. */
     static int slices(int numSlices, String[] names, float[] values) {
         Checks.count(numSlices, Short.MAX_VALUE, "numSlices");
-        com.kestrum.tavrel.data.Checks.length(names, numSlices, "names");
+        com.kestrum.tavrel.internal.Checks.length(names, numSlices, "names");
         Checks.length(values, numSlices, "values");
         return numSlices;
     }

@@ -8,13 +8,13 @@ import com.kestrum.corvel.SbVec3f;
  * Argument checks made before any native call of this package: the native methods check
  * nothing, so every array the toolkit reads must be present and long enough, and every count
  * must be one the toolkit can use. The checks shared with the meshes are those of
- * {@link com.kestrum.tavrel.data.Checks}; these are the ones of the graph classes.
+ * {@link com.kestrum.tavrel.internal.Checks}; these are the ones of the graph classes.
  */
 final class Checks {
     private Checks() {}
 
     static <T> T notNull(T value, String name) {
-        return com.kestrum.tavrel.data.Checks.notNull(value, name);
+        return com.kestrum.tavrel.internal.Checks.notNull(value, name);
     }
 
     /** A count from 0 to max. */
@@ -30,7 +30,7 @@ final class Checks {
 
     /** A float array of at least `needed` elements. */
     static float[] length(float[] array, long needed, String name) {
-        return com.kestrum.tavrel.data.Checks.length(array, needed, name);
+        return com.kestrum.tavrel.internal.Checks.length(array, needed, name);
     }
 
     /**
@@ -39,7 +39,7 @@ final class Checks {
      */
     static SbColor[] colors(SbColor[] colors, long needed, String name) {
         return colors == null ? null
-                : com.kestrum.tavrel.data.Checks.vectors(com.kestrum.tavrel.data.Checks.length(colors, needed, name),
+                : com.kestrum.tavrel.internal.Checks.vectors(com.kestrum.tavrel.internal.Checks.length(colors, needed, name),
                         name);
     }
 
@@ -55,17 +55,17 @@ final class Checks {
 
     /** 2D points that are all read: the array, and every element a vector the conversion can read. */
     static SbVec2f[] vectors(SbVec2f[] vectors, String name) {
-        return com.kestrum.tavrel.data.Checks.vectors(notNull(vectors, name), name);
+        return com.kestrum.tavrel.internal.Checks.vectors(notNull(vectors, name), name);
     }
 
     /** 3D points that are all read: the array, and every element a vector the conversion can read. */
     static SbVec3f[] vectors(SbVec3f[] vectors, String name) {
-        return com.kestrum.tavrel.data.Checks.vectors(notNull(vectors, name), name);
+        return com.kestrum.tavrel.internal.Checks.vectors(notNull(vectors, name), name);
     }
 
     /** Strings of which `needed` are read: at least that many, none of those null. */
     static String[] strings(String[] strings, long needed, String name) {
-        com.kestrum.tavrel.data.Checks.length(strings, needed, name);
+        com.kestrum.tavrel.internal.Checks.length(strings, needed, name);
         for (int i = 0; i < needed; i++) {
             if (strings[i] == null) {
                 throw new NullPointerException(name + "[" + i + "] is null");

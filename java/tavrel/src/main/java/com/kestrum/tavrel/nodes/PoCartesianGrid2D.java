@@ -1,6 +1,6 @@
 package com.kestrum.tavrel.nodes;
 
-import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.data.PbCartesianGrid2D;
 import com.kestrum.tavrel.internal.JarInitializer;
 

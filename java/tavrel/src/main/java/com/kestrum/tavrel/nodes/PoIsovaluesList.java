@@ -1,7 +1,7 @@
 package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.nodes.SoNode;
-import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.graph.PbIsovaluesList;
 import com.kestrum.tavrel.graph.PbIsovaluesList.IsoList;
 import com.kestrum.tavrel.internal.JarInitializer;

@@ -2,7 +2,7 @@ package com.kestrum.tavrel.nodes;
 
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.corvel.nodes.SoNode;
-import com.kestrum.tavrel.data.Checks;
+import com.kestrum.tavrel.internal.Checks;
 import com.kestrum.tavrel.data.PbMesh;
 import com.kestrum.tavrel.internal.JarInitializer;
 import com.kestrum.tavrel.internal.MeshViews;

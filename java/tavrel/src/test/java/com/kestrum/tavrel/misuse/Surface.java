@@ -51,7 +51,7 @@ import java.util.stream.Collectors;
 /**
  * The public API the misuse run drives: every public class of the product's packages (found on
  * the class path, so a class joins when it lands; all of {@code com.kestrum.tavrel} and below but
- * the package {@code internal} and the argument checks {@code data.Checks}), the binding core's
+ * the package {@code internal}), the binding core's
  * classes that they take as arguments, and this package's Java-extended nodes and elements. Constructors and methods are sorted by
  * signature, so that a seed always makes the same choices.
  */
@@ -62,8 +62,6 @@ final class Surface {
     static final String INTERNAL = "com.kestrum.tavrel.internal";
     /** The driver's own packages (tests), under the product's name. */
     private static final List<String> TEST_PACKAGES = List.of("com.kestrum.tavrel.misuse.", "com.kestrum.tavrel.testkit.");
-    /** Public classes that are not API: the argument checks shared by the product's packages. */
-    private static final List<String> NOT_API = List.of("com.kestrum.tavrel.data.Checks");
 
     /** The binding core's classes that the product's methods take or return. */
     static final List<Class<?>> BINDING_CORE = List.of(
@@ -168,11 +166,9 @@ final class Surface {
         withStatics = List.copyOf(staticsByClass.keySet());
     }
 
-    /** A product class name that the run must reach (not internal, not a test class, not Checks). */
+    /** A product class name that the run must reach (not internal, not a test class). */
     static boolean isProductClassName(String name) {
-        String outer = name.contains("$") ? name.substring(0, name.indexOf('$')) : name;
-        return name.startsWith(PRODUCT + ".") && !name.startsWith(INTERNAL + ".") && !isTestClassName(name)
-                && !NOT_API.contains(outer);
+        return name.startsWith(PRODUCT + ".") && !name.startsWith(INTERNAL + ".") && !isTestClassName(name);
     }
 
     /** A frame of the product's or the binding core's code (where an exception must be deliberate). */

@@ -1,4 +1,4 @@
-package com.kestrum.tavrel.data;
+package com.kestrum.tavrel.internal;
 
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;

@@ -1,4 +1,4 @@
-package com.kestrum.tavrel.data;
+package com.kestrum.tavrel.internal;
 
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;
@@ -171,12 +171,18 @@ public final class Checks {
      * per row (perAxis); z, when not null, one per node.
      */
     public static void grid2D(int numX, int numY, float[] x, float[] y, float[] z, boolean perAxis) {
-        PbGrid2D.checkArrays(numX, numY, x, y, z, perAxis);
+        int n = product(count(numX, "numX"), count(numY, "numY"));
+        length(x, perAxis ? numX : n, "x");
+        length(y, perAxis ? numY : n, "y");
+        optional(z, n, "z");
     }
 
     /** The arrays of a 3D grid: one value per node, or per index along each axis (perAxis). */
     public static void grid3D(int numX, int numY, int numZ, float[] x, float[] y, float[] z, boolean perAxis) {
-        PbGrid3D.checkArrays(numX, numY, numZ, x, y, z, perAxis);
+        int n = product(count(numX, "numX"), count(numY, "numY"), count(numZ, "numZ"));
+        length(x, perAxis ? numX : n, "x");
+        length(y, perAxis ? numY : n, "y");
+        length(z, perAxis ? numZ : n, "z");
     }
 
     /** The node counts of a regular grid (and its elevations, one per node, when not null). */
@@ -189,33 +195,56 @@ public final class Checks {
         optional(z, product(checked), "z");
     }
 
-    /** The nodes of a mesh (z may be null) and cells of 3 or 4 nodes (cellTypes, cellIndex). */
-    public static void indexedMesh2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+    /**
+     * The nodes of a mesh (z may be null) and cells of 3 or 4 nodes (cellTypes, cellIndex);
+     * returns numNodes.
+     */
+    public static int indexedMesh2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
-        PbIndexedMesh2D.check(numNodes, x, y, z, numCells, cellTypes, cellIndex);
+        cells(nodes2D(numNodes, x, y, z), numCells, cellTypes, cellIndex, 3, 4);
+        return numNodes;
     }
 
-    /** The nodes of a 2D mesh (z may be null) and cells of perCell nodes each, listed in cellNodes. */
-    public static void fixedCells2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell,
+    /**
+     * The nodes of a 2D mesh (z may be null) and cells of perCell nodes each, listed in cellNodes;
+     * returns numNodes.
+     */
+    public static int fixedCells2D(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell,
             int[] cellNodes, String name) {
-        PbIndexedMesh2D.checkFixed(numNodes, x, y, z, numCells, perCell, cellNodes, name);
+        cells(nodes2D(numNodes, x, y, z), numCells, perCell, cellNodes, name);
+        return numNodes;
     }
 
-    /** The nodes of a 2D mesh without cells (z may be null). */
-    public static void nodes2D(int numNodes, float[] x, float[] y, float[] z) {
-        PbIndexedMesh2D.nodes(numNodes, x, y, z);
+    /** The nodes of a 2D mesh without cells (z may be null); returns numNodes. */
+    public static int nodes2D(int numNodes, float[] x, float[] y, float[] z) {
+        count(numNodes, "numNodes");
+        length(x, numNodes, "x");
+        length(y, numNodes, "y");
+        optional(z, numNodes, "z");
+        return numNodes;
     }
 
-    /** The nodes of a 3D mesh and cells of 4, 5, 6 or 8 nodes (cellTypes, cellIndex). */
-    public static void indexedMesh3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
+    /** The nodes of a 3D mesh without cells; returns numNodes. */
+    public static int nodes3D(int numNodes, float[] x, float[] y, float[] z) {
+        count(numNodes, "numNodes");
+        length(x, numNodes, "x");
+        length(y, numNodes, "y");
+        length(z, numNodes, "z");
+        return numNodes;
+    }
+
+    /** The nodes of a 3D mesh and cells of 4, 5, 6 or 8 nodes (cellTypes, cellIndex); returns numNodes. */
+    public static int indexedMesh3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
-        PbIndexedMesh3D.check(numNodes, x, y, z, numCells, cellTypes, cellIndex);
+        cells(nodes3D(numNodes, x, y, z), numCells, cellTypes, cellIndex, 4, 5, 6, 8);
+        return numNodes;
     }
 
-    /** The nodes of a 3D mesh and cells of perCell nodes each, listed in cellNodes. */
-    public static void fixedCells3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell,
+    /** The nodes of a 3D mesh and cells of perCell nodes each, listed in cellNodes; returns numNodes. */
+    public static int fixedCells3D(int numNodes, float[] x, float[] y, float[] z, int numCells, int perCell,
             int[] cellNodes, String name) {
-        PbIndexedMesh3D.checkFixed(numNodes, x, y, z, numCells, perCell, cellNodes, name);
+        cells(nodes3D(numNodes, x, y, z), numCells, perCell, cellNodes, name);
+        return numNodes;
     }
 
     /** The nodes of a 1D mesh at the abscissas x. */
