@@ -6,6 +6,11 @@
 #include <Corvel/SoState.h>
 #include <Corvel/SoSubClass.h>
 
+#include "../common/CachedCast.h"
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
 #include <mutex>
 #include <vector>
 
@@ -14,10 +19,17 @@ SoType elementType;
 SoType replacedElementType;
 
 // Stack indices (the type that created each) and the types enabled on them.
-std::mutex stacksMutex;
-std::vector<SoType> creators;
-std::vector<SoType> enabled;
+// Stacks are made while classes register and read on every access to a
+// state's element: the readers take no lock (a stack's entries are written
+// before the count that shows it).
+constexpr int kMaxStacks = 4096;
+std::mutex stacksMutex;  // the writers'
+std::atomic<SoType> creators[kMaxStacks];
+std::atomic<SoType> enabled[kMaxStacks];
+std::atomic<int> numStacks{0};
 unsigned short lastKey = 0;
+
+bool validStack(int stackIndex) { return stackIndex >= 0 && stackIndex < numStacks.load(std::memory_order_acquire); }
 }  // namespace
 
 // --- SoElement -----------------------------------------------------------------------
@@ -55,9 +67,15 @@ int SoElement::createStackIndex(SoType id) {
 
 int SoElement::makeStackIndex(SoType id) {
   std::lock_guard<std::mutex> lock(stacksMutex);
-  creators.push_back(id);
-  enabled.push_back(id);
-  return static_cast<int>(creators.size()) - 1;
+  const int index = numStacks.load(std::memory_order_relaxed);
+  if (index == kMaxStacks) {
+    std::fprintf(stderr, "toolkit: more than %d element stacks\n", kMaxStacks);
+    std::abort();
+  }
+  creators[index].store(id, std::memory_order_relaxed);
+  enabled[index].store(id, std::memory_order_relaxed);
+  numStacks.store(index + 1, std::memory_order_release);
+  return index;
 }
 
 unsigned short SoElement::createElementKey() {
@@ -67,15 +85,10 @@ unsigned short SoElement::createElementKey() {
   return lastKey;
 }
 
-int SoElement::getNumStackIndices() {
-  std::lock_guard<std::mutex> lock(stacksMutex);
-  return static_cast<int>(creators.size());
-}
+int SoElement::getNumStackIndices() { return numStacks.load(std::memory_order_acquire); }
 
 SoType SoElement::getIdFromStackIndex(int stackIndex) {
-  std::lock_guard<std::mutex> lock(stacksMutex);
-  if (stackIndex < 0 || stackIndex >= static_cast<int>(creators.size())) return SoType::badType();
-  return creators[stackIndex];
+  return validStack(stackIndex) ? creators[stackIndex].load(std::memory_order_relaxed) : SoType::badType();
 }
 
 SoElement* SoElement::getElement(SoState* state, int stackIndex) { return state->getElementForWriting(stackIndex); }
@@ -89,16 +102,14 @@ const SoElement* SoElement::getConstElement(SoState* state, int stackIndex) {
 bool SoAction::enableElement(SoType type, int stackIndex) {
   CallJournal::record("SoAction::enableElement", type, stackIndex);
   std::lock_guard<std::mutex> lock(stacksMutex);
-  if (stackIndex < 0 || stackIndex >= static_cast<int>(creators.size())) return false;
-  if (type.isBad() || !type.isDerivedFrom(creators[stackIndex])) return false;
-  enabled[stackIndex] = type;
+  if (!validStack(stackIndex)) return false;
+  if (type.isBad() || !type.isDerivedFrom(creators[stackIndex].load(std::memory_order_relaxed))) return false;
+  enabled[stackIndex].store(type, std::memory_order_release);
   return true;
 }
 
 SoType SoAction::getEnabledElement(int stackIndex) {
-  std::lock_guard<std::mutex> lock(stacksMutex);
-  if (stackIndex < 0 || stackIndex >= static_cast<int>(enabled.size())) return SoType::badType();
-  return enabled[stackIndex];
+  return validStack(stackIndex) ? enabled[stackIndex].load(std::memory_order_acquire) : SoType::badType();
 }
 
 // --- SoReplacedElement ---------------------------------------------------------------
@@ -122,13 +133,13 @@ void SoReplacedElement::commonInit() { node = nullptr; }
 void SoReplacedElement::init(SoState*) { setNode(nullptr); }
 
 SbBool SoReplacedElement::matches(const SoElement* element) const {
-  const auto* other = dynamic_cast<const SoReplacedElement*>(element);
+  const auto* other = tk::cachedCast<const SoReplacedElement>(element);
   return other != nullptr && other->node == node;
 }
 
 SoElement* SoReplacedElement::copyMatchInfo() const {
   auto* copy = static_cast<SoElement*>(getTypeId().createInstance());
-  if (auto* replaced = dynamic_cast<SoReplacedElement*>(copy)) replaced->setNode(node);
+  if (auto* replaced = tk::cachedCast<SoReplacedElement>(copy)) replaced->setNode(node);
   return copy;
 }
 
@@ -137,13 +148,14 @@ void SoReplacedElement::print(FILE* fp) const {
 }
 
 void SoReplacedElement::setNode(SoNode* n) {
+  if (n == node) return;
   if (n != nullptr) n->ref();
   if (node != nullptr) node->unref();
   node = n;
 }
 
 SoReplacedElement* SoReplacedElement::getElement(SoState* state, int stackIndex, SoNode* n) {
-  auto* element = dynamic_cast<SoReplacedElement*>(SoElement::getElement(state, stackIndex));
+  auto* element = tk::cachedCast<SoReplacedElement>(SoElement::getElement(state, stackIndex));
   if (element != nullptr) element->setNode(n);
   return element;
 }

@@ -1,6 +1,9 @@
 #include <Corvel/CallJournal.h>
 #include <Corvel/SoType.h>
 
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <mutex>
 #include <string>
@@ -14,10 +17,35 @@ struct TypeEntry {
   short data;
 };
 
+// Types are made while classes register and read on every traversal (a
+// parent, a creation method): an entry never changes once made, so readers
+// take no lock. Entries live in blocks that never move; a block is published
+// before the count that shows its entries.
+constexpr unsigned int kBlockBits = 10;
+constexpr unsigned int kBlockSize = 1u << kBlockBits;
+constexpr unsigned int kMaxBlocks = 256;
+
 struct TypeTable {
-  std::mutex mutex;
-  std::vector<TypeEntry> entries{TypeEntry{"", 0, nullptr, 0}};  // entry 0: the bad type
+  std::mutex mutex;  // the writers'
+  std::atomic<TypeEntry*> blocks[kMaxBlocks] = {};
+  std::atomic<unsigned int> count{0};
   std::map<std::string, unsigned int> byName;
+
+  TypeTable() { add(TypeEntry{"", 0, nullptr, 0}); }  // entry 0: the bad type
+
+  unsigned int add(TypeEntry entry) {
+    const unsigned int key = count.load(std::memory_order_relaxed);
+    const unsigned int block = key >> kBlockBits;
+    if (block == kMaxBlocks) {
+      std::fprintf(stderr, "toolkit: more than %u types\n", kMaxBlocks * kBlockSize);
+      std::abort();
+    }
+    if (blocks[block].load(std::memory_order_relaxed) == nullptr)
+      blocks[block].store(new TypeEntry[kBlockSize], std::memory_order_relaxed);
+    blocks[block].load(std::memory_order_relaxed)[key & (kBlockSize - 1)] = std::move(entry);
+    count.store(key + 1, std::memory_order_release);
+    return key;
+  }
 };
 
 TypeTable& table() {
@@ -25,10 +53,10 @@ TypeTable& table() {
   return *t;
 }
 
-TypeEntry entryOf(unsigned int key) {
+const TypeEntry& entryOf(unsigned int key) {
   TypeTable& t = table();
-  std::lock_guard<std::mutex> lock(t.mutex);
-  return key < t.entries.size() ? t.entries[key] : t.entries[0];
+  if (key >= t.count.load(std::memory_order_acquire)) key = 0;
+  return t.blocks[key >> kBlockBits].load(std::memory_order_relaxed)[key & (kBlockSize - 1)];
 }
 }  // namespace
 
@@ -36,8 +64,7 @@ SoType SoType::createType(SoType parent, const SbName& name, CreateMethod method
   CallJournal::record("SoType::createType", parent, name, journalFn(method), data);
   TypeTable& t = table();
   std::lock_guard<std::mutex> lock(t.mutex);
-  unsigned int key = static_cast<unsigned int>(t.entries.size());
-  t.entries.push_back(TypeEntry{name.getString(), parent.storage, method, data});
+  const unsigned int key = t.add(TypeEntry{name.getString(), parent.storage, method, data});
   t.byName[name.getString()] = key;
   return SoType(key);
 }
@@ -52,8 +79,7 @@ SoType SoType::fromName(const SbName& name) {
 
 int SoType::getNumTypes() {
   TypeTable& t = table();
-  std::lock_guard<std::mutex> lock(t.mutex);
-  return static_cast<int>(t.entries.size()) - 1;
+  return static_cast<int>(t.count.load(std::memory_order_acquire)) - 1;
 }
 
 SbName SoType::getName() const { return SbName(entryOf(storage).name); }

@@ -21,6 +21,7 @@
 #include <Tavrel/PoMiscTextAttrElement.h>
 #include <Tavrel/PoNumericDisplayFormatElement.h>
 #include <Tavrel/PoProfileElement.h>
+#include "../common/CachedCast.h"
 
 #include <cmath>
 
@@ -150,7 +151,7 @@ const PoCellFilter* PoCellFilterElement::get(SoState* state) {
 
 void PoCellFilterElement::setValue(SoState* state, SoNode* node) {
   auto* e = static_cast<PoCellFilterElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
-  if (e != nullptr) e->filter = dynamic_cast<const PoCellFilter*>(node);
+  if (e != nullptr) e->filter = tk::cachedCast<const PoCellFilter>(node);
 }
 
 const PoCellFilter* PoCellFilterElement::current(SoState* state) {
@@ -261,9 +262,9 @@ void PoMeshElement::setValue(SoState* state, SoNode* node, const PbMesh* m) {
   auto* e = static_cast<PoMeshElement*>(SoReplacedElement::getElement(state, registeredStackIndex(), node));
   if (e == nullptr) return;
   e->mesh = m;
-  e->mesh1D = dynamic_cast<const PbMesh1D*>(m);
-  e->mesh2D = dynamic_cast<const PbMesh2D*>(m);
-  e->mesh3D = dynamic_cast<const PbMesh3D*>(m);
+  e->mesh1D = tk::cachedCast<const PbMesh1D>(m);
+  e->mesh2D = tk::cachedCast<const PbMesh2D>(m);
+  e->mesh3D = tk::cachedCast<const PbMesh3D>(m);
 }
 
 const PbMesh* PoMeshElement::current(SoState* state) {

@@ -7,6 +7,8 @@
 #include <Tavrel/PoNode.h>
 #include <Tavrel/PoPropertyNode.h>
 
+#include "../common/CachedCast.h"
+
 SO_NODE_ABSTRACT_SOURCE(PoNode, SoNode, "PoNode")
 
 PoNode::PoNode() = default;
@@ -16,11 +18,11 @@ namespace {
 // A cell filter becomes the state's current one, a mesh node's mesh the
 // state's current mesh (see PoNode.h).
 void enterState(PoNode* node, SoAction* action) {
-  if (const auto* filter = dynamic_cast<const PoCellFilter*>(node))
+  if (const auto* filter = tk::cachedCast<const PoCellFilter>(node))
     filter->makeCurrent(action);
-  else if (const auto* property = dynamic_cast<const PoMeshProperty*>(node))
+  else if (const auto* property = tk::cachedCast<const PoMeshProperty>(node))
     property->makeCurrent(action);
-  else if (const auto* setter = dynamic_cast<const PoStateSetter*>(node))
+  else if (const auto* setter = tk::cachedCast<const PoStateSetter>(node))
     setter->makeCurrent(action);
 }
 }  // namespace

@@ -78,6 +78,11 @@ float readFloat(const SoField* field, float defaultValue) {
 
 int readInt(const SoField* field, int defaultValue) {
   const char* text = textOf(field);
+  // A few plain digits, the usual text, read here; anything else as strtol reads it.
+  int digits = 0;
+  int value = 0;
+  while (digits < 9 && text[digits] >= '0' && text[digits] <= '9') value = value * 10 + (text[digits++] - '0');
+  if (digits > 0 && text[digits] == '\0') return value;
   char* end = nullptr;
   const long v = std::strtol(text, &end, 10);
   if (end == text || v < -2147483647L - 1 || v > 2147483647L) return defaultValue;

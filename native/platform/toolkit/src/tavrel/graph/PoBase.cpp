@@ -14,6 +14,8 @@
 
 #include <atomic>
 
+#include "../../common/CachedCast.h"
+
 // --- types and catalogs --------------------------------------------------------
 
 PO_GRAPH_KIT_ABSTRACT_SOURCE(PoBase, SoBaseKit, "PoBase", {"topSeparator", "appearance", "transform"})
@@ -152,7 +154,7 @@ void PoBase::rebuildForTraversal() {
 }
 
 void PoBase::draw(SoGLRenderAction* action) {
-  if (const auto* drawing = dynamic_cast<const PoDrawing*>(this)) drawing->drawInto(action);
+  if (const auto* drawing = tk::cachedCast<const PoDrawing>(this)) drawing->drawInto(action);
 }
 
 void PoBase::GLRender(SoGLRenderAction* action) {

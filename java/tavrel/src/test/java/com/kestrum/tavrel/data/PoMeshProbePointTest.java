@@ -200,6 +200,18 @@ class PoMeshProbePointTest {
             assertEquals(List.of("shared@ce11a0", "shared@ce11b0"), briefs());
             assertSame(probe, events.get(0).probe());
             assertSame(other, events.get(1).probe());
+            Probes.raise(handle, ENTER_MESH, CELL_A);
+            assertSame(probe, events.get(2).probe());
+            // a probe disposed, and a new one (perhaps at the same address) with the same callback
+            other.dispose();
+            PoMeshProbePoint next = new PoMeshProbePoint();
+            try {
+                next.setLeaveMeshCallback(callback, "data");
+                Probes.raise(next.getNativeResourceHandleInternal(), LEAVE_MESH, CELL_B);
+                assertSame(next, events.get(3).probe());
+            } finally {
+                next.dispose();
+            }
         } finally {
             other.dispose();
         }

@@ -50,9 +50,16 @@ public class PoProbeCB extends CallbackObject<PoProbeCB.Listener> {
         super(listener, PoProbeCB::constructor);
     }
 
+    /**
+     * The probe of the last event: a callback object usually serves one probe, found again by its
+     * address while it lives (a disposed probe has address 0 and is looked up anew).
+     */
+    private PoMeshProbePoint lastProbe;
+
     /** Called by the native bridge with the addresses of the probe and of the cell (or 0). */
     private void invokeNativ(long probe, long cell) {
-        PoMeshProbePoint probeObject = JavaViews.find(PoMeshProbePoint.class, probe, null);
+        PoMeshProbePoint probeObject = JavaViews.find(PoMeshProbePoint.class, probe, lastProbe);
+        lastProbe = probeObject;
         // A view of the cell that knows the probe's mesh, so that it stops working once the mesh
         // frees its cells.
         PbCell cellView = JavaViews.viewIn(PbCell.class, cell, probeObject);
