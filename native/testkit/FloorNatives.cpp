@@ -6,9 +6,19 @@
 
 #include <jni.h>
 
+#include <Corvel/SbColor.h>
+#include <Corvel/SbVec.h>
+#include <Tavrel/PbIsovaluesList.h>
 #include <Tavrel/PbMesh.h>
 #include <Tavrel/PoBase.h>
+#include <Tavrel/PoCurve.h>
 #include <Tavrel/PoMeshProbePoint.h>
+#include <Tavrel/PoMultipleHistogram.h>
+#include <Tavrel/PoPieChart2D.h>
+#include <Tavrel/PoValuedMarkerField.h>
+
+#include <string>
+#include <vector>
 
 #include "common/Handles.h"
 
@@ -300,6 +310,146 @@ JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_stringArray(JN
     env->DeleteLocalRef(s);
   }
   return bytes;
+}
+
+// The bulk conversions with the toolkit's own work: each floor below reads its
+// Java arrays with the JNI calls of the conversion floors above, into native
+// arrays, and hands them to the toolkit as the node's constructor does (a
+// node is then referenced and released, as a Java object's disposal does).
+// What a build costs beyond one of these is the binding's own work.
+
+}  // extern "C"
+
+namespace {
+// The components of vector objects, k a vector, one vector after the other.
+std::vector<float> componentsOf(JNIEnv* env, jobjectArray vectors, int k) {
+  const jsize n = env->GetArrayLength(vectors);
+  std::vector<float> out(static_cast<std::size_t>(n) * k);
+  if (n == 0) return out;
+  jobject first = env->GetObjectArrayElement(vectors, 0);
+  jclass cls = env->GetObjectClass(first);
+  jfieldID field = env->GetFieldID(cls, "array", "[F");
+  env->DeleteLocalRef(cls);
+  env->DeleteLocalRef(first);
+  for (jsize i = 0; i < n; ++i) {
+    jobject element = env->GetObjectArrayElement(vectors, i);
+    jfloatArray floats = static_cast<jfloatArray>(env->GetObjectField(element, field));
+    jfloat* components = env->GetFloatArrayElements(floats, nullptr);
+    for (int c = 0; c < k; ++c) out[static_cast<std::size_t>(i) * k + c] = components[c];
+    env->ReleaseFloatArrayElements(floats, components, JNI_ABORT);
+    env->DeleteLocalRef(floats);
+    env->DeleteLocalRef(element);
+  }
+  return out;
+}
+
+std::vector<SbVec2f> points2Of(JNIEnv* env, jobjectArray vectors) {
+  const std::vector<float> c = componentsOf(env, vectors, 2);
+  std::vector<SbVec2f> out;
+  out.reserve(c.size() / 2);
+  for (std::size_t i = 0; i + 1 < c.size(); i += 2) out.emplace_back(c[i], c[i + 1]);
+  return out;
+}
+
+// A float[]'s elements, released without copy back when this goes.
+class Floats {
+ public:
+  Floats(JNIEnv* env, jfloatArray array) : env(env), array(array), data(env->GetFloatArrayElements(array, nullptr)) {}
+  ~Floats() { env->ReleaseFloatArrayElements(array, data, JNI_ABORT); }
+  Floats(const Floats&) = delete;
+  Floats& operator=(const Floats&) = delete;
+  const float* get() const { return data; }
+
+ private:
+  JNIEnv* env;
+  jfloatArray array;
+  jfloat* data;
+};
+
+// A String[] read as UTF-8 text (the benchmarks' names are ASCII, narrowed as
+// they are read), kept in one native buffer: per string the element, its
+// length, its characters and the deletion, the JNI calls of the binding
+// core's conversion.
+class Utf8Strings {
+ public:
+  Utf8Strings(JNIEnv* env, jobjectArray strings) {
+    const jsize n = env->GetArrayLength(strings);
+    std::vector<std::size_t> starts(static_cast<std::size_t>(n));
+    std::u16string chars;
+    for (jsize i = 0; i < n; ++i) {
+      jstring s = static_cast<jstring>(env->GetObjectArrayElement(strings, i));
+      const jsize length = env->GetStringLength(s);
+      if (chars.size() < static_cast<std::size_t>(length)) chars.resize(static_cast<std::size_t>(length));
+      env->GetStringRegion(s, 0, length, reinterpret_cast<jchar*>(&chars[0]));
+      env->DeleteLocalRef(s);
+      starts[static_cast<std::size_t>(i)] = text.size();
+      for (jsize c = 0; c < length; ++c) text += static_cast<char>(chars[static_cast<std::size_t>(c)]);
+      text += '\0';
+    }
+    pointers.reserve(starts.size());
+    for (std::size_t start : starts) pointers.push_back(text.data() + start);
+  }
+  const char** get() { return pointers.data(); }
+
+ private:
+  std::string text;
+  std::vector<const char*> pointers;
+};
+
+// A node made, referenced and released.
+template <class Node>
+jlong madeAndReleased(Node* node) {
+  node->ref();
+  node->unref();
+  return 1;
+}
+}  // namespace
+
+extern "C" {
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_curveWithToolkit(JNIEnv* env, jclass,
+                                                                                  jobjectArray points) {
+  const std::vector<SbVec2f> p = points2Of(env, points);
+  return madeAndReleased(new PoCurve(static_cast<int>(p.size()), p.data(), PoCurve::CURVEPOLYLINE));
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_markerFieldWithToolkit(
+    JNIEnv* env, jclass, jobjectArray points, jfloatArray values1, jfloatArray values2) {
+  const std::vector<SbVec2f> p = points2Of(env, points);
+  Floats v1(env, values1);
+  Floats v2(env, values2);
+  return madeAndReleased(new PoValuedMarkerField(static_cast<int>(p.size()), p.data(), v1.get(), v2.get()));
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_multipleHistogramWithToolkit(
+    JNIEnv* env, jclass, jint numHistog, jint numValues, jfloatArray values, jobjectArray histogNames,
+    jobjectArray valueNames) {
+  Utf8Strings histogs(env, histogNames);
+  Utf8Strings labels(env, valueNames);
+  Floats v(env, values);
+  return madeAndReleased(new PoMultipleHistogram(SbVec2f(0, 0), 6, PoHistogram::X, numHistog, numValues, v.get(),
+                                                 histogs.get(), labels.get()));
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_isovaluesWithToolkit(JNIEnv* env, jclass,
+                                                                                      jlong list, jfloatArray values) {
+  Floats v(env, values);
+  tavrel::fromHandle<PbIsovaluesList>(list)->setIrregularIsoList(env->GetArrayLength(values), v.get());
+  return 1;
+}
+
+JNIEXPORT jlong JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_pieChartWithToolkit(JNIEnv* env, jclass,
+                                                                                     jobjectArray names,
+                                                                                     jfloatArray values,
+                                                                                     jobjectArray colors) {
+  Utf8Strings n(env, names);
+  Floats v(env, values);
+  const std::vector<float> c = componentsOf(env, colors, 3);
+  std::vector<SbColor> colours;
+  colours.reserve(c.size() / 3);
+  for (std::size_t i = 0; i + 2 < c.size(); i += 3) colours.emplace_back(c[i], c[i + 1], c[i + 2]);
+  return madeAndReleased(new PoPieChart2D(SbVec2f(0, 0), 1, static_cast<short>(env->GetArrayLength(values)), n.get(),
+                                          v.get(), static_cast<int>(colours.size()), colours.data()));
 }
 
 }  // extern "C"

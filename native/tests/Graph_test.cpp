@@ -149,6 +149,50 @@ TEST(PbNonLinearDataMapping2, LevelsAndLinearLevelsGiveTheirColours) {
   expectColor(m.colorOf(1), 0, 0, 0);
 }
 
+// The smallest and largest value of an irregular list are those of a loop over the values in
+// order that keeps a value only when strictly smaller (larger): a NaN first is kept, later NaNs
+// are passed over, and of +0 and -0 the first one stays. Long lists, where the scan runs in
+// lanes, against the loop, with NaNs and zeros of both signs at every place.
+TEST(PbIsovaluesList, RangeOfIrregularListIsTheOrderedLoops) {
+  const float nan = std::nanf("");
+  auto loop = [](const std::vector<float>& v, float& min, float& max) {
+    min = max = v.empty() ? 0.0f : v[0];
+    for (float x : v) {
+      if (x < min) min = x;
+      if (x > max) max = x;
+    }
+  };
+  auto same = [](float a, float b) { return (std::isnan(a) && std::isnan(b)) || (a == b && std::signbit(a) == std::signbit(b)); };
+  unsigned seed = 12345;
+  auto next = [&seed] { return (seed = seed * 1103515245u + 12345u) >> 8; };
+  PbIsovaluesList list;
+  int cases = 0;
+  for (int n : {0, 1, 5, 31, 32, 33, 47, 48, 49, 100, 1000}) {
+    for (int trial = 0; trial < 40; ++trial) {
+      std::vector<float> v(static_cast<std::size_t>(n));
+      const int kind = trial % 5;  // values of both signs, then all >= 0, all <= 0, zeros only, with NaNs
+      for (float& x : v) {
+        const float r = static_cast<float>(next() % 2001) / 100.0f;
+        x = kind == 0 ? r - 10.0f : kind == 1 ? r : kind == 2 ? -r : 0.0f;
+        if (next() % 7 == 0) x = (next() % 2) ? 0.0f : -0.0f;
+        if (kind == 4 && next() % 5 == 0) x = nan;
+      }
+      if (n > 0 && trial % 8 == 3) v[0] = nan;
+      list.setIrregularIsoList(n, v.data());
+      int num = 0;
+      float min, max, step;
+      SbBool regular;
+      list.getIsoList(num, min, max, step, regular);
+      float wantMin, wantMax;
+      loop(v, wantMin, wantMax);
+      ASSERT_TRUE(same(min, wantMin)) << "n " << n << " trial " << trial << ": " << min << " against " << wantMin;
+      ASSERT_TRUE(same(max, wantMax)) << "n " << n << " trial " << trial << ": " << max << " against " << wantMax;
+      ++cases;
+    }
+  }
+  EXPECT_EQ(cases, 440);
+}
+
 TEST(PbIsovaluesList, RegularAndIrregularLists) {
   int num = -1;
   float min = -1, max = -1, step = -1;

@@ -65,6 +65,22 @@ TEST(StringArrayHelper, ConvertsElementsAndKeepsNulls) {
   EXPECT_STREQ(sb[1].getString(), "");
   EXPECT_STREQ(sb[2].getString(), "tr\xc3\xa9s");
 
+  // Strings of every length in turn, ASCII runs around other characters: each element is its own
+  // text, whatever the one before it was.
+  jobjectArray mixed = env()->NewObjectArray(5, stringClass, nullptr);
+  env()->SetObjectArrayElement(mixed, 0, javaString(u"a long plain name of many letters"));
+  env()->SetObjectArrayElement(mixed, 1, javaString(u"ab\u00e9cd\U0001F600ef"));
+  env()->SetObjectArrayElement(mixed, 2, javaString(u""));
+  env()->SetObjectArrayElement(mixed, 3, javaString(u"z"));
+  env()->SetObjectArrayElement(mixed, 4, javaString(std::u16string(u"x") + char16_t(0xDC00)));
+  StringArrayHelper texts(env(), mixed);
+  const char** t = texts.toUTFStringArray();
+  EXPECT_STREQ(t[0], "a long plain name of many letters");
+  EXPECT_STREQ(t[1], "ab\xc3\xa9" "cd\xf0\x9f\x98\x80" "ef");
+  EXPECT_STREQ(t[2], "");
+  EXPECT_STREQ(t[3], "z");
+  EXPECT_STREQ(t[4], "x\xef\xbf\xbd");
+
   StringArrayHelper none(env(), nullptr);
   EXPECT_EQ(none.toUTFStringArray(), nullptr);
   EXPECT_EQ(none.toSbStringArray(), nullptr);

@@ -2,6 +2,8 @@
 #include <Corvel/SbString.h>
 #include <CorvelJNI/StringHelper.h>
 
+#include <algorithm>
+
 namespace {
 constexpr char32_t kReplacement = 0xFFFD;
 
@@ -22,6 +24,41 @@ void putUtf8(std::string& out, char32_t c) {
     out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
     out += static_cast<char>(0x80 | (c & 0x3F));
   }
+}
+
+// Appends UTF-16 text as UTF-8 (an unpaired surrogate becomes U+FFFD); a run
+// of ASCII characters is copied as it is.
+void appendUtf8(std::string& out, const char16_t* s, std::size_t n) {
+  // Grows geometrically: the texts of a whole array go into one string.
+  if (out.capacity() < out.size() + n) out.reserve(std::max(out.size() + n, 2 * out.capacity()));
+  for (std::size_t i = 0; i < n; ++i) {
+    std::size_t ascii = i;
+    while (ascii < n && s[ascii] < 0x80) ++ascii;
+    if (ascii > i) {
+      const std::size_t start = out.size();
+      out.resize(start + (ascii - i));
+      for (std::size_t k = i; k < ascii; ++k) out[start + (k - i)] = static_cast<char>(s[k]);
+      i = ascii;
+      if (i == n) break;
+    }
+    char32_t c = s[i];
+    if (c >= 0xD800 && c <= 0xDBFF && i + 1 < n && s[i + 1] >= 0xDC00 && s[i + 1] <= 0xDFFF) {
+      c = 0x10000 + ((c - 0xD800) << 10) + (s[i + 1] - 0xDC00);
+      ++i;
+    } else if (c >= 0xD800 && c <= 0xDFFF) {
+      c = kReplacement;
+    }
+    putUtf8(out, c);
+  }
+}
+
+// Reads a Java string's UTF-16 characters into buffer (which grows as needed);
+// returns their count.
+std::size_t readUtf16(JNIEnv* env, jstring string, std::u16string& buffer) {
+  const jsize n = env->GetStringLength(string);
+  if (buffer.size() < static_cast<std::size_t>(n)) buffer.resize(static_cast<std::size_t>(n));
+  if (n > 0) env->GetStringRegion(string, 0, n, reinterpret_cast<jchar*>(&buffer[0]));
+  return static_cast<std::size_t>(n);
 }
 
 // Calls f(codePoint) for each code point of UTF-16 text.
@@ -93,11 +130,7 @@ StringHelper::~StringHelper() = default;
 bool StringHelper::fetch() {
   if (!fetched) {
     fetched = true;
-    if (string != nullptr) {
-      jsize n = env->GetStringLength(string);
-      utf16.resize(static_cast<std::size_t>(n));
-      if (n > 0) env->GetStringRegion(string, 0, n, reinterpret_cast<jchar*>(&utf16[0]));
-    }
+    if (string != nullptr) utf16.resize(readUtf16(env, string, utf16));
   }
   return string != nullptr;
 }
@@ -105,8 +138,7 @@ bool StringHelper::fetch() {
 const char* StringHelper::toUTFString() {
   if (!fetch()) return nullptr;
   if (!haveUtf8) {
-    utf8.reserve(utf16.size());
-    forEachUtf16(utf16, [this](char32_t c) { putUtf8(utf8, c); });
+    appendUtf8(utf8, utf16.data(), utf16.size());
     haveUtf8 = true;
   }
   return utf8.c_str();
@@ -143,8 +175,6 @@ jstring StringHelper::fromNativeString(JNIEnv* env, const SbName& name) {
 StringArrayHelper::StringArrayHelper(JNIEnv* env, jobjectArray strings) : env(env), strings(strings) {}
 
 StringArrayHelper::~StringArrayHelper() {
-  delete[] utf8;
-  delete[] present;
   delete[] utfArray;
   delete[] sbArray;
 }
@@ -154,15 +184,17 @@ bool StringArrayHelper::fetch() {
   fetched = true;
   if (strings == nullptr) return false;
   length = env->GetArrayLength(strings);
-  utf8 = new std::string[length > 0 ? length : 1];
-  present = new bool[length > 0 ? length : 1];
+  starts.assign(static_cast<std::size_t>(length), -1);
+  std::u16string buffer;  // each string's characters in turn
   for (int i = 0; i < length; ++i) {
     jstring s = static_cast<jstring>(env->GetObjectArrayElement(strings, i));
-    StringHelper helper(env, s);
-    const char* text = helper.toUTFString();
-    present[i] = text != nullptr;
-    if (text) utf8[i] = text;
-    if (s) env->DeleteLocalRef(s);
+    if (s) {
+      const std::size_t n = readUtf16(env, s, buffer);
+      starts[static_cast<std::size_t>(i)] = static_cast<int>(text.size());
+      appendUtf8(text, buffer.data(), n);
+      text += '\0';
+      env->DeleteLocalRef(s);
+    }
   }
   return true;
 }
@@ -171,7 +203,7 @@ const char** StringArrayHelper::toUTFStringArray() {
   if (!fetch()) return nullptr;
   if (utfArray == nullptr) {
     utfArray = new const char*[length > 0 ? length : 1];
-    for (int i = 0; i < length; ++i) utfArray[i] = present[i] ? utf8[i].c_str() : nullptr;
+    for (int i = 0; i < length; ++i) utfArray[i] = starts[i] < 0 ? nullptr : text.data() + starts[i];
   }
   return utfArray;
 }
@@ -180,7 +212,8 @@ SbString* StringArrayHelper::toSbStringArray() {
   if (!fetch()) return nullptr;
   if (sbArray == nullptr) {
     sbArray = new SbString[length > 0 ? length : 1];
-    for (int i = 0; i < length; ++i) sbArray[i] = SbString(utf8[i]);
+    for (int i = 0; i < length; ++i)
+      if (starts[i] >= 0) sbArray[i] = SbString(text.data() + starts[i]);
   }
   return sbArray;
 }

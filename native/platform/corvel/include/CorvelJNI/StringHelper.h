@@ -15,6 +15,7 @@
 #include <jni.h>
 
 #include <string>
+#include <vector>
 
 class SbString;
 class SbName;
@@ -64,8 +65,8 @@ class StringArrayHelper {
   JNIEnv* env;
   jobjectArray strings;
   int length = 0;
-  std::string* utf8 = nullptr;
-  bool* present = nullptr;
+  std::string text;         // every element's UTF-8 text with its NUL, one after the other
+  std::vector<int> starts;  // where each element's text starts in text; -1 for a null element
   const char** utfArray = nullptr;
   SbString* sbArray = nullptr;
   bool fetched = false;

@@ -6,6 +6,10 @@
 
 #include <algorithm>
 
+#if defined(__SSE__)
+#include <xmmintrin.h>
+#endif
+
 // --- PbIsovaluesList -------------------------------------------------------------
 
 PbIsovaluesList::PbIsovaluesList() { CallJournal::record("PbIsovaluesList::PbIsovaluesList"); }
@@ -34,13 +38,62 @@ int PbIsovaluesList::operator==(const PbIsovaluesList& other) const {
 }
 
 namespace {
-// Smallest and largest of n values; 0 and 0 for none.
+// The first zero among the values (of its sign); the values hold one.
+float firstZero(int n, const float* values) {
+  for (int i = 0; i < n; ++i)
+    if (values[i] == 0.0f) return values[i];
+  return 0.0f;
+}
+
+// Smallest and largest of n values, as a loop over them in order would find them taking a
+// value only when it is strictly smaller (larger) than the one kept: a NaN first is kept, a
+// later NaN is passed over, and of equal values the first is kept (which only tells +0 from
+// -0). 0 and 0 for none. Long lists are scanned four lanes at a time: minps(v, m) is
+// exactly "v < m ? v : m" in each lane, and the lanes' answers can differ from the loop's
+// only in the sign of a zero, which is then taken from the first zero of the list.
 void rangeOf(int n, const float* values, float& min, float& max) {
   min = max = 0.0f;
-  for (int i = 0; i < n; ++i) {
-    if (i == 0 || values[i] < min) min = values[i];
-    if (i == 0 || values[i] > max) max = values[i];
+  if (n <= 0) return;
+  min = max = values[0];
+  int i = 1;
+#if defined(__SSE__)
+  if (n >= 32) {
+    const __m128 first = _mm_set1_ps(values[0]);
+    __m128 lo0 = first, lo1 = first, lo2 = first, lo3 = first;
+    __m128 hi0 = first, hi1 = first, hi2 = first, hi3 = first;
+    for (; i + 16 <= n; i += 16) {
+      const __m128 v0 = _mm_loadu_ps(values + i), v1 = _mm_loadu_ps(values + i + 4);
+      const __m128 v2 = _mm_loadu_ps(values + i + 8), v3 = _mm_loadu_ps(values + i + 12);
+      lo0 = _mm_min_ps(v0, lo0);
+      lo1 = _mm_min_ps(v1, lo1);
+      lo2 = _mm_min_ps(v2, lo2);
+      lo3 = _mm_min_ps(v3, lo3);
+      hi0 = _mm_max_ps(v0, hi0);
+      hi1 = _mm_max_ps(v1, hi1);
+      hi2 = _mm_max_ps(v2, hi2);
+      hi3 = _mm_max_ps(v3, hi3);
+    }
+    alignas(16) float lanes[2][16];
+    _mm_store_ps(lanes[0], lo0);
+    _mm_store_ps(lanes[0] + 4, lo1);
+    _mm_store_ps(lanes[0] + 8, lo2);
+    _mm_store_ps(lanes[0] + 12, lo3);
+    _mm_store_ps(lanes[1], hi0);
+    _mm_store_ps(lanes[1] + 4, hi1);
+    _mm_store_ps(lanes[1] + 8, hi2);
+    _mm_store_ps(lanes[1] + 12, hi3);
+    for (int l = 0; l < 16; ++l) {
+      if (lanes[0][l] < min) min = lanes[0][l];
+      if (lanes[1][l] > max) max = lanes[1][l];
+    }
   }
+#endif
+  for (; i < n; ++i) {
+    if (values[i] < min) min = values[i];
+    if (values[i] > max) max = values[i];
+  }
+  if (min == 0.0f) min = firstZero(n, values);
+  if (max == 0.0f) max = firstZero(n, values);
 }
 }  // namespace
 

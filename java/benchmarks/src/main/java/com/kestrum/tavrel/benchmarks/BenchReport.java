@@ -121,6 +121,23 @@ public final class BenchReport {
                         "GraphBuildBenchmark." + b[2], size, goal, "≤ 1.20"));
             }
         }
+        String[][] withToolkit = {{"curveFromVectors", "curve from `SbVec2f[]`", "curveToolkitFloor", "curve"},
+            {"curveFromFloats", "curve from `float[]` x, y pairs", "curveFromFloatsToolkitFloor", "curve-xy"},
+            {"markerField", "valued marker field", "markerFieldToolkitFloor", "markers"},
+            {"multipleHistogram", "multiple histogram", "multipleHistogramToolkitFloor", "histogram"},
+            {"isovalueList", "irregular isovalue list", "isovalueListToolkitFloor", "isovalues"}};
+        for (String[] b : withToolkit) {
+            for (String size : sizes) {
+                list.add(new Ratio(b[3] + "-tk-" + shortCount(size), b[1] + ", " + count(size),
+                        "its conversions and the toolkit's own work", "GraphBuildBenchmark." + b[0], size,
+                        "GraphBuildBenchmark." + b[2], size, goal, "≤ 1.20"));
+            }
+        }
+        for (String size : new String[] {"1000", "32000"}) {
+            list.add(new Ratio("pie-tk-" + shortCount(size), "pie chart, " + count(size) + " slices",
+                    "its conversions and the toolkit's own work", "PieChartBenchmark.pieChart", size,
+                    "PieChartBenchmark.pieChartToolkitFloor", size, goal, "≤ 1.20"));
+        }
         for (String size : new String[] {"1000", "32000"}) {
             list.add(new Ratio("pie-" + shortCount(size), "pie chart (names, values, colours), " + count(size) + " slices",
                     "its conversions' JNI calls alone, same size", "PieChartBenchmark.pieChart", size,

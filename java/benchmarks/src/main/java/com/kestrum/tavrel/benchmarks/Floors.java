@@ -156,4 +156,24 @@ public final class Floors {
 
     /** A {@code String[]} read in as UTF-8, string by string; the bytes read. */
     static native long stringArray(String[] strings);
+
+    // The same conversions, their results handed to the toolkit as each node's constructor hands
+    // them (the node then referenced and released): what a build costs without the binding's own
+    // work.
+
+    /** A curve of the points (the vector conversion with 2 components a vector). */
+    static native long curveWithToolkit(Object[] points);
+
+    /** A valued marker field of the points and two value lists. */
+    static native long markerFieldWithToolkit(Object[] points, float[] values1, float[] values2);
+
+    /** A multiple histogram at (0, 0), bars 6 wide along x. */
+    static native long multipleHistogramWithToolkit(int numHistog, int numValues, float[] values,
+            String[] histogNames, String[] valueNames);
+
+    /** The values set as the irregular list of the isovalue list at the handle. */
+    static native long isovaluesWithToolkit(long list, float[] values);
+
+    /** A pie chart at (0, 0) of radius 1, a slice a value. */
+    static native long pieChartWithToolkit(String[] names, float[] values, Object[] colors);
 }

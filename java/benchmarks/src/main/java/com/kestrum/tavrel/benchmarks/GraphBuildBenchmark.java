@@ -22,7 +22,10 @@ import org.openjdk.jmh.annotations.TearDown;
  * copy and build, the node's disposal), each against the floor of the same conversions alone: the
  * JNI calls of the vector-object conversion ({@link Floors#vectorComponents}), of each
  * {@code float[]} read in ({@link Floors#floatArray}) and of each {@code String[]} read as UTF-8
- * ({@link Floors#stringArray}), as the node's constructor converts them. The report divides by
+ * ({@link Floors#stringArray}), as the node's constructor converts them; and against the same
+ * conversions with the toolkit's own work (the {@code ...ToolkitFloor} benchmarks: the native
+ * results handed to the toolkit as the constructor hands them), which leaves the binding's own
+ * work as the difference. The report divides by
  * {@code size}: time per element. The pie chart, whose slice count is a {@code short}, is
  * {@link PieChartBenchmark}.
  */
@@ -97,6 +100,28 @@ public class GraphBuildBenchmark {
         return Floors.vectorComponents(points, 2);
     }
 
+    /**
+     * The floor of the curve with the toolkit's work: the same conversion, the points handed to
+     * the toolkit's constructor, the node referenced and released.
+     */
+    @Benchmark
+    public long curveToolkitFloor() {
+        return Floors.curveWithToolkit(points);
+    }
+
+    /**
+     * The same for x, y pairs: the vectors that the native conversion needs, made in Java as the
+     * wrapper makes them, then as {@link #curveToolkitFloor()}.
+     */
+    @Benchmark
+    public long curveFromFloatsToolkitFloor() {
+        SbVec2f[] vectors = new SbVec2f[xy.length / 2];
+        for (int i = 0; i < vectors.length; i++) {
+            vectors[i] = new SbVec2f(xy[2 * i], xy[2 * i + 1]);
+        }
+        return Floors.curveWithToolkit(vectors);
+    }
+
     /** A valued marker field: points and two value lists. */
     @Benchmark
     public void markerField() {
@@ -107,6 +132,12 @@ public class GraphBuildBenchmark {
     @Benchmark
     public float markerFieldFloor() {
         return Floors.vectorComponents(points, 2) + Floors.floatArray(values1) + Floors.floatArray(values2);
+    }
+
+    /** Its floor with the toolkit's work. */
+    @Benchmark
+    public long markerFieldToolkitFloor() {
+        return Floors.markerFieldWithToolkit(points, values1, values2);
     }
 
     /** A multiple histogram of {@value #HISTOGRAMS} histograms sharing {@code size} values. */
@@ -123,6 +154,12 @@ public class GraphBuildBenchmark {
                 + Floors.stringArray(valueNames);
     }
 
+    /** Its floor with the toolkit's work. */
+    @Benchmark
+    public long multipleHistogramToolkitFloor() {
+        return Floors.multipleHistogramWithToolkit(HISTOGRAMS, size / HISTOGRAMS, values1, histogramNames, valueNames);
+    }
+
     /** An irregular isovalue list of {@code size} values set on one list. */
     @Benchmark
     public PbIsovaluesList isovalueList() {
@@ -134,5 +171,11 @@ public class GraphBuildBenchmark {
     @Benchmark
     public float isovalueListFloor() {
         return Floors.floatArray(values1);
+    }
+
+    /** Its floor with the toolkit's work: the values set on the same list. */
+    @Benchmark
+    public long isovalueListToolkitFloor() {
+        return Floors.isovaluesWithToolkit(isovalues.getNativeResourceHandleInternal(), values1);
     }
 }

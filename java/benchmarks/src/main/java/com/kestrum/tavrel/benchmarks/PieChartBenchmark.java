@@ -70,6 +70,12 @@ public class PieChartBenchmark {
         return Floors.stringArray(names) + Floors.floatArray(values) + Floors.vectorComponents(colors, 3);
     }
 
+    /** Its floor with the toolkit's work. */
+    @Benchmark
+    public long pieChartToolkitFloor() {
+        return Floors.pieChartWithToolkit(names, values, colors);
+    }
+
     /** The chart built in the set-up, rendered into the picture of a render action. */
     @Benchmark
     public SoGLRenderAction renderPieChart() {

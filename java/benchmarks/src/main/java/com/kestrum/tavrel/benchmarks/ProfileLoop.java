@@ -16,7 +16,9 @@ import java.util.Map;
  * {@code build-histogram}, {@code build-isovalues}, {@code render-curve}, {@code render-markers},
  * {@code render-histogram}, {@code mesh-java-filter}, {@code mesh-interval-filter}, of
  * {@code -Dprofile.size} elements, 10^7 by default; {@code build-pie}, {@code render-pie} of at most
- * 32,000 slices) and the seconds to run (10). Prints the time per invocation of the path, and the
+ * 32,000 slices; the builds also with {@code -floor} for their conversions alone, {@code build-curve-floor}
+ * serving both curves, and with {@code -toolkit} for the conversions with the toolkit's work)
+ * and the seconds to run (10). Prints the time per invocation of the path, and the
  * processor time of the thread per invocation (which a loaded machine disturbs less: time spent
  * waiting for a processor does not count).
  */
@@ -56,11 +58,22 @@ public final class ProfileLoop {
                 render::renderMarkerField, "render-histogram", histogramRender::renderMultipleHistogram, "mesh-java-filter",
                 meshes::javaFilter, "mesh-interval-filter", meshes::intervalFilter);
         bulkPaths = new java.util.HashMap<>(bulkPaths);
+        bulkPaths.put("build-curve-floor", build::curveFloor);
+        bulkPaths.put("build-markers-floor", build::markerFieldFloor);
+        bulkPaths.put("build-histogram-floor", build::multipleHistogramFloor);
+        bulkPaths.put("build-isovalues-floor", build::isovalueListFloor);
+        bulkPaths.put("build-pie-floor", pie::pieChartFloor);
+        bulkPaths.put("build-curve-toolkit", build::curveToolkitFloor);
+        bulkPaths.put("build-curve-floats-toolkit", build::curveFromFloatsToolkitFloor);
+        bulkPaths.put("build-markers-toolkit", build::markerFieldToolkitFloor);
+        bulkPaths.put("build-histogram-toolkit", build::multipleHistogramToolkitFloor);
+        bulkPaths.put("build-isovalues-toolkit", build::isovalueListToolkitFloor);
+        bulkPaths.put("build-pie-toolkit", pie::pieChartToolkitFloor);
         bulkPaths.put("build-pie", pie::pieChart);
         bulkPaths.put("render-pie", pie::renderPieChart);
         Runnable bulk = bulkPaths.get(args[0]);
         if (bulk != null) {
-            if (args[0].endsWith("-pie")) {
+            if (args[0].contains("-pie")) {
                 pie.setUp();
             } else if (args[0].startsWith("build")) {
                 build.setUp();
