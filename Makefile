@@ -145,7 +145,7 @@ bench: bench-build
 bench-quick: bench-build
 	scripts/bench quick "$(if $(PANAMA_OPTS),$(PANAMA_JDK))" $(BENCH_OPTS)
 
-# Random misuse of the public API in child JVMs, one after the other (README.md, "Misuse runs"):
+# Random misuse of the public API in child JVMs, one after the other (docs/testing.md, "Misuse runs"):
 # CALLS calls in all, CALLS_PER_JVM per child JVM, seeds from SEED (random when empty). A failed
 # child is reported with its seed, its last calls and the JVM's error file. It ends with the
 # figures (calls, children, crashes, sanitizer reports, JNI warnings, hangs, unclear exceptions,

@@ -23,8 +23,8 @@ namespace tavrel {
 //   nothing is called.
 // - An exception raised by "invokeNativ" is left pending for Java.
 // The method is looked up on every call; the local references made here are
-// released before returning. The calls are listed in README.md ("JNI call
-// sequences").
+// released before returning. The calls are listed in
+// docs/jni-sequences.md.
 template <class... Handles>
 inline void invokeNativ(const ICustomClass& bridge, const char* signature, Handles... handles) {
   JNIEnv* env = JNIEnvHelper::getEnv();

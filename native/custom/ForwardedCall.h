@@ -7,8 +7,8 @@
 // Java exception, and deletes the local references it made when it goes (a
 // toolkit traversal may forward thousands of calls from one native frame, or
 // run on a thread without a Java frame at all). The JNI calls of each kind of
-// row, and why each goes beyond the plain sequence, are listed in README.md
-// ("JNI call sequences"); the tests hold them exactly.
+// row, and why each goes beyond the plain sequence, are listed in
+// docs/jni-sequences.md; the tests hold them exactly.
 //
 // A Java exception raised by the Java method is not cleared: it is reported as
 // a java.lang.IllegalArgumentException with the message

@@ -92,7 +92,7 @@ JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_booleanUpcalls(
 
 // The JNI calls that a forwarded call of a Java node's operation with one
 // argument makes around its upcall, with none of the lookups between them
-// (README.md, "JNI call sequences"): per call the environment, the pending-
+// (docs/jni-sequences.md): per call the environment, the pending-
 // exception check, local references to the weakly held peer and to the weakly
 // held argument (a registered peer), the argument's class check, the upcall,
 // the exception check and the two deletions.
@@ -178,7 +178,7 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_raiseMotions(JN
 }
 
 // The JNI calls of a Java element's push and pop, as a traversal forwards them
-// when a separator opens and closes (README.md, "JNI call sequences"), around
+// when a separator opens and closes (docs/jni-sequences.md), around
 // the same upcalls, with none of the lookups: per pair, for push the
 // environment, the pending-exception check, local references to the globally
 // held peer and to the weakly held state (a registered peer) with its class

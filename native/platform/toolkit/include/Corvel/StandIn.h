@@ -10,7 +10,7 @@
 //
 // TAVREL_ASSUMED marks a member that the product uses although the real
 // headers' interface describes it only in words: each is an assumption about
-// the real headers, listed in the README ("Decisions worth knowing").
+// the real headers, listed in docs/stand-ins.md ("What the product may use").
 #pragma once
 
 #if defined(TAVREL_PRODUCT_UNIT)

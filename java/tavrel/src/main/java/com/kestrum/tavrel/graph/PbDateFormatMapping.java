@@ -8,8 +8,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * Dates on a graph axis: two reference dates with their coordinates fix a linear mapping between
  * dates and coordinates, and a format says how dates are written. Which dates and formats the
- * toolkit reads is its rule (the README tells the stand-in's). See {@link PbBase} for the
- * ownership of attribute objects.
+ * toolkit reads is its rule (docs/graph.md in the repository tells the stand-in's). See
+ * {@link PbBase} for the ownership of attribute objects.
  */
 public class PbDateFormatMapping extends PbBase {
     static {

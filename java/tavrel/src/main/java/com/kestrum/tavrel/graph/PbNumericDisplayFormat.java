@@ -8,8 +8,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 
 /**
  * How graph annotations write numbers: a format type and two ints, which the toolkit uses as a
- * width and a precision (how exactly is the toolkit's rule; the README tells the stand-in's). See
- * {@link PbBase} for the ownership of attribute objects.
+ * width and a precision (how exactly is the toolkit's rule; docs/graph.md in the repository
+ * tells the stand-in's). See {@link PbBase} for the ownership of attribute objects.
  */
 public class PbNumericDisplayFormat extends PbBase {
     static {

@@ -936,8 +936,8 @@ public final class Misuse {
      * take its class (set, setMesh, constructors, ...).
      *
      * <p>Direct buffers are read at once, while their owner lives: reading one after its owner,
-     * set or list is gone is the caller's documented obligation (README, "Ownership"), not a
-     * misuse the library must survive.
+     * set or list is gone is the caller's documented obligation (docs/java-guide.md, "Views"),
+     * not a misuse the library must survive.
      */
     private void viewSweep(boolean topLevel) {
         NativeObject owner = null;
