@@ -456,13 +456,13 @@ public abstract class PbMesh extends NativeObject {
      * @param z the z coordinates, or null
      */
     public void setCoordinates(float[] x, float[] y, float[] z) {
-        long h = handle();
-        long[] lengths = coordinatesLengths(h);
-        Checks.optional(x, lengths[0], "x");
-        Checks.optional(y, lengths[1], "y");
-        Checks.optional(z, lengths[2], "z");
-        setCoordinatesImpl(h, x, y, z);
-        geometryChanged();
+        changeGeometry(h -> {
+            long[] lengths = coordinatesLengths(h);
+            Checks.optional(x, lengths[0], "x");
+            Checks.optional(y, lengths[1], "y");
+            Checks.optional(z, lengths[2], "z");
+            setCoordinatesImpl(h, x, y, z);
+        });
     }
 
     /**
