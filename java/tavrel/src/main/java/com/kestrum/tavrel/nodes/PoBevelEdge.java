@@ -7,7 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A property node that bevels the edges of the shapes after it in the scene.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "on"}: whether edges are bevelled (default {@code TRUE});</li>

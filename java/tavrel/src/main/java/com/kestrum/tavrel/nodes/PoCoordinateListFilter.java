@@ -7,7 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * A 1D-mesh filter that keeps the points whose x (or y) coordinate is one of a list, float for
  * float.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "axis"}: the coordinate compared, an {@link AxisType} value (default

@@ -5,7 +5,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A profile that is a polygon on an ellipse around the origin, its axes along x and y.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "radiusX"}: the radius along x (default {@code 1});</li>

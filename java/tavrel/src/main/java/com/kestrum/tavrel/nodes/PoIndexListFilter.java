@@ -6,7 +6,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * A 1D-mesh filter that keeps the points whose indices it lists (in increasing order, whatever the
  * order of the list).
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "index"}: the point indices; indices outside the mesh are ignored (default

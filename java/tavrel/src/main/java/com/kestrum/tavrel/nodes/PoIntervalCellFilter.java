@@ -8,7 +8,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * a representation in a group, it makes the representation draw only those cells (see
  * {@link PoCellFilter} for how a representation asks a filter).
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "min"}: the interval's lower bound (included) (default {@code 0});</li>

@@ -7,7 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A property node that tells the graphs after it in the scene how to lay out their labels.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "labelPath"}: a {@link LabelPaths} value (default {@code PATHRIGHT});</li>

@@ -6,7 +6,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * A data mapping between two values: value1 has colour1, value2 has colour2, and the values between
  * them have the colour interpolated linearly; outside them the colour of the nearer end.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "value1"}: the first value (default {@code 0});</li>

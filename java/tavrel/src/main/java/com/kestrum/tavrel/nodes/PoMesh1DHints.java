@@ -7,7 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A property node that tells the 1D-mesh graphs after it in the scene how to join their points.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "geomInterpretation"}: a {@link GeomInterpretations} value (default

@@ -7,7 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A property node that gives the graphs after it in the scene their text attributes.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "fontName"}: the font (default {@code Sans});</li>

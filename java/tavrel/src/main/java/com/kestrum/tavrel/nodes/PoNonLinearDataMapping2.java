@@ -8,7 +8,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * {@link Types#NONLINEARPERLEVEL} one colour per interval (one more colour than values), with
  * {@link Types#LINEARPERLEVEL} one colour per value, interpolated between them.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "type"}: a {@link Types} value (default {@code NONLINEARPERLEVEL});</li>

@@ -7,7 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * A 1D-mesh filter that keeps one point per period of x (or y): the first point, then each point
  * whose coordinate is at least one period beyond the last point kept.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "axis"}: the coordinate looked at, an {@link AxisType} value (default

@@ -5,7 +5,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A 1D-mesh filter that keeps every period-th point: start, start + period, start + 2 period, ...
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "start"}: the first point kept (default {@code 0});</li>

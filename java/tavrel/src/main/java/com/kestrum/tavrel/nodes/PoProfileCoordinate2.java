@@ -5,7 +5,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A profile given by its points.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "point"}: the points, two numbers each (default none).</li>

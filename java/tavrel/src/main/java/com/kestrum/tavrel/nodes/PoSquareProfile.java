@@ -5,7 +5,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
 /**
  * A profile that is a square centred on the origin.
  *
- * <p>The node keeps its values in named fields, set as text (see {@link com.kestrum.tavrel.nodes the package}):
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "size"}: the side's length (default {@code 1}).</li>
