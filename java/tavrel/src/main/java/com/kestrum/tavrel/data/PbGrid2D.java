@@ -96,10 +96,10 @@ public abstract class PbGrid2D extends PbMesh2D {
      * @param y the y coordinates
      */
     public void setGeometry(int numX, int numY, float[] x, float[] y) {
-        long h = handle();
-        Checks.grid2D(numX, numY, x, y, null, perAxis);
-        setGeometryImpl(h, numX, numY, x, y);
-        geometryChanged();
+        changeGeometry(h -> {
+            Checks.grid2D(numX, numY, x, y, null, perAxis);
+            setGeometryImpl(h, numX, numY, x, y);
+        });
     }
 
     /**
@@ -112,10 +112,10 @@ public abstract class PbGrid2D extends PbMesh2D {
      * @param z the z coordinates, or null
      */
     public void setGeometry(int numX, int numY, float[] x, float[] y, float[] z) {
-        long h = handle();
-        Checks.grid2D(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);
-        setGeometryImpl1(h, numX, numY, x, y, z);
-        geometryChanged();
+        changeGeometry(h -> {
+            Checks.grid2D(numX, numY, x, y, Checks.notNull(z, "z"), perAxis);
+            setGeometryImpl1(h, numX, numY, x, y, z);
+        });
     }
 
     private native void getNodeCoordImpl(long handle, int i, int j, float[] out);

@@ -98,10 +98,10 @@ public abstract class PbGrid3D extends PbMesh3D {
      * @param z the z coordinates, or null
      */
     public void setGeometry(int numX, int numY, int numZ, float[] x, float[] y, float[] z) {
-        long h = handle();
-        Checks.grid3D(numX, numY, numZ, x, y, z, perAxis);
-        setGeometryImpl(h, numX, numY, numZ, x, y, z);
-        geometryChanged();
+        changeGeometry(h -> {
+            Checks.grid3D(numX, numY, numZ, x, y, z, perAxis);
+            setGeometryImpl(h, numX, numY, numZ, x, y, z);
+        });
     }
 
     private native void getNodeCoordImpl(long handle, int i, int j, int k, float[] out);

@@ -68,10 +68,8 @@ public class PbHexahedronMesh3D extends PbIndexedMesh3D {
      * @param hexahedraNodes the eight nodes of every hexahedron, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numHexahedra, int[] hexahedraNodes) {
-        long h = handle();
-        setGeometryImpl(h, Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes, "hexahedraNodes"), x, y, z,
-                numHexahedra, hexahedraNodes);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedraNodes,
+                "hexahedraNodes"), x, y, z, numHexahedra, hexahedraNodes));
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

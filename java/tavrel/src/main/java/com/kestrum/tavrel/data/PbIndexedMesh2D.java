@@ -88,10 +88,8 @@ public class PbIndexedMesh2D extends PbMesh2D {
      * @param cellIndex the nodes of every cell, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numCells, int[] cellTypes, int[] cellIndex) {
-        long h = handle();
-        setGeometryImpl(h, Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes, cellIndex), x, y, numCells, cellTypes,
-                cellIndex);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.indexedMesh2D(numNodes, x, y, null, numCells, cellTypes,
+                cellIndex), x, y, numCells, cellTypes, cellIndex));
     }
 
     /**
@@ -107,10 +105,8 @@ public class PbIndexedMesh2D extends PbMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
-        long h = handle();
-        setGeometryImpl1(h, Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex), x, y, z,
-                numCells, cellTypes, cellIndex);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl1(h, Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells,
+                cellTypes, cellIndex), x, y, z, numCells, cellTypes, cellIndex));
     }
 
     /**

@@ -74,10 +74,8 @@ public class PbIndexedMesh3D extends PbMesh3D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numCells, int[] cellTypes,
             int[] cellIndex) {
-        long h = handle();
-        setGeometryImpl(h, Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes, cellIndex), x, y, z, numCells, cellTypes,
-                cellIndex);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes,
+                cellIndex), x, y, z, numCells, cellTypes, cellIndex));
     }
 
     /**

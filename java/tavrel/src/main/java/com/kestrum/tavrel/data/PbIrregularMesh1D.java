@@ -54,9 +54,7 @@ public class PbIrregularMesh1D extends PbMesh1D {
      * @throws NullPointerException when x is null
      */
     public void setGeometry(int numNodes, float[] x) {
-        long h = handle();
-        setGeometryImpl(h, check(numNodes, x), x);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, check(numNodes, x), x));
     }
 
     private static int check(int numNodes, float[] x) {

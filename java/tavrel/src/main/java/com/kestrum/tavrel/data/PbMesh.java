@@ -8,6 +8,7 @@ import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
 import java.nio.ByteBuffer;
 import java.nio.FloatBuffer;
+import java.util.function.LongConsumer;
 
 /**
  * Base of every mesh: structured grids, unstructured meshes and one-dimensional meshes.
@@ -87,6 +88,15 @@ public abstract class PbMesh extends NativeObject {
      */
     final void geometryChanged() {
         geometry.changed();
+    }
+
+    /**
+     * A native change of the geometry: gives the mesh's handle to the call (which checks the
+     * arguments, then makes the class's native call), then records the change.
+     */
+    final void changeGeometry(LongConsumer call) {
+        call.accept(handle());
+        geometryChanged();
     }
 
     /**
@@ -446,13 +456,13 @@ public abstract class PbMesh extends NativeObject {
      * @param z the z coordinates, or null
      */
     public void setCoordinates(float[] x, float[] y, float[] z) {
-        long h = handle();
-        long[] lengths = coordinatesLengths(h);
-        Checks.optional(x, lengths[0], "x");
-        Checks.optional(y, lengths[1], "y");
-        Checks.optional(z, lengths[2], "z");
-        setCoordinatesImpl(h, x, y, z);
-        geometryChanged();
+        changeGeometry(h -> {
+            long[] lengths = coordinatesLengths(h);
+            Checks.optional(x, lengths[0], "x");
+            Checks.optional(y, lengths[1], "y");
+            Checks.optional(z, lengths[2], "z");
+            setCoordinatesImpl(h, x, y, z);
+        });
     }
 
     /**

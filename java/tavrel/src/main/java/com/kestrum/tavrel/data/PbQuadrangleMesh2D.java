@@ -82,10 +82,8 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
      * @param quadrangleNodes the four nodes of every quadrangle, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numQuadrangles, int[] quadrangleNodes) {
-        long h = handle();
-        setGeometryImpl(h, Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x,
-                y, numQuadrangles, quadrangleNodes);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.fixedCells2D(numNodes, x, y, null, numQuadrangles, 4,
+                quadrangleNodes, "quadrangleNodes"), x, y, numQuadrangles, quadrangleNodes));
     }
 
     /**
@@ -100,10 +98,8 @@ public class PbQuadrangleMesh2D extends PbIndexedMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numQuadrangles,
             int[] quadrangleNodes) {
-        long h = handle();
-        setGeometryImpl1(h, Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numQuadrangles, 4, quadrangleNodes,
-                "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl1(h, Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"),
+                numQuadrangles, 4, quadrangleNodes, "quadrangleNodes"), x, y, z, numQuadrangles, quadrangleNodes));
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -97,9 +97,7 @@ public class PbRegularCartesianGrid2D extends PbGrid2D {
      * @param ymax the largest y
      */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax) {
-        long h = handle();
-        setGeometryImpl(h, counts(numX, numY, null), numY, xmin, ymin, xmax, ymax);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, counts(numX, numY, null), numY, xmin, ymin, xmax, ymax));
     }
 
     /**
@@ -114,9 +112,8 @@ public class PbRegularCartesianGrid2D extends PbGrid2D {
      * @param z the z coordinates, or null
      */
     public void setGeometry(int numX, int numY, float xmin, float ymin, float xmax, float ymax, float[] z) {
-        long h = handle();
-        setGeometryImpl1(h, counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax, ymax, z);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl1(h, counts(numX, numY, Checks.notNull(z, "z")), numY, xmin, ymin, xmax,
+                ymax, z));
     }
 
     /** Checks the counts (and the elevations when given); returns numX. */

@@ -75,9 +75,8 @@ public class PbRegularCartesianGrid3D extends PbGrid3D {
      */
     public void setGeometry(int numX, int numY, int numZ, float xmin, float ymin, float zmin, float xmax, float ymax,
             float zmax) {
-        long h = handle();
-        setGeometryImpl(h, counts(numX, numY, numZ), numY, numZ, xmin, ymin, zmin, xmax, ymax, zmax);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, counts(numX, numY, numZ), numY, numZ, xmin, ymin, zmin, xmax, ymax,
+                zmax));
     }
 
     /** Checks the counts; returns numX. */

@@ -55,9 +55,7 @@ public class PbRegularMesh1D extends PbMesh1D {
      * @throws IllegalArgumentException when numNodes is negative or too large
      */
     public void setGeometry(int numNodes, float xmin, float xmax) {
-        long h = handle();
-        setGeometryImpl(h, Checks.count(numNodes, "numNodes"), xmin, xmax);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.count(numNodes, "numNodes"), xmin, xmax));
     }
 
     private static native long ctorImpl();

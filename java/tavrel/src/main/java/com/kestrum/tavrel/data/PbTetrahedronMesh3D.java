@@ -67,10 +67,8 @@ public class PbTetrahedronMesh3D extends PbIndexedMesh3D {
      * @param tetrahedraNodes the four nodes of every tetrahedron, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTetrahedra, int[] tetrahedraNodes) {
-        long h = handle();
-        setGeometryImpl(h, Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedraNodes, "tetrahedraNodes"), x, y,
-                z, numTetrahedra, tetrahedraNodes);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4,
+                tetrahedraNodes, "tetrahedraNodes"), x, y, z, numTetrahedra, tetrahedraNodes));
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -82,10 +82,8 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      * @param triangleNodes the three nodes of every triangle, one after the other
      */
     public void setGeometry(int numNodes, float[] x, float[] y, int numTriangles, int[] triangleNodes) {
-        long h = handle();
-        setGeometryImpl(h, Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3, triangleNodes, "triangleNodes"), x, y,
-                numTriangles, triangleNodes);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl(h, Checks.fixedCells2D(numNodes, x, y, null, numTriangles, 3,
+                triangleNodes, "triangleNodes"), x, y, numTriangles, triangleNodes));
     }
 
     /**
@@ -100,10 +98,8 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      */
     public void setGeometry(int numNodes, float[] x, float[] y, float[] z, int numTriangles,
             int[] triangleNodes) {
-        long h = handle();
-        setGeometryImpl2(h, Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"), numTriangles, 3, triangleNodes,
-                "triangleNodes"), x, y, z, numTriangles, triangleNodes);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl2(h, Checks.fixedCells2D(numNodes, x, y, Checks.notNull(z, "z"),
+                numTriangles, 3, triangleNodes, "triangleNodes"), x, y, z, numTriangles, triangleNodes));
     }
 
     /**
@@ -115,9 +111,7 @@ public class PbTriangleMesh2D extends PbIndexedMesh2D {
      * @param y the y coordinates
      */
     public void setGeometry(int numNodes, float[] x, float[] y) {
-        long h = handle();
-        setGeometryImpl1(h, Checks.nodes2D(numNodes, x, y, null), x, y);
-        geometryChanged();
+        changeGeometry(h -> setGeometryImpl1(h, Checks.nodes2D(numNodes, x, y, null), x, y));
     }
 
     private static native long ctorImpl(boolean isDataDuplicated);

@@ -108,9 +108,7 @@ public abstract class PoMesh extends PoDessvane {
      *     element's mesh, valid only during the traversal)
      */
     public void setMesh(PbMesh mesh) {
-        long h = handle();
-        long m = handleOrZero(mesh, "mesh");
-        this.mesh.set(mesh, () -> setMeshImpl(h, m));
+        setMeshWith(this.mesh, mesh, this::setMeshImpl);
     }
 
     /**
@@ -203,6 +201,19 @@ public abstract class PoMesh extends PoDessvane {
     /** The Java object given to {@link #setMesh}, or null. */
     final PbMesh meshObject() {
         return mesh.remembered();
+    }
+
+    /** A class's own native setter of its mesh, given the handles of the node and of the mesh (0 for none). */
+    @FunctionalInterface
+    interface MeshCall {
+        void call(long handle, long mesh);
+    }
+
+    /** Sets a mesh (or null) that the node keeps the address of, with the class's native setter. */
+    final <M extends PbMesh> void setMeshWith(MeshUse<M> use, M mesh, MeshCall setMeshImpl) {
+        long h = handle();
+        long m = handleOrZero(mesh, "mesh");
+        use.set(mesh, () -> setMeshImpl.call(h, m));
     }
 
     /** The mesh of a subclass's own setter, kept like the one of {@link #setMesh}. */

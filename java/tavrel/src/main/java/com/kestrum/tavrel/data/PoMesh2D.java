@@ -56,9 +56,7 @@ public abstract class PoMesh2D extends PoMesh {
      *     element's mesh, valid only during the traversal)
      */
     public void setMesh(PbMesh2D mesh) {
-        long h = handle();
-        long m = handleOrZero(mesh, "mesh");
-        mesh2D.set(mesh, () -> setMeshImpl(h, m));
+        setMeshWith(mesh2D, mesh, this::setMeshImpl);
     }
 
     /**

@@ -56,9 +56,7 @@ public abstract class PoMesh3D extends PoMesh {
      *     element's mesh, valid only during the traversal)
      */
     public void setMesh(PbMesh3D mesh) {
-        long h = handle();
-        long m = handleOrZero(mesh, "mesh");
-        mesh3D.set(mesh, () -> setMeshImpl(h, m));
+        setMeshWith(mesh3D, mesh, this::setMeshImpl);
     }
 
     /**

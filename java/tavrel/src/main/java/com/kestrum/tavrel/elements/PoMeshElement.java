@@ -1,6 +1,5 @@
 package com.kestrum.tavrel.elements;
 
-import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.nodes.SoNode;
@@ -14,24 +13,8 @@ import java.util.concurrent.atomic.AtomicBoolean;
 /**
  * The element of a traversal state that holds the mesh that the representations after it without a mesh of their own draw.
  *
- * <p>The static methods set and read the element in a traversal state (the state a Java node or
- * element is given during an {@code apply}, see {@code SoAction.getState}).
- *
- * <p>Subclass it to take part in traversals: override {@link #push}, {@link #pop},
- * {@link #init}, {@link #matches}, {@link #copyMatchInfo} or {@link #captureThis}; the toolkit
- * calls the overrides on the elements that its traversal states make of the class, once the
- * class's type is enabled ({@code SoAction.enableElement(element.getTypeName(),
- * element.getStackIndex())}). {@code super} reaches the toolkit's behaviour; {@code push} and
- * {@code pop} have none. Each Java class gets a toolkit type named after its binary name, a stack
- * index (that of this class) and an element key, made by its first object; the toolkit makes
- * further objects with the constructor without arguments. An exception thrown by an override
- * that the toolkit called reaches the Java caller of {@code apply} as an
- * {@link IllegalArgumentException} "Exception raised during execution of
- * CustomPoMeshElement.&lt;operation&gt;." with the exception as its cause; the rest of that traversal no
- * longer calls Java.
- *
- * <p>An element made by a traversal state is disposed when the traversal ends. One made with
- * {@code new} belongs to its Java object: dispose it when done (it is {@link AutoCloseable}).
+ * <p>See {@link com.kestrum.tavrel.elements the package} for its static methods, its life and
+ * subclassing it.
  */
 public abstract class PoMeshElement extends SoReplacedElement {
     static {
@@ -74,54 +57,42 @@ public abstract class PoMeshElement extends SoReplacedElement {
     }
 
     /**
-     * Makes the 1D mesh the mesh of the traversal: the top element of the class's stack, at the
-     * state's depth, names the node and keeps the mesh's address. The mesh is held until the
-     * traversal ends.
+     * Makes the 1D mesh the mesh of the traversal (see the package).
      *
      * @param state the traversal state
      * @param node the node that sets the mesh, or null
      * @param mesh the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static void set(SoState state, SoNode node, PbMesh1D mesh) {
         ElementCalls.set(state, node, mesh, "mesh", PoMeshElement::setImpl);
     }
 
     /**
-     * Makes the 2D mesh the mesh of the traversal: the top element of the class's stack, at the
-     * state's depth, names the node and keeps the mesh's address. The mesh is held until the
-     * traversal ends.
+     * Makes the 2D mesh the mesh of the traversal (see the package).
      *
      * @param state the traversal state
      * @param node the node that sets the mesh, or null
      * @param mesh the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static void set(SoState state, SoNode node, PbMesh2D mesh) {
         ElementCalls.set(state, node, mesh, "mesh", PoMeshElement::setImpl1);
     }
 
     /**
-     * Makes the 3D mesh the mesh of the traversal: the top element of the class's stack, at the
-     * state's depth, names the node and keeps the mesh's address. The mesh is held until the
-     * traversal ends.
+     * Makes the 3D mesh the mesh of the traversal (see the package).
      *
      * @param state the traversal state
      * @param node the node that sets the mesh, or null
      * @param mesh the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static void set(SoState state, SoNode node, PbMesh3D mesh) {
         ElementCalls.set(state, node, mesh, "mesh", PoMeshElement::setImpl2);
@@ -130,26 +101,13 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, whatever its dimension.
      *
-     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
-     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
-     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
-     * element, which lives in that node) comes back as a new view tied to the traversal: it works
-     * until the innermost {@code apply} in progress on the calling thread returns, and its node
-     * lives at least that long (the scene references it; a node traversed by a direct call is
-     * held until the traversal ends), whatever becomes of the node's Java object or of the
-     * element. After that the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
-     * {@code setMesh} and the cell constructors refuse it with
-     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
-     * ({@code getMesh}).
+     * <p>See the package for the object returned, and how long a view of it works.
      *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static PbMesh getMesh(SoState state) {
         return ElementCalls.valueOf(PbMesh.class, state, PoMeshElement::getMeshImpl);
@@ -158,26 +116,13 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, when it was set as a 1D mesh.
      *
-     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
-     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
-     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
-     * element, which lives in that node) comes back as a new view tied to the traversal: it works
-     * until the innermost {@code apply} in progress on the calling thread returns, and its node
-     * lives at least that long (the scene references it; a node traversed by a direct call is
-     * held until the traversal ends), whatever becomes of the node's Java object or of the
-     * element. After that the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
-     * {@code setMesh} and the cell constructors refuse it with
-     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
-     * ({@code getMesh}).
+     * <p>See the package for the object returned, and how long a view of it works.
      *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static PbMesh1D getMesh1D(SoState state) {
         return ElementCalls.valueOf(PbMesh1D.class, state, PoMeshElement::getMesh1DImpl);
@@ -186,26 +131,13 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, when it was set as a 2D mesh.
      *
-     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
-     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
-     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
-     * element, which lives in that node) comes back as a new view tied to the traversal: it works
-     * until the innermost {@code apply} in progress on the calling thread returns, and its node
-     * lives at least that long (the scene references it; a node traversed by a direct call is
-     * held until the traversal ends), whatever becomes of the node's Java object or of the
-     * element. After that the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
-     * {@code setMesh} and the cell constructors refuse it with
-     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
-     * ({@code getMesh}).
+     * <p>See the package for the object returned, and how long a view of it works.
      *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static PbMesh2D getMesh2D(SoState state) {
         return ElementCalls.valueOf(PbMesh2D.class, state, PoMeshElement::getMesh2DImpl);
@@ -214,26 +146,13 @@ public abstract class PoMeshElement extends SoReplacedElement {
     /**
      * The mesh of the traversal, when it was set as a 3D mesh.
      *
-     * <p>A mesh that a live Java object stands for comes back as that object (one given to a
-     * set, the view that the mesh node's {@code getMesh} gave while that view is reachable, a
-     * view returned earlier in the traversal). Any other (the mesh of the mesh node that set the
-     * element, which lives in that node) comes back as a new view tied to the traversal: it works
-     * until the innermost {@code apply} in progress on the calling thread returns, and its node
-     * lives at least that long (the scene references it; a node traversed by a direct call is
-     * held until the traversal ends), whatever becomes of the node's Java object or of the
-     * element. After that the view's methods, and the calls given it, throw
-     * {@link IllegalStateException}. Such a view cannot be kept: a representation's or probe's
-     * {@code setMesh} and the cell constructors refuse it with
-     * {@link IllegalArgumentException}. To keep the mesh, take it from the mesh node
-     * ({@code getMesh}).
+     * <p>See the package for the object returned, and how long a view of it works.
      *
      * @param state the traversal state
      * @return the mesh, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static PbMesh3D getMesh3D(SoState state) {
         return ElementCalls.valueOf(PbMesh3D.class, state, PoMeshElement::getMesh3DImpl);

@@ -1,6 +1,5 @@
 package com.kestrum.tavrel.elements;
 
-import com.kestrum.corvel.elements.SoElement;
 import com.kestrum.corvel.elements.SoReplacedElement;
 import com.kestrum.corvel.misc.SoState;
 import com.kestrum.corvel.nodes.SoNode;
@@ -11,24 +10,8 @@ import java.util.concurrent.atomic.AtomicBoolean;
 /**
  * The element of a traversal state that holds the numeric display format.
  *
- * <p>The static methods set and read the element in a traversal state (the state a Java node or
- * element is given during an {@code apply}, see {@code SoAction.getState}).
- *
- * <p>Subclass it to take part in traversals: override {@link #push}, {@link #pop},
- * {@link #init}, {@link #matches}, {@link #copyMatchInfo} or {@link #captureThis}; the toolkit
- * calls the overrides on the elements that its traversal states make of the class, once the
- * class's type is enabled ({@code SoAction.enableElement(element.getTypeName(),
- * element.getStackIndex())}). {@code super} reaches the toolkit's behaviour; {@code push} and
- * {@code pop} have none. Each Java class gets a toolkit type named after its binary name, a stack
- * index (that of this class) and an element key, made by its first object; the toolkit makes
- * further objects with the constructor without arguments. An exception thrown by an override
- * that the toolkit called reaches the Java caller of {@code apply} as an
- * {@link IllegalArgumentException} "Exception raised during execution of
- * CustomPoNumericDisplayFormatElement.&lt;operation&gt;." with the exception as its cause; the rest of that traversal no
- * longer calls Java.
- *
- * <p>An element made by a traversal state is disposed when the traversal ends. One made with
- * {@code new} belongs to its Java object: dispose it when done (it is {@link AutoCloseable}).
+ * <p>See {@link com.kestrum.tavrel.elements the package} for its static methods, its life and
+ * subclassing it.
  */
 public abstract class PoNumericDisplayFormatElement extends SoReplacedElement {
     static {
@@ -71,18 +54,14 @@ public abstract class PoNumericDisplayFormatElement extends SoReplacedElement {
     }
 
     /**
-     * Sets the numeric display format of the traversal: the top element of the class's stack, at the state's depth,
-     * names the node and keeps the object's address. The object is held until the traversal
-     * ends.
+     * Sets the numeric display format of the traversal (see the package).
      *
      * @param state the traversal state
      * @param node the node that sets the value, or null
      * @param format the value, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static void set(SoState state, SoNode node, PbNumericDisplayFormat format) {
         ElementCalls.set(state, node, format, "format", PoNumericDisplayFormatElement::setImpl);
@@ -91,22 +70,13 @@ public abstract class PoNumericDisplayFormatElement extends SoReplacedElement {
     /**
      * The numeric display format of the traversal.
      *
-     * <p>An object that a live Java object stands for comes back as that object (one given to a
-     * set, a view returned earlier in the traversal). Any other (the attribute object of the
-     * property node that set the element, which lives in that node) comes back as a new view
-     * tied to the traversal: it works until the innermost {@code apply} in progress on the
-     * calling thread returns, and its node lives at least that long (the scene references it; a
-     * node traversed by a direct call is held until the traversal ends), whatever becomes of the
-     * node's Java object or of the element. After that the view's methods, and the calls given
-     * it, throw {@link IllegalStateException}.
+     * <p>See the package for the object returned, and how long a view of it works.
      *
      * @param state the traversal state
      * @return the value last set, or null
      * @throws NullPointerException when state is null
      * @throws IllegalStateException when the state's traversal is over, or an object given has been disposed
-     * @throws IllegalArgumentException when an override of a Java element class that the call
-     *     runs throws (the state makes the element on first use and runs its {@code init}); the
-     *     exception is the cause
+     * @throws IllegalArgumentException when an override that the call runs throws (see the package)
      */
     public static PbNumericDisplayFormat get(SoState state) {
         return ElementCalls.valueOf(PbNumericDisplayFormat.class, state, PoNumericDisplayFormatElement::getImpl);

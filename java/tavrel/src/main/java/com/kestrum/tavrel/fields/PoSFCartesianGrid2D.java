@@ -18,7 +18,7 @@ public class PoSFCartesianGrid2D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFCartesianGrid2D() {
-        super(ctorImpl(), PbCartesianGrid2D.class);
+        super(ctorImpl(), PbCartesianGrid2D.class, PoSFCartesianGrid2D::getValueImpl);
     }
 
     /**
@@ -82,11 +82,6 @@ public class PoSFCartesianGrid2D extends PoSFMesh {
             Checks.grid2D(numX, numY, x, y, z, false);
             setGeometryImpl(h, numX, numY, x, y, z);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

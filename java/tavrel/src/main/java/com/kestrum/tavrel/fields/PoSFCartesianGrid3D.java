@@ -18,7 +18,7 @@ public class PoSFCartesianGrid3D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFCartesianGrid3D() {
-        super(ctorImpl(), PbCartesianGrid3D.class);
+        super(ctorImpl(), PbCartesianGrid3D.class, PoSFCartesianGrid3D::getValueImpl);
     }
 
     /**
@@ -83,11 +83,6 @@ public class PoSFCartesianGrid3D extends PoSFMesh {
             Checks.grid3D(numX, numY, numZ, x, y, z, false);
             setGeometryImpl(h, numX, numY, numZ, x, y, z);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

@@ -17,7 +17,7 @@ public class PoSFHexahedronMesh3D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFHexahedronMesh3D() {
-        super(ctorImpl(), PbHexahedronMesh3D.class);
+        super(ctorImpl(), PbHexahedronMesh3D.class, PoSFHexahedronMesh3D::getValueImpl);
     }
 
     /**
@@ -82,11 +82,6 @@ public class PoSFHexahedronMesh3D extends PoSFMesh {
             Checks.fixedCells3D(numNodes, x, y, z, numHexahedra, 8, hexahedronNodes, "hexahedronNodes");
             setGeometryImpl(h, numNodes, x, y, z, numHexahedra, hexahedronNodes);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

@@ -17,7 +17,7 @@ public class PoSFIndexedMesh2D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFIndexedMesh2D() {
-        super(ctorImpl(), PbIndexedMesh2D.class);
+        super(ctorImpl(), PbIndexedMesh2D.class, PoSFIndexedMesh2D::getValueImpl);
     }
 
     /**
@@ -101,11 +101,6 @@ public class PoSFIndexedMesh2D extends PoSFMesh {
             Checks.indexedMesh2D(numNodes, x, y, Checks.notNull(z, "z"), numCells, cellTypes, cellIndex);
             setGeometryImpl1(h, numNodes, x, y, z, numCells, cellTypes, cellIndex);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

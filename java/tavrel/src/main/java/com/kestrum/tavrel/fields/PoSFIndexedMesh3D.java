@@ -18,7 +18,7 @@ public class PoSFIndexedMesh3D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFIndexedMesh3D() {
-        super(ctorImpl(), PbIndexedMesh3D.class);
+        super(ctorImpl(), PbIndexedMesh3D.class, PoSFIndexedMesh3D::getValueImpl);
     }
 
     /**
@@ -85,11 +85,6 @@ public class PoSFIndexedMesh3D extends PoSFMesh {
             Checks.indexedMesh3D(numNodes, x, y, z, numCells, cellTypes, cellIndex);
             setGeometryImpl(h, numNodes, x, y, z, numCells, cellTypes, cellIndex);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

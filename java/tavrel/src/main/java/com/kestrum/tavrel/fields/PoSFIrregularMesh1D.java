@@ -17,7 +17,7 @@ public class PoSFIrregularMesh1D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFIrregularMesh1D() {
-        super(ctorImpl(), PbIrregularMesh1D.class);
+        super(ctorImpl(), PbIrregularMesh1D.class, PoSFIrregularMesh1D::getValueImpl);
     }
 
     /**
@@ -78,11 +78,6 @@ public class PoSFIrregularMesh1D extends PoSFMesh {
             Checks.nodes1D(numNodes, x);
             setGeometryImpl(h, numNodes, x);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

@@ -62,17 +62,32 @@ public abstract class PoSFMesh extends SoField {
     /** Set once the native field has been freed (shared with the release action). */
     private final AtomicBoolean freed;
 
-    /** Owns the new native field at the handle, whose value is a mesh of meshClass. */
-    PoSFMesh(long handle, Class<? extends PbMesh> meshClass) {
-        this(handle, meshClass, new AtomicBoolean());
+    /** The native read of the address of the mesh inside the field (evaluated first when it must be). */
+    private final AddressCall<PoSFMesh> valueAddress;
+
+    /** A field class's own native read of the address of the mesh inside a field of the class. */
+    @FunctionalInterface
+    interface AddressCall<F extends PoSFMesh> {
+        long address(F field, long handle);
     }
 
-    private PoSFMesh(long handle, Class<? extends PbMesh> meshClass, AtomicBoolean freed) {
+    /**
+     * Owns the new native field at the handle, whose value is a mesh of meshClass, read through
+     * the class's own native call.
+     */
+    @SuppressWarnings("unchecked")
+    <F extends PoSFMesh> PoSFMesh(long handle, Class<? extends PbMesh> meshClass, AddressCall<F> valueAddress) {
+        this(handle, meshClass, (AddressCall<PoSFMesh>) valueAddress, new AtomicBoolean());
+    }
+
+    private PoSFMesh(long handle, Class<? extends PbMesh> meshClass, AddressCall<PoSFMesh> valueAddress,
+            AtomicBoolean freed) {
         super(handle, release(handle, freed));
         registerAsPeer(false);
         this.freed = freed;
         this.meshClass = meshClass;
-        this.meshAddress = valueAddress(handle);
+        this.valueAddress = valueAddress;
+        this.meshAddress = valueAddress.address(this, handle);
         MeshViews.releaseUnreachable();
     }
 
@@ -141,7 +156,7 @@ public abstract class PoSFMesh extends SoField {
      */
     final long evaluated(long handle) {
         boolean connected = isConnected();
-        long address = valueAddress(handle);
+        long address = valueAddress.address(this, handle);
         if (connected) {
             geometryChanged();
         }
@@ -312,9 +327,6 @@ public abstract class PoSFMesh extends SoField {
         checkedSetGeometryImpl.accept(h);
         geometryChanged();
     }
-
-    /** The address of the mesh inside the native field (evaluated first when it must be). */
-    abstract long valueAddress(long handle);
 
     /** Records a change of the geometry of the field's mesh, after the native call that made it. */
     final void geometryChanged() {

@@ -18,7 +18,7 @@ public class PoSFParalCartesianGrid2D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFParalCartesianGrid2D() {
-        super(ctorImpl(), PbParalCartesianGrid2D.class);
+        super(ctorImpl(), PbParalCartesianGrid2D.class, PoSFParalCartesianGrid2D::getValueImpl);
     }
 
     /**
@@ -82,11 +82,6 @@ public class PoSFParalCartesianGrid2D extends PoSFMesh {
             Checks.grid2D(numX, numY, x, y, z, true);
             setGeometryImpl(h, numX, numY, x, y, z);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

@@ -18,7 +18,7 @@ public class PoSFParalCartesianGrid3D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFParalCartesianGrid3D() {
-        super(ctorImpl(), PbParalCartesianGrid3D.class);
+        super(ctorImpl(), PbParalCartesianGrid3D.class, PoSFParalCartesianGrid3D::getValueImpl);
     }
 
     /**
@@ -83,11 +83,6 @@ public class PoSFParalCartesianGrid3D extends PoSFMesh {
             Checks.grid3D(numX, numY, numZ, x, y, z, true);
             setGeometryImpl(h, numX, numY, numZ, x, y, z);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

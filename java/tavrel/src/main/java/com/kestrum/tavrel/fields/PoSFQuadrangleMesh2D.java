@@ -17,7 +17,7 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFQuadrangleMesh2D() {
-        super(ctorImpl(), PbQuadrangleMesh2D.class);
+        super(ctorImpl(), PbQuadrangleMesh2D.class, PoSFQuadrangleMesh2D::getValueImpl);
     }
 
     /**
@@ -99,11 +99,6 @@ public class PoSFQuadrangleMesh2D extends PoSFMesh {
                     "quadrangleNodes");
             setGeometryImpl1(h, numNodes, x, y, z, numQuadrangles, quadrangleNodes);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

@@ -18,7 +18,7 @@ public class PoSFRegularCartesianGrid2D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFRegularCartesianGrid2D() {
-        super(ctorImpl(), PbRegularCartesianGrid2D.class);
+        super(ctorImpl(), PbRegularCartesianGrid2D.class, PoSFRegularCartesianGrid2D::getValueImpl);
     }
 
     /**
@@ -84,11 +84,6 @@ public class PoSFRegularCartesianGrid2D extends PoSFMesh {
             Checks.regularGrid(z, numX, numY);
             setGeometryImpl(h, numX, numY, xmin, ymin, xmax, ymax, z);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

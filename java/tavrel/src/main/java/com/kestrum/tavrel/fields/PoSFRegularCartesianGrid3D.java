@@ -18,7 +18,7 @@ public class PoSFRegularCartesianGrid3D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFRegularCartesianGrid3D() {
-        super(ctorImpl(), PbRegularCartesianGrid3D.class);
+        super(ctorImpl(), PbRegularCartesianGrid3D.class, PoSFRegularCartesianGrid3D::getValueImpl);
     }
 
     /**
@@ -87,11 +87,6 @@ public class PoSFRegularCartesianGrid3D extends PoSFMesh {
             Checks.regularGrid(null, numX, numY, numZ);
             setGeometryImpl(h, numX, numY, numZ, xmin, ymin, zmin, xmax, ymax, zmax);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

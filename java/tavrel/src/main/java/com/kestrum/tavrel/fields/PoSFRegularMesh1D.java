@@ -17,7 +17,7 @@ public class PoSFRegularMesh1D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFRegularMesh1D() {
-        super(ctorImpl(), PbRegularMesh1D.class);
+        super(ctorImpl(), PbRegularMesh1D.class, PoSFRegularMesh1D::getValueImpl);
     }
 
     /**
@@ -79,11 +79,6 @@ public class PoSFRegularMesh1D extends PoSFMesh {
             Checks.count(numNodes, "numNodes");
             setGeometryImpl(h, numNodes, xmin, xmax);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

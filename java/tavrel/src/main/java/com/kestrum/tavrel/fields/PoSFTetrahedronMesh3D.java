@@ -17,7 +17,7 @@ public class PoSFTetrahedronMesh3D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFTetrahedronMesh3D() {
-        super(ctorImpl(), PbTetrahedronMesh3D.class);
+        super(ctorImpl(), PbTetrahedronMesh3D.class, PoSFTetrahedronMesh3D::getValueImpl);
     }
 
     /**
@@ -82,11 +82,6 @@ public class PoSFTetrahedronMesh3D extends PoSFMesh {
             Checks.fixedCells3D(numNodes, x, y, z, numTetrahedra, 4, tetrahedronNodes, "tetrahedronNodes");
             setGeometryImpl(h, numNodes, x, y, z, numTetrahedra, tetrahedronNodes);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

@@ -17,7 +17,7 @@ public class PoSFTriangleMesh2D extends PoSFMesh {
 
     /** A field holding an empty mesh, in no container. */
     public PoSFTriangleMesh2D() {
-        super(ctorImpl(), PbTriangleMesh2D.class);
+        super(ctorImpl(), PbTriangleMesh2D.class, PoSFTriangleMesh2D::getValueImpl);
     }
 
     /**
@@ -113,11 +113,6 @@ public class PoSFTriangleMesh2D extends PoSFMesh {
             Checks.nodes2D(numNodes, x, y, null);
             setGeometryImpl2(h, numNodes, x, y);
         });
-    }
-
-    @Override
-    long valueAddress(long handle) {
-        return getValueImpl(handle);
     }
 
     private static native long ctorImpl();

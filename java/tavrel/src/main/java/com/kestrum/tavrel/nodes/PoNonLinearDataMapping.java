@@ -6,8 +6,7 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * A data mapping of levels that the toolkit gives itself; made by the binding with no levels, it
  * colours every value black.
  *
- * <p>When an action traverses the node it becomes the current one of its kind for the rest of the
- * traversal. The node is released when it is disposed and nothing else in the scene references it.
+ * <p>It becomes the current one of its kind when traversed, and is released as the package says.
  */
 public class PoNonLinearDataMapping extends PoDataMapping {
     static {

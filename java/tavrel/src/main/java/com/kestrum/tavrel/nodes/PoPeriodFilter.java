@@ -7,10 +7,8 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * A 1D-mesh filter that keeps one point per period of x (or y): the first point, then each point
  * whose coordinate is at least one period beyond the last point kept.
  *
- * <p>The node keeps its values in named fields, read each time they are used: set them with
- * {@code getField(name).setValue(text)} (numbers as decimal text, flags {@code TRUE} or
- * {@code FALSE}, enumerations as their {@code getValue()}, vectors and colours as their numbers
- * separated by spaces, lists likewise). A text that cannot be read counts as the field's default.
+ * <p>The node keeps its values in named fields, set as text (see
+ * {@link com.kestrum.tavrel.nodes the package}):
  *
  * <ul>
  *   <li>{@code "axis"}: the coordinate looked at, an {@link AxisType} value (default
@@ -19,8 +17,7 @@ import com.kestrum.tavrel.internal.JarInitializer;
  * {@code 1}).</li>
  * </ul>
  *
- * <p>When an action traverses the node it becomes the current one of its kind for the rest of the
- * traversal. The node is released when it is disposed and nothing else in the scene references it.
+ * <p>It becomes the current one of its kind when traversed, and is released as the package says.
  */
 public class PoPeriodFilter extends PoMesh1DFilter {
     static {
