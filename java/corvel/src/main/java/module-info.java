@@ -6,6 +6,8 @@
  * {@code --enable-native-access=com.kestrum.corvel,com.kestrum.tavrel} (on the class path:
  * {@code --enable-native-access=ALL-UNNAMED}) to keep the JVM from warning about it.
  */
+// The extension's module, named below, is built after this one.
+@SuppressWarnings("module")
 module com.kestrum.corvel {
     exports com.kestrum.corvel;
     exports com.kestrum.corvel.actions;
