@@ -2,7 +2,8 @@
 #
 #   make demo    builds everything and runs the demo
 #   make test    builds everything and runs every test: the native tests and JUnit (JDK 17), the
-#                Javadoc check, the example project against the installed jars, both suites
+#                Javadoc check, the jars' module descriptors, the example project against the
+#                installed jars (on JDK 17 and the newest JDK: no native-access warning), both suites
 #                again against a build with AddressSanitizer and UBSan, and JUnit on the
 #                newest JDK of version 21 or newer on the machine, if there is one
 #   make soak    runs each data path 1,000,000 times and fails when memory keeps growing
@@ -13,6 +14,8 @@
 #   make install builds the jars (natives, sources, Javadoc) and installs them into the local
 #                Maven repository
 #   make example runs the example project (examples/) against the installed jars
+#   make check-modules checks the jars' module descriptors (exports, opens) and starts them on
+#                the module path
 #   make coverage runs the JUnit suite against a build of the product with gcov instrumentation
 #                (native/build-cov) and prints its function and line coverage (not part of test)
 
@@ -38,8 +41,8 @@ NEWEST_JDK ?= $(shell scripts/newest-jdk 21)
 PANAMA_JDK ?= $(shell scripts/newest-jdk 22)
 PANAMA_OPTS := $(if $(wildcard $(PANAMA_JDK)/bin/javac),-Dpanama.jdk=$(PANAMA_JDK))
 
-.PHONY: all native native-asan java demo install example example-run test native-test java-test \
-	native-test-asan java-test-asan java-test-newest-jdk soak bench bench-quick bench-build fuzz clean \
+.PHONY: all native native-asan java demo install example example-run check-modules check-modules-run \
+	test native-test java-test native-test-asan java-test-asan java-test-newest-jdk soak bench bench-quick bench-build fuzz clean \
 	native-cov coverage
 # The test runs share Maven's output folders: one at a time.
 .NOTPARALLEL:
@@ -65,8 +68,11 @@ native-cov:
 java: native
 	$(MVN) -q package -DskipTests
 
+# No JVM started here may warn about native access (JDK 24 and newer do without the option).
+NO_NATIVE_ACCESS_WARNINGS := scripts/without-native-access-warnings
+
 demo: java
-	java -cp "java/demo/target/tavrel-demo.jar:java/demo/target/lib/*" com.kestrum.tavrel.demo.Demo
+	$(NO_NATIVE_ACCESS_WARNINGS) java --enable-native-access=ALL-UNNAMED -cp "java/demo/target/tavrel-demo.jar:java/demo/target/lib/*" com.kestrum.tavrel.demo.Demo
 
 # The jars of com.kestrum.tavrel and of the binding core's Java side, each with its natives, a
 # sources jar and a Javadoc jar, into the local Maven repository (Maven runs the native build too).
@@ -74,11 +80,20 @@ install:
 	$(MVN) install -DskipTests
 
 # The example project, built against the installed jars by their coordinates only and run on the
-# class path and on the module path.
+# class path and on the module path, by the java on the PATH and by the newest JDK's (when there
+# is one): a native-access warning in its output fails the target.
 EXAMPLE_MVN ?= mvn -B -q -f examples/pom.xml
 example: install example-run
 example-run:
-	$(EXAMPLE_MVN) verify
+	$(NO_NATIVE_ACCESS_WARNINGS) $(EXAMPLE_MVN) verify
+	$(if $(NEWEST_JDK),$(NO_NATIVE_ACCESS_WARNINGS) $(EXAMPLE_MVN) verify -Dexample.java=$(NEWEST_JDK)/bin/java)
+
+# The module descriptors of the jars in java/*/target: each exports exactly its API packages
+# (jar --describe-module); then the two modules on the module path, by the java on the PATH and
+# by the newest JDK's.
+check-modules: java check-modules-run
+check-modules-run:
+	scripts/check-modules java $(if $(NEWEST_JDK),$(NEWEST_JDK)/bin/java)
 
 native-test: native
 	scripts/run-native-tests $(BUILD_DIR)/bin/native_tests
@@ -117,7 +132,7 @@ coverage: native-cov
 	scripts/coverage $(COV_BUILD_DIR) java/tavrel/src/test/resources/expected-jni-symbols.txt \
 		--min-lines $(COVERAGE_MIN_LINES) && exit $$tests
 
-test: native-test java-test example-run native-test-asan java-test-asan java-test-newest-jdk
+test: native-test java-test check-modules-run example-run native-test-asan java-test-asan java-test-newest-jdk
 
 # Each data path 1,000,000 times in one JVM (SOAK_OPTS: -Dsoak.iterations=N, -Dsoak.paths=a,b).
 # Every full collection compacts the whole heap, so that the heap measured after one holds live
@@ -160,7 +175,7 @@ FUZZ_ENV      ?=
 FUZZ_CP       := $(abspath java/tavrel/target/test-classes):$(abspath java/tavrel/target/classes):$(abspath java/corvel/target/classes)
 fuzz: native
 	$(MVN) -q -pl tavrel -am test-compile
-	$(FUZZ_ENV) java -cp "$(FUZZ_CP)" -Dkestrum.native.dir=$(FUZZ_LIBS) \
+	$(FUZZ_ENV) java --enable-native-access=ALL-UNNAMED -cp "$(FUZZ_CP)" -Dkestrum.native.dir=$(FUZZ_LIBS) \
 		-Dtavrel.testkit.library=$(FUZZ_LIBS)/libtavrel_testkit.so \
 		com.kestrum.tavrel.misuse.MisuseRuns $(CALLS) "$(SEED)" $(CALLS_PER_JVM)
 

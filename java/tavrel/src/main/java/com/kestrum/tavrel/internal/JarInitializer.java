@@ -21,6 +21,9 @@ public final class JarInitializer {
         synchronized (JarInitializer.class) {
             if (!initialized) {
                 CorvelNative.ensureLoaded();
+                // The binding core reads the libraries out of this module: on the module path it
+                // may, because the folder's name is no package name ("native" is a keyword), so the
+                // folder is not encapsulated. A folder named like a package would be hidden from it.
                 NativeLibraries.load(JarInitializer.class, "/com/kestrum/tavrel/native/linux-x86-64",
                         "zel_tavrel", "com.kestrum.tavrel");
                 initNative();
