@@ -48,6 +48,12 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_init(JNIEnv* en
 // empty body.
 JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_emptyGetter(JNIEnv*, jobject, jlong) { return 0; }
 
+// The same shape calling the toolkit's accessor on the mesh at the handle, and
+// nothing else: what a thin getter costs without its Java side.
+JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_toolkitGetter(JNIEnv*, jobject, jlong mesh) {
+  return tavrel::fromHandle<const PbMesh>(mesh)->getNumNodes();
+}
+
 // The per-vector JNI calls of the vector-object conversion and nothing else:
 // the class and field once, then per vector the element, its float[] field,
 // the floats, their release without copy back, and the two local references

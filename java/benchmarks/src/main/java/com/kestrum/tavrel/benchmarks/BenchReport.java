@@ -45,6 +45,9 @@ public final class BenchReport {
     static final List<Ratio> RATIOS = concat(List.of(
             new Ratio("thin-getter", "thin getter `PbMesh.getNumNodes()`", "empty instance native taking a `long`",
                     "ThinGetterBenchmark.getNumNodes", "", "ThinGetterBenchmark.emptyGetterFloor", "", 1.10, "≤ 1.10"),
+            new Ratio("thin-getter-toolkit", "thin getter `PbMesh.getNumNodes()`",
+                    "the same native shape calling the toolkit's accessor", "ThinGetterBenchmark.getNumNodes", "",
+                    "ThinGetterBenchmark.toolkitGetterFloor", "", 1.10, "≤ 1.10"),
             new Ratio("addVecsSet-1k", "`addVecsSet`, 1,000 vectors", "raw conversion loop, same size",
                     "AddVecsSetBenchmark.addVecsSet", "1000", "AddVecsSetBenchmark.vectorLoopFloor", "1000", 1.10,
                     "≤ 1.10"),

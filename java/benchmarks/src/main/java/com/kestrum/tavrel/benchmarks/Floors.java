@@ -101,6 +101,9 @@ public final class Floors {
     /** An empty instance native taking a handle: the shape of every thin getter. */
     native int emptyGetter(long handle);
 
+    /** The same shape calling the toolkit's node count of the mesh at the handle. */
+    native int toolkitGetter(long handle);
+
     /** The per-vector JNI calls of the vector-object conversion; the sum of the components. */
     static native float vectorLoop(Object[] vectors);
 

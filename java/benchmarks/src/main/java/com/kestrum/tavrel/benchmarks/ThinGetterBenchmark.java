@@ -45,6 +45,12 @@ public class ThinGetterBenchmark {
         return floors.emptyGetter(handle);
     }
 
+    /** The same native shape calling the toolkit's accessor: the getter without its Java side. */
+    @Benchmark
+    public int toolkitGetterFloor() {
+        return floors.toolkitGetter(handle);
+    }
+
     /** The public getter. */
     @Benchmark
     public int getNumNodes() {
