@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the legends: the text attributes of their texts. */
 public abstract class PoLegend extends PoBase {
@@ -211,7 +210,7 @@ public abstract class PoLegend extends PoBase {
         private static native int getHORIZONTALINCREMENTNative();
     }
 
-    private PbMiscTextAttr miscTextAttr;
+    private final KeptAttribute<PbMiscTextAttr> miscTextAttr = new KeptAttribute<>(PbMiscTextAttr.class, "miscTextAttr");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.
@@ -231,8 +230,7 @@ public abstract class PoLegend extends PoBase {
      * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
-        setMiscTextAttrImpl(handle(), handleOrZero(JavaViews.keepable(miscTextAttr, "miscTextAttr"), "miscTextAttr"));
-        this.miscTextAttr = miscTextAttr;
+        this.miscTextAttr.set(handle(), miscTextAttr, this::setMiscTextAttrImpl);
     }
 
     /**
@@ -244,7 +242,7 @@ public abstract class PoLegend extends PoBase {
      *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbMiscTextAttr getMiscTextAttr() {
-        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
+        return miscTextAttr.get(getMiscTextAttrImpl(handle()));
     }
 
     /**
