@@ -275,9 +275,11 @@ public abstract class PoHistogram extends PoChart {
         private static native int getDATAMAPPINGNative();
     }
 
-    private final KeptAttribute<PbMiscTextAttr> miscTextAttr = new KeptAttribute<>(PbMiscTextAttr.class, "miscTextAttr");
+    private final KeptAttribute<PbMiscTextAttr> miscTextAttr =
+            new KeptAttribute<>(PbMiscTextAttr.class, "miscTextAttr");
     private final KeptAttribute<PbDataMapping> dataMapping = new KeptAttribute<>(PbDataMapping.class, "dataMapping");
-    private final KeptAttribute<PbNumericDisplayFormat> format = new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final KeptAttribute<PbNumericDisplayFormat> format =
+            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.

@@ -187,7 +187,8 @@ public class PoLabelField extends PoQuorvex {
         private static native int getVALUEABOVESTRINGNative();
     }
 
-    private final KeptAttribute<PbNumericDisplayFormat> format = new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final KeptAttribute<PbNumericDisplayFormat> format =
+            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
 
     /** A node without points, with the toolkit's defaults. */
     public PoLabelField() {

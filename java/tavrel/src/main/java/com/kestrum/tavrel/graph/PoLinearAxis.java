@@ -139,7 +139,8 @@ public class PoLinearAxis extends PoCartesianAxis {
         super(handle);
     }
 
-    private final KeptAttribute<PbNumericDisplayFormat> format = new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final KeptAttribute<PbNumericDisplayFormat> format =
+            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps

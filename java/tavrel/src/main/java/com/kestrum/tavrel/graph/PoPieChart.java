@@ -187,7 +187,8 @@ public abstract class PoPieChart extends PoChart {
     }
 
     private final KeptAttribute<PbMiscTextAttr> textAttr = new KeptAttribute<>(PbMiscTextAttr.class, "attr");
-    private final KeptAttribute<PbNumericDisplayFormat> format = new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final KeptAttribute<PbNumericDisplayFormat> format =
+            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.

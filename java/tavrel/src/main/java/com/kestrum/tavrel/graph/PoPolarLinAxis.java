@@ -73,7 +73,8 @@ public class PoPolarLinAxis extends PoPolarAxis {
         super(handle);
     }
 
-    private final KeptAttribute<PbNumericDisplayFormat> format = new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final KeptAttribute<PbNumericDisplayFormat> format =
+            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps

@@ -159,7 +159,8 @@ public class PoTimeAxis extends PoAxis {
         super(handle);
     }
 
-    private final KeptAttribute<PbDateFormatMapping> mapping = new KeptAttribute<>(PbDateFormatMapping.class, "mapping");
+    private final KeptAttribute<PbDateFormatMapping> mapping =
+            new KeptAttribute<>(PbDateFormatMapping.class, "mapping");
 
     /**
      * Sets the mapping between dates and coordinates, and the date format of the labels; null

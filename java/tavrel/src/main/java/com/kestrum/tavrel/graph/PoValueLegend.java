@@ -8,9 +8,11 @@ public abstract class PoValueLegend extends PoLegend {
         JarInitializer.init();
     }
 
-    private final KeptAttribute<PbIsovaluesList> isovaluesList = new KeptAttribute<>(PbIsovaluesList.class, "isovaluesList");
+    private final KeptAttribute<PbIsovaluesList> isovaluesList =
+            new KeptAttribute<>(PbIsovaluesList.class, "isovaluesList");
     private final KeptAttribute<PbDataMapping> dataMapping = new KeptAttribute<>(PbDataMapping.class, "dataMapping");
-    private final KeptAttribute<PbNumericDisplayFormat> format = new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final KeptAttribute<PbNumericDisplayFormat> format =
+            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.
