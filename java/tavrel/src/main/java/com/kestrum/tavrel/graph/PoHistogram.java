@@ -303,9 +303,7 @@ public abstract class PoHistogram extends PoChart {
     }
 
     /**
-     * The text attributes of the bars' texts, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The text attributes of the bars' texts, or null for none.
      *
      * @return the text attributes of the bars' texts, or null for none: the Java object set earlier while the
      *     node still holds its address, else the registered Java object of that address or a view of it
@@ -327,9 +325,7 @@ public abstract class PoHistogram extends PoChart {
     }
 
     /**
-     * The data mapping that colours the bars, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The data mapping that colours the bars, or null for none.
      *
      * @return the data mapping that colours the bars, or null for none: the Java object set earlier while the
      *     node still holds its address, else the registered Java object of that address or a view of it
@@ -351,9 +347,7 @@ public abstract class PoHistogram extends PoChart {
     }
 
     /**
-     * The numeric format of the bars' values, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The numeric format of the bars' values, or null for none.
      *
      * @return the numeric format of the bars' values, or null for none: the Java object set earlier while the
      *     node still holds its address, else the registered Java object of that address or a view of it

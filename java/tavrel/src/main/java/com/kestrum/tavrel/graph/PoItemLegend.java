@@ -1,7 +1,5 @@
 package com.kestrum.tavrel.graph;
 
-import static com.kestrum.tavrel.graph.Checks.notNull;
-
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.tavrel.internal.JarInitializer;

@@ -230,9 +230,7 @@ public class PoLabelField extends PoQuorvex {
     }
 
     /**
-     * The numeric format of the labels' values, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The numeric format of the labels' values, or null for none.
      *
      * @return the numeric format of the labels' values, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it

@@ -235,9 +235,7 @@ public abstract class PoLegend extends PoBase {
     }
 
     /**
-     * The text attributes of the legend's texts, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The text attributes of the legend's texts, or null for none.
      *
      * @return the text attributes of the legend's texts, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it

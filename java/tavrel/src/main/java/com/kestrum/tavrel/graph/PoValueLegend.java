@@ -36,9 +36,7 @@ public abstract class PoValueLegend extends PoLegend {
     }
 
     /**
-     * The isovalue list whose values the legend shows, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The isovalue list whose values the legend shows, or null for none.
      *
      * @return the isovalue list whose values the legend shows, or null for none: the Java object set earlier
      *     while the node still holds its address, else the registered Java object of that address or a view
@@ -61,9 +59,7 @@ public abstract class PoValueLegend extends PoLegend {
     }
 
     /**
-     * The data mapping that colours the legend's boxes, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The data mapping that colours the legend's boxes, or null for none.
      *
      * @return the data mapping that colours the legend's boxes, or null for none: the Java object set earlier
      *     while the node still holds its address, else the registered Java object of that address or a view
@@ -86,9 +82,7 @@ public abstract class PoValueLegend extends PoLegend {
     }
 
     /**
-     * The numeric format of the legend's values, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The numeric format of the legend's values, or null for none.
      *
      * @return the numeric format of the legend's values, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it

@@ -47,9 +47,7 @@ public class PoValuedMarkerField extends PoQuorvex {
     }
 
     /**
-     * The data mapping that colours the markers, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The data mapping that colours the markers, or null for none.
      *
      * @return the data mapping that colours the markers, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it
