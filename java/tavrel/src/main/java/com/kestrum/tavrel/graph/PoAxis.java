@@ -388,7 +388,7 @@ public abstract class PoAxis extends PoBase {
     /** The grid or arrow settings: a visibility and two lengths. */
     public record Lines(Visibilities visibility, float length1, float length2) {}
 
-    private final KeptAttribute<PbMiscTextAttr> textAttr = new KeptAttribute<>(PbMiscTextAttr.class, "attr");
+    private final Kept<PbMiscTextAttr> textAttr = new Kept<>(PbMiscTextAttr.class, "attr");
 
     /**
      * Sets the text attributes of the axis's text; null for none. A change of the node. The node

@@ -166,7 +166,7 @@ public abstract class PoBase extends SoBaseKit {
         void onRebuild(PoBase node);
     }
 
-    private final KeptAttribute<PbDomain> domain = new KeptAttribute<>(PbDomain.class, "domain");
+    private final Kept<PbDomain> domain = new Kept<>(PbDomain.class, "domain");
     private final List<PoRebuildCB> preCallbacks = new ArrayList<>();
     private final List<PoRebuildCB> postCallbacks = new ArrayList<>();
 
@@ -483,7 +483,7 @@ public abstract class PoBase extends SoBaseKit {
      * As {@link #rebuilding(NativeObject, String, HandleCall)} for a setter of an attribute object
      * kept by address, which runs {@code keep} first.
      */
-    final void rebuilding(NativeObject attribute, String name, Runnable keep, KeptAttribute.Setter setter) {
+    final void rebuilding(NativeObject attribute, String name, Runnable keep, Kept.Setter setter) {
         rebuilding(attribute, name, (h, address) -> {
             keep.run();
             setter.set(h, address);

@@ -275,11 +275,9 @@ public abstract class PoHistogram extends PoChart {
         private static native int getDATAMAPPINGNative();
     }
 
-    private final KeptAttribute<PbMiscTextAttr> miscTextAttr =
-            new KeptAttribute<>(PbMiscTextAttr.class, "miscTextAttr");
-    private final KeptAttribute<PbDataMapping> dataMapping = new KeptAttribute<>(PbDataMapping.class, "dataMapping");
-    private final KeptAttribute<PbNumericDisplayFormat> format =
-            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final Kept<PbMiscTextAttr> miscTextAttr = new Kept<>(PbMiscTextAttr.class, "miscTextAttr");
+    private final Kept<PbDataMapping> dataMapping = new Kept<>(PbDataMapping.class, "dataMapping");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.

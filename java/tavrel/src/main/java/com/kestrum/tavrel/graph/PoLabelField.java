@@ -187,8 +187,7 @@ public class PoLabelField extends PoQuorvex {
         private static native int getVALUEABOVESTRINGNative();
     }
 
-    private final KeptAttribute<PbNumericDisplayFormat> format =
-            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /** A node without points, with the toolkit's defaults. */
     public PoLabelField() {

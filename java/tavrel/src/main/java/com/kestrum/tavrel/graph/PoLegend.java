@@ -210,8 +210,7 @@ public abstract class PoLegend extends PoBase {
         private static native int getHORIZONTALINCREMENTNative();
     }
 
-    private final KeptAttribute<PbMiscTextAttr> miscTextAttr =
-            new KeptAttribute<>(PbMiscTextAttr.class, "miscTextAttr");
+    private final Kept<PbMiscTextAttr> miscTextAttr = new Kept<>(PbMiscTextAttr.class, "miscTextAttr");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.

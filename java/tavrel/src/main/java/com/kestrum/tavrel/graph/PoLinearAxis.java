@@ -139,8 +139,7 @@ public class PoLinearAxis extends PoCartesianAxis {
         super(handle);
     }
 
-    private final KeptAttribute<PbNumericDisplayFormat> format =
-            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps

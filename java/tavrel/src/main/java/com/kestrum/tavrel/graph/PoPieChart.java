@@ -186,9 +186,8 @@ public abstract class PoPieChart extends PoChart {
         private static native int getPERCENTAGENative();
     }
 
-    private final KeptAttribute<PbMiscTextAttr> textAttr = new KeptAttribute<>(PbMiscTextAttr.class, "attr");
-    private final KeptAttribute<PbNumericDisplayFormat> format =
-            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final Kept<PbMiscTextAttr> textAttr = new Kept<>(PbMiscTextAttr.class, "attr");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.

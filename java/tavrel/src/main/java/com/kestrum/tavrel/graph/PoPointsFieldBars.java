@@ -12,7 +12,7 @@ public class PoPointsFieldBars extends PoQuorvex {
         JarInitializer.init();
     }
 
-    private final KeptAttribute<PbDataMapping> dataMapping = new KeptAttribute<>(PbDataMapping.class, "dataMapping");
+    private final Kept<PbDataMapping> dataMapping = new Kept<>(PbDataMapping.class, "dataMapping");
 
     /** A node without points, with the toolkit's defaults. */
     public PoPointsFieldBars() {

@@ -73,8 +73,7 @@ public class PoPolarLinAxis extends PoPolarAxis {
         super(handle);
     }
 
-    private final KeptAttribute<PbNumericDisplayFormat> format =
-            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps

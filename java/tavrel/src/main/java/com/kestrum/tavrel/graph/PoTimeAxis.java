@@ -159,8 +159,7 @@ public class PoTimeAxis extends PoAxis {
         super(handle);
     }
 
-    private final KeptAttribute<PbDateFormatMapping> mapping =
-            new KeptAttribute<>(PbDateFormatMapping.class, "mapping");
+    private final Kept<PbDateFormatMapping> mapping = new Kept<>(PbDateFormatMapping.class, "mapping");
 
     /**
      * Sets the mapping between dates and coordinates, and the date format of the labels; null

@@ -8,11 +8,9 @@ public abstract class PoValueLegend extends PoLegend {
         JarInitializer.init();
     }
 
-    private final KeptAttribute<PbIsovaluesList> isovaluesList =
-            new KeptAttribute<>(PbIsovaluesList.class, "isovaluesList");
-    private final KeptAttribute<PbDataMapping> dataMapping = new KeptAttribute<>(PbDataMapping.class, "dataMapping");
-    private final KeptAttribute<PbNumericDisplayFormat> format =
-            new KeptAttribute<>(PbNumericDisplayFormat.class, "format");
+    private final Kept<PbIsovaluesList> isovaluesList = new Kept<>(PbIsovaluesList.class, "isovaluesList");
+    private final Kept<PbDataMapping> dataMapping = new Kept<>(PbDataMapping.class, "dataMapping");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.

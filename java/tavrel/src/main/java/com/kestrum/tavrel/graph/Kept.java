@@ -12,7 +12,7 @@ import com.kestrum.tavrel.internal.JavaViews;
  *
  * @param <T> the attribute object's class
  */
-final class KeptAttribute<T extends NativeObject> {
+final class Kept<T extends NativeObject> {
     /** The native setter of a node: the node's handle and the object's address, 0 for none. */
     @FunctionalInterface
     interface Setter {
@@ -27,7 +27,7 @@ final class KeptAttribute<T extends NativeObject> {
      * @param type the attribute object's class, for the view of an address
      * @param name the setter's argument, for the exceptions' messages
      */
-    KeptAttribute(Class<T> type, String name) {
+    Kept(Class<T> type, String name) {
         this.type = type;
         this.name = name;
     }
