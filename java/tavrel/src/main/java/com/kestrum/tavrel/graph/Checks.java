@@ -75,7 +75,12 @@ final class Checks {
     }
 
     /** The two components of a 2D point, in a new array. */
-    static float[] pair(SbVec2f point, String name) {
+    static float[] point(SbVec2f point, String name) {
+        return notNull(point, name).getValue();
+    }
+
+    /** The three components of a 3D point, in a new array. */
+    static float[] point(SbVec3f point, String name) {
         return notNull(point, name).getValue();
     }
 

@@ -72,7 +72,8 @@ public class PoAutoCubeAxis extends PoBase {
      * @param zTitle the title of the z axis
      */
     public PoAutoCubeAxis(SbVec3f start, SbVec3f end, AxisTypes xType, AxisTypes yType, AxisTypes zType, String xTitle, String yTitle, String zTitle) {
-        this(ctorImpl1(notNull(start, "start").getValue(), notNull(end, "end").getValue(), notNull(xType, "xType").getValue(), notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(),
+        this(ctorImpl1(Checks.point(start, "start"), Checks.point(end, "end"), notNull(xType, "xType").getValue(),
+                notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(),
                 notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle"), notNull(zTitle, "zTitle")));
     }
 

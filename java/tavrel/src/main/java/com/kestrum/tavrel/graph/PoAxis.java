@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 import java.util.List;
 
 /**
@@ -389,7 +388,7 @@ public abstract class PoAxis extends PoBase {
     /** The grid or arrow settings: a visibility and two lengths. */
     public record Lines(Visibilities visibility, float length1, float length2) {}
 
-    private PbMiscTextAttr textAttr;
+    private final Kept<PbMiscTextAttr> textAttr = new Kept<>(PbMiscTextAttr.class, "attr");
 
     /**
      * Sets the text attributes of the axis's text; null for none. A change of the node. The node
@@ -398,10 +397,7 @@ public abstract class PoAxis extends PoBase {
      * @param attr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr attr) {
-        rebuilding(attr, "attr", (h, address) -> {
-            textAttr = attr;
-            setMiscTextAttrImpl(h, address);
-        });
+        textAttr.setRebuilding(this, attr, this::setMiscTextAttrImpl);
     }
 
     /**
@@ -410,7 +406,7 @@ public abstract class PoAxis extends PoBase {
      * @return the text attributes, or null: the Java object set earlier, else a view of the address
      */
     public PbMiscTextAttr getMiscTextAttr() {
-        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), textAttr);
+        return textAttr.get(getMiscTextAttrImpl(handle()));
     }
 
     /**
@@ -495,10 +491,7 @@ public abstract class PoAxis extends PoBase {
      * @return the axis's grid settings
      */
     public Lines getGrid() {
-        int[] visibility = new int[1];
-        float[] a = new float[1], b = new float[1];
-        getGridImpl(handle(), visibility, a, b);
-        return new Lines(Visibilities.fromValue(visibility[0]), a[0], b[0]);
+        return lines(this::getGridImpl);
     }
 
     /**
@@ -507,9 +500,19 @@ public abstract class PoAxis extends PoBase {
      * @return the axis's arrow settings
      */
     public Lines getArrow() {
+        return lines(this::getArrowImpl);
+    }
+
+    /** A native getter of a visibility and two lengths. */
+    @FunctionalInterface
+    private interface LinesGetter {
+        void get(long handle, int[] visibility, float[] length1, float[] length2);
+    }
+
+    private Lines lines(LinesGetter getter) {
         int[] visibility = new int[1];
         float[] a = new float[1], b = new float[1];
-        getArrowImpl(handle(), visibility, a, b);
+        getter.get(handle(), visibility, a, b);
         return new Lines(Visibilities.fromValue(visibility[0]), a[0], b[0]);
     }
 

@@ -166,7 +166,7 @@ public abstract class PoBase extends SoBaseKit {
         void onRebuild(PoBase node);
     }
 
-    private PbDomain domain;
+    private final Kept<PbDomain> domain = new Kept<>(PbDomain.class, "domain");
     private final List<PoRebuildCB> preCallbacks = new ArrayList<>();
     private final List<PoRebuildCB> postCallbacks = new ArrayList<>();
 
@@ -345,10 +345,7 @@ public abstract class PoBase extends SoBaseKit {
      * @param domain the domain, or null for none
      */
     public void setDomain(PbDomain domain) {
-        rebuilding(domain, "domain", (h, address) -> {
-            this.domain = domain;
-            setDomainImpl(h, address);
-        });
+        this.domain.setRebuilding(this, domain, this::setDomainImpl);
     }
 
     /**
@@ -359,7 +356,7 @@ public abstract class PoBase extends SoBaseKit {
      *     address, else the registered Java object of that address, else a new view of it
      */
     public PbDomain getDomain() {
-        return JavaViews.find(PbDomain.class, getDomainImpl(handle()), domain);
+        return domain.get(getDomainImpl(handle()));
     }
 
     /** Marks the node as changed (see the class). */
@@ -469,6 +466,27 @@ public abstract class PoBase extends SoBaseKit {
         callHolding(JavaViews.keepable(argument, name), name, true, (h, a) -> {
             call.call(h, a);
             return null;
+        });
+    }
+
+    /**
+     * The address of an attribute object that a node will keep by address, 0 for null.
+     *
+     * @throws IllegalStateException when the object has been disposed
+     * @throws IllegalArgumentException when it is a view of a traversal's state
+     */
+    static long keptAddress(NativeObject attribute, String name) {
+        return handleOrZero(JavaViews.keepable(attribute, name), name);
+    }
+
+    /**
+     * As {@link #rebuilding(NativeObject, String, HandleCall)} for a setter of an attribute object
+     * kept by address, which runs {@code keep} first.
+     */
+    final void rebuilding(NativeObject attribute, String name, Runnable keep, Kept.Setter setter) {
+        rebuilding(attribute, name, (h, address) -> {
+            keep.run();
+            setter.set(h, address);
         });
     }
 

@@ -1,6 +1,6 @@
 package com.kestrum.tavrel.graph;
 
-import static com.kestrum.tavrel.graph.Checks.notNull;
+import static com.kestrum.tavrel.graph.Checks.point;
 
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.tavrel.internal.JarInitializer;
@@ -55,10 +55,6 @@ public class PoCircleArcThreePts extends PoCircleArc {
      */
     public static long getClassNodekitCatalog() {
         return getClassNodekitCatalogImpl();
-    }
-
-    private static float[] point(SbVec2f point, String name) {
-        return notNull(point, name).getValue();
     }
 
     private static native long ctorImpl();

@@ -29,7 +29,7 @@ public class PoCoordinateSystemAxis extends PoQuorvex {
      */
     public PoCoordinateSystemAxis(SbVec3f origin, SbVec3f end, String xTitle, String yTitle, String zTitle,
             float gradDistance, float arrowLength) {
-        this(ctorImpl1(notNull(origin, "origin").getValue(), notNull(end, "end").getValue(), notNull(xTitle, "xTitle"),
+        this(ctorImpl1(Checks.point(origin, "origin"), Checks.point(end, "end"), notNull(xTitle, "xTitle"),
                 notNull(yTitle, "yTitle"), notNull(zTitle, "zTitle"), gradDistance, arrowLength));
     }
 

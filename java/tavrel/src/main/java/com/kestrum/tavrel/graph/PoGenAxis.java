@@ -27,7 +27,7 @@ public class PoGenAxis extends PoCartesianAxis {
      * @param grads the graduations' texts
      */
     public PoGenAxis(SbVec3f start, float end, PoCartesianAxis.Types type, String[] grads) {
-        this(ctorImpl1(PoLinearAxis.point(start, "start"), end, PoLinearAxis.value(type), labels(grads),
+        this(ctorImpl1(Checks.point(start, "start"), end, PoLinearAxis.value(type), labels(grads),
                 grads.length));
     }
 

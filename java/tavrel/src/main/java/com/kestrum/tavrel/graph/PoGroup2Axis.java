@@ -65,8 +65,8 @@ public class PoGroup2Axis extends PoBaseAxis {
      * @param yTitle the title of the y axis
      */
     public PoGroup2Axis(SbVec2f start, SbVec2f end, AxisTypes xType, AxisTypes yType, String xTitle, String yTitle) {
-        this(ctorImpl1(notNull(start, "start").getValue(), notNull(end, "end").getValue(), notNull(xType, "xType").getValue(), notNull(yType, "yType").getValue(),
-                notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle")));
+        this(ctorImpl1(Checks.point(start, "start"), Checks.point(end, "end"), notNull(xType, "xType").getValue(),
+                notNull(yType, "yType").getValue(), notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle")));
     }
 
     /**

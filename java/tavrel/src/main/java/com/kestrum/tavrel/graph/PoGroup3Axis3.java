@@ -109,7 +109,9 @@ public class PoGroup3Axis3 extends PoBaseAxis {
      * @param zTitle the title of the z axis
      */
     public PoGroup3Axis3(SbVec3f start, SbVec3f end, AxisTypes xType, AxisTypes yType, AxisTypes zType, AxisNames name, String xTitle, String yTitle, String zTitle) {
-        this(ctorImpl1(notNull(start, "start").getValue(), notNull(end, "end").getValue(), notNull(xType, "xType").getValue(), notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(), notNull(name, "name").getValue(),
+        this(ctorImpl1(Checks.point(start, "start"), Checks.point(end, "end"), notNull(xType, "xType").getValue(),
+                notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(),
+                notNull(name, "name").getValue(),
                 notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle"), notNull(zTitle, "zTitle")));
     }
 

@@ -67,7 +67,8 @@ public class PoGroup6Axis3 extends PoBaseAxis {
      * @param zTitle the title of the z axis
      */
     public PoGroup6Axis3(SbVec3f start, SbVec3f end, AxisTypes xType, AxisTypes yType, AxisTypes zType, String xTitle, String yTitle, String zTitle) {
-        this(ctorImpl1(notNull(start, "start").getValue(), notNull(end, "end").getValue(), notNull(xType, "xType").getValue(), notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(),
+        this(ctorImpl1(Checks.point(start, "start"), Checks.point(end, "end"), notNull(xType, "xType").getValue(),
+                notNull(yType, "yType").getValue(), notNull(zType, "zType").getValue(),
                 notNull(xTitle, "xTitle"), notNull(yTitle, "yTitle"), notNull(zTitle, "zTitle")));
     }
 

@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the histograms: the attribute objects that colour and label their bars. */
 public abstract class PoHistogram extends PoChart {
@@ -276,9 +275,9 @@ public abstract class PoHistogram extends PoChart {
         private static native int getDATAMAPPINGNative();
     }
 
-    private PbMiscTextAttr miscTextAttr;
-    private PbDataMapping dataMapping;
-    private PbNumericDisplayFormat format;
+    private final Kept<PbMiscTextAttr> miscTextAttr = new Kept<>(PbMiscTextAttr.class, "miscTextAttr");
+    private final Kept<PbDataMapping> dataMapping = new Kept<>(PbDataMapping.class, "dataMapping");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.
@@ -298,20 +297,17 @@ public abstract class PoHistogram extends PoChart {
      * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
-        setMiscTextAttrImpl(handle(), handleOrZero(JavaViews.keepable(miscTextAttr, "miscTextAttr"), "miscTextAttr"));
-        this.miscTextAttr = miscTextAttr;
+        this.miscTextAttr.set(handle(), miscTextAttr, this::setMiscTextAttrImpl);
     }
 
     /**
-     * The text attributes of the bars' texts, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The text attributes of the bars' texts, or null for none.
      *
      * @return the text attributes of the bars' texts, or null for none: the Java object set earlier while the
      *     node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbMiscTextAttr getMiscTextAttr() {
-        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
+        return miscTextAttr.get(getMiscTextAttrImpl(handle()));
     }
 
     /**
@@ -323,20 +319,17 @@ public abstract class PoHistogram extends PoChart {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
-        this.dataMapping = dataMapping;
+        this.dataMapping.set(handle(), dataMapping, this::setDataMappingImpl);
     }
 
     /**
-     * The data mapping that colours the bars, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The data mapping that colours the bars, or null for none.
      *
      * @return the data mapping that colours the bars, or null for none: the Java object set earlier while the
      *     node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbDataMapping getDataMapping() {
-        return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
+        return dataMapping.get(getDataMappingImpl(handle()));
     }
 
     /**
@@ -348,20 +341,17 @@ public abstract class PoHistogram extends PoChart {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
-        this.format = format;
+        this.format.set(handle(), format, this::setFormatImpl);
     }
 
     /**
-     * The numeric format of the bars' values, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The numeric format of the bars' values, or null for none.
      *
      * @return the numeric format of the bars' values, or null for none: the Java object set earlier while the
      *     node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbNumericDisplayFormat getFormat() {
-        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+        return format.get(getFormatImpl(handle()));
     }
 
     /**

@@ -1,7 +1,5 @@
 package com.kestrum.tavrel.graph;
 
-import static com.kestrum.tavrel.graph.Checks.notNull;
-
 import com.kestrum.corvel.SbColor;
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.tavrel.internal.JarInitializer;
@@ -33,7 +31,7 @@ public class PoItemLegend extends PoLegend {
      * @throws NullPointerException when a corner, the names, a name or a colour is null
      */
     public PoItemLegend(SbVec2f corner1, SbVec2f corner2, int numItems, String[] names, SbColor[] colors) {
-        super(ctorImpl1(Checks.pair(corner1, "corner1"), Checks.pair(corner2, "corner2"),
+        super(ctorImpl1(Checks.point(corner1, "corner1"), Checks.point(corner2, "corner2"),
                 Checks.count(numItems, Integer.MAX_VALUE, "numItems"), Checks.strings(names, numItems, "names"),
                 Checks.colors(colors, numItems, "colors")));
     }

@@ -5,7 +5,6 @@ import static com.kestrum.tavrel.graph.Checks.notNull;
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /**
  * Labels at points: a string and a value each, joined as the concatenation type says. The node
@@ -188,7 +187,7 @@ public class PoLabelField extends PoQuorvex {
         private static native int getVALUEABOVESTRINGNative();
     }
 
-    private PbNumericDisplayFormat format;
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /** A node without points, with the toolkit's defaults. */
     public PoLabelField() {
@@ -226,20 +225,17 @@ public class PoLabelField extends PoQuorvex {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
-        this.format = format;
+        this.format.set(handle(), format, this::setFormatImpl);
     }
 
     /**
-     * The numeric format of the labels' values, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The numeric format of the labels' values, or null for none.
      *
      * @return the numeric format of the labels' values, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbNumericDisplayFormat getFormat() {
-        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+        return format.get(getFormatImpl(handle()));
     }
 
     /**

@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the legends: the text attributes of their texts. */
 public abstract class PoLegend extends PoBase {
@@ -211,7 +210,7 @@ public abstract class PoLegend extends PoBase {
         private static native int getHORIZONTALINCREMENTNative();
     }
 
-    private PbMiscTextAttr miscTextAttr;
+    private final Kept<PbMiscTextAttr> miscTextAttr = new Kept<>(PbMiscTextAttr.class, "miscTextAttr");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.
@@ -231,20 +230,17 @@ public abstract class PoLegend extends PoBase {
      * @param miscTextAttr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr miscTextAttr) {
-        setMiscTextAttrImpl(handle(), handleOrZero(JavaViews.keepable(miscTextAttr, "miscTextAttr"), "miscTextAttr"));
-        this.miscTextAttr = miscTextAttr;
+        this.miscTextAttr.set(handle(), miscTextAttr, this::setMiscTextAttrImpl);
     }
 
     /**
-     * The text attributes of the legend's texts, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The text attributes of the legend's texts, or null for none.
      *
      * @return the text attributes of the legend's texts, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbMiscTextAttr getMiscTextAttr() {
-        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), miscTextAttr);
+        return miscTextAttr.get(getMiscTextAttrImpl(handle()));
     }
 
     /**

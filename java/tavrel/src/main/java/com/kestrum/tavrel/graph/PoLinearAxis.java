@@ -5,7 +5,6 @@ import static com.kestrum.tavrel.graph.Checks.notNull;
 import com.kestrum.corvel.SbVec3f;
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /**
  * A linear axis: graduations at the multiples of a step between the values at its two ends.
@@ -113,7 +112,7 @@ public class PoLinearAxis extends PoCartesianAxis {
      * @param step the step between two values
      */
     public PoLinearAxis(SbVec3f start, float end, PoCartesianAxis.Types type, float step) {
-        this(ctorImpl1(point(start, "start"), end, value(type), step));
+        this(ctorImpl1(Checks.point(start, "start"), end, value(type), step));
     }
 
     /**
@@ -128,7 +127,7 @@ public class PoLinearAxis extends PoCartesianAxis {
      */
     public PoLinearAxis(SbVec3f start, float end, PoCartesianAxis.Types type, float gradStart, float gradEnd,
             float step) {
-        this(ctorImpl2(point(start, "start"), end, value(type), gradStart, gradEnd, step));
+        this(ctorImpl2(Checks.point(start, "start"), end, value(type), gradStart, gradEnd, step));
     }
 
     /**
@@ -140,7 +139,7 @@ public class PoLinearAxis extends PoCartesianAxis {
         super(handle);
     }
 
-    private PbNumericDisplayFormat format;
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps
@@ -149,10 +148,7 @@ public class PoLinearAxis extends PoCartesianAxis {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        rebuilding(format, "format", (h, address) -> {
-            this.format = format;
-            setFormatImpl(h, address);
-        });
+        this.format.setRebuilding(this, format, this::setFormatImpl);
     }
 
     /**
@@ -161,7 +157,7 @@ public class PoLinearAxis extends PoCartesianAxis {
      * @return the number format, or null: the Java object set earlier, else a view of the address
      */
     public PbNumericDisplayFormat getFormat() {
-        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+        return format.get(getFormatImpl(handle()));
     }
 
     /**
@@ -186,10 +182,6 @@ public class PoLinearAxis extends PoCartesianAxis {
         float[] factor = new float[1];
         getMultFactorImpl(handle(), position, factor);
         return new MultFactor(MultFactorPositions.fromValue(position[0]), factor[0]);
-    }
-
-    static float[] point(SbVec3f p, String name) {
-        return notNull(p, name).getValue();
     }
 
     static int value(PoCartesianAxis.Types type) {

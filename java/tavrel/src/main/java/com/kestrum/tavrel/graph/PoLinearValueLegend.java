@@ -65,7 +65,7 @@ public class PoLinearValueLegend extends PoValueLegend {
      * @throws NullPointerException when an argument is null
      */
     public PoLinearValueLegend(SbVec2f corner1, SbVec2f corner2, ValueDistributions distribution) {
-        super(ctorImpl1(Checks.pair(corner1, "corner1"), Checks.pair(corner2, "corner2"),
+        super(ctorImpl1(Checks.point(corner1, "corner1"), Checks.point(corner2, "corner2"),
                 Checks.notNull(distribution, "distribution").getValue()));
     }
 

@@ -206,7 +206,7 @@ public class PoLogAxis extends PoCartesianAxis {
      * @param def which decades are graduated
      */
     public PoLogAxis(SbVec3f start, float end, PoCartesianAxis.Types type, DecadeListDefs def, int[] decades) {
-        this(ctorImpl1(PoLinearAxis.point(start, "start"), end, PoLinearAxis.value(type), value(def),
+        this(ctorImpl1(Checks.point(start, "start"), end, PoLinearAxis.value(type), value(def),
                 unsignedShorts(decades), decades == null ? 0 : decades.length));
     }
 
@@ -223,7 +223,7 @@ public class PoLogAxis extends PoCartesianAxis {
      */
     public PoLogAxis(SbVec3f start, float end, PoCartesianAxis.Types type, DecadeListDefs def, int[] decades,
             float expStart, float expEnd) {
-        this(ctorImpl2(PoLinearAxis.point(start, "start"), end, PoLinearAxis.value(type), value(def),
+        this(ctorImpl2(Checks.point(start, "start"), end, PoLinearAxis.value(type), value(def),
                 unsignedShorts(decades), decades == null ? 0 : decades.length, expStart, expEnd));
     }
 

@@ -116,7 +116,7 @@ public class PoMultipleHistogram extends PoHistogram {
      */
     public PoMultipleHistogram(SbVec2f origin, float histogSize, PoHistogram.Types type, int numHistog,
             int numValues, float[] values, String[] histogNames, String[] valueNames) {
-        super(ctorImpl1(Checks.pair(origin, "origin"), histogSize, notNull(type, "type").getValue(),
+        super(ctorImpl1(Checks.point(origin, "origin"), histogSize, notNull(type, "type").getValue(),
                 Checks.count(numHistog, Integer.MAX_VALUE, "numHistog"),
                 Checks.count(numValues, Integer.MAX_VALUE, "numValues"),
                 Checks.length(values, (long) numHistog * numValues, "values"),

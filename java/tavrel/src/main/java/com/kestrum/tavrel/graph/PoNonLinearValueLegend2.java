@@ -22,7 +22,7 @@ public class PoNonLinearValueLegend2 extends PoValueLegend {
      * @throws NullPointerException when a corner is null
      */
     public PoNonLinearValueLegend2(SbVec2f corner1, SbVec2f corner2) {
-        super(ctorImpl1(Checks.pair(corner1, "corner1"), Checks.pair(corner2, "corner2")));
+        super(ctorImpl1(Checks.point(corner1, "corner1"), Checks.point(corner2, "corner2")));
     }
 
     /**

@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /**
  * Base of the pie charts: slices with names, values and colours around a centre.
@@ -187,8 +186,8 @@ public abstract class PoPieChart extends PoChart {
         private static native int getPERCENTAGENative();
     }
 
-    private PbMiscTextAttr textAttr;
-    private PbNumericDisplayFormat format;
+    private final Kept<PbMiscTextAttr> textAttr = new Kept<>(PbMiscTextAttr.class, "attr");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.
@@ -225,10 +224,7 @@ public abstract class PoPieChart extends PoChart {
      * @param attr the text attributes, or null for none
      */
     public void setMiscTextAttr(PbMiscTextAttr attr) {
-        rebuilding(attr, "attr", (h, address) -> {
-            this.textAttr = attr;
-            setMiscTextAttrImpl(h, address);
-        });
+        textAttr.setRebuilding(this, attr, this::setMiscTextAttrImpl);
     }
 
     /**
@@ -238,7 +234,7 @@ public abstract class PoPieChart extends PoChart {
      *     view
      */
     public PbMiscTextAttr getMiscTextAttr() {
-        return JavaViews.find(PbMiscTextAttr.class, getMiscTextAttrImpl(handle()), textAttr);
+        return textAttr.get(getMiscTextAttrImpl(handle()));
     }
 
     /**
@@ -247,10 +243,7 @@ public abstract class PoPieChart extends PoChart {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        rebuilding(format, "format", (h, address) -> {
-            this.format = format;
-            setFormatImpl(h, address);
-        });
+        this.format.setRebuilding(this, format, this::setFormatImpl);
     }
 
     /**
@@ -259,7 +252,7 @@ public abstract class PoPieChart extends PoChart {
      * @return the number format, or null: the Java object set while the chart holds its address, else a view
      */
     public PbNumericDisplayFormat getFormat() {
-        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+        return format.get(getFormatImpl(handle()));
     }
 
     /**

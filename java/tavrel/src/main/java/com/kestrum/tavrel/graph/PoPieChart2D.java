@@ -34,7 +34,7 @@ public class PoPieChart2D extends PoPieChart {
      */
     public PoPieChart2D(SbVec2f center, float radius, int numSlices, String[] names, float[] values, int numColors,
             SbColor[] colors) {
-        this(ctorImpl1(notNull(center, "center").getValue(), radius, ChartChecks.slices(numSlices, names, values),
+        this(ctorImpl1(Checks.point(center, "center"), radius, ChartChecks.slices(numSlices, names, values),
                 names, values, ChartChecks.count(numColors, "numColors"), colors(colors, numColors, "colors")));
     }
 

@@ -35,7 +35,7 @@ public class PoPieChart3D extends PoPieChart {
      */
     public PoPieChart3D(SbVec3f center, float radius, float height, int numSlices, String[] names, float[] values,
             int numColors, SbColor[] colors) {
-        this(ctorImpl1(notNull(center, "center").getValue(), radius, height,
+        this(ctorImpl1(Checks.point(center, "center"), radius, height,
                 ChartChecks.slices(numSlices, names, values),
                 names, values, ChartChecks.count(numColors, "numColors"), colors(colors, numColors, "colors")));
     }

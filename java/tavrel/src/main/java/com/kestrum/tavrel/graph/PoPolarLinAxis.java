@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** A linear polar axis from a centre (x0, y0) to a point (x1, y1). */
 public class PoPolarLinAxis extends PoPolarAxis {
@@ -74,7 +73,7 @@ public class PoPolarLinAxis extends PoPolarAxis {
         super(handle);
     }
 
-    private PbNumericDisplayFormat format;
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * Sets the number format of the labels; null for none. A change of the node. The node keeps
@@ -83,10 +82,7 @@ public class PoPolarLinAxis extends PoPolarAxis {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        rebuilding(format, "format", (h, address) -> {
-            this.format = format;
-            setFormatImpl(h, address);
-        });
+        this.format.setRebuilding(this, format, this::setFormatImpl);
     }
 
     /**
@@ -95,7 +91,7 @@ public class PoPolarLinAxis extends PoPolarAxis {
      * @return the number format, or null: the Java object set earlier, else a view of the address
      */
     public PbNumericDisplayFormat getFormat() {
-        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+        return format.get(getFormatImpl(handle()));
     }
 
     /**

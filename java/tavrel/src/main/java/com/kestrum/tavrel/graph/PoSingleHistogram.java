@@ -34,7 +34,7 @@ public class PoSingleHistogram extends PoHistogram {
      */
     public PoSingleHistogram(SbVec2f origin, float histogSize, Types type, int numValues, float[] values,
             String[] names) {
-        super(ctorImpl1(Checks.pair(origin, "origin"), histogSize, notNull(type, "type").getValue(),
+        super(ctorImpl1(Checks.point(origin, "origin"), histogSize, notNull(type, "type").getValue(),
                 Checks.count(numValues, Integer.MAX_VALUE, "numValues"), Checks.length(values, numValues, "values"),
                 Checks.strings(names, numValues, "names")));
     }

@@ -4,7 +4,6 @@ import static com.kestrum.tavrel.graph.Checks.notNull;
 
 import com.kestrum.tavrel.internal.Enums;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /**
  * A time axis between two dates ("YYYY-MM-DD", optionally with " hh:mm" or " hh:mm:ss"), its
@@ -160,7 +159,7 @@ public class PoTimeAxis extends PoAxis {
         super(handle);
     }
 
-    private PbDateFormatMapping mapping;
+    private final Kept<PbDateFormatMapping> mapping = new Kept<>(PbDateFormatMapping.class, "mapping");
 
     /**
      * Sets the mapping between dates and coordinates, and the date format of the labels; null
@@ -170,10 +169,7 @@ public class PoTimeAxis extends PoAxis {
      * @param mapping the date mapping, or null for none
      */
     public void setDateFormatMapping(PbDateFormatMapping mapping) {
-        rebuilding(mapping, "mapping", (h, address) -> {
-            this.mapping = mapping;
-            setDateFormatMappingImpl(h, address);
-        });
+        this.mapping.setRebuilding(this, mapping, this::setDateFormatMappingImpl);
     }
 
     /**
@@ -182,7 +178,7 @@ public class PoTimeAxis extends PoAxis {
      * @return the date mapping, or null: the Java object set earlier, else a view of the address
      */
     public PbDateFormatMapping getDateFormatMapping() {
-        return JavaViews.find(PbDateFormatMapping.class, getDateFormatMappingImpl(handle()), mapping);
+        return mapping.get(getDateFormatMappingImpl(handle()));
     }
 
     /**

@@ -1,7 +1,6 @@
 package com.kestrum.tavrel.graph;
 
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /** Base of the value legends, which show how values map to colours. */
 public abstract class PoValueLegend extends PoLegend {
@@ -9,9 +8,9 @@ public abstract class PoValueLegend extends PoLegend {
         JarInitializer.init();
     }
 
-    private PbIsovaluesList isovaluesList;
-    private PbDataMapping dataMapping;
-    private PbNumericDisplayFormat format;
+    private final Kept<PbIsovaluesList> isovaluesList = new Kept<>(PbIsovaluesList.class, "isovaluesList");
+    private final Kept<PbDataMapping> dataMapping = new Kept<>(PbDataMapping.class, "dataMapping");
+    private final Kept<PbNumericDisplayFormat> format = new Kept<>(PbNumericDisplayFormat.class, "format");
 
     /**
      * A Java object for the native node at the handle (non-zero); takes a reference on it.
@@ -31,21 +30,18 @@ public abstract class PoValueLegend extends PoLegend {
      * @param isovaluesList the isovalue list, or null for none
      */
     public void setIsovaluesList(PbIsovaluesList isovaluesList) {
-        setIsovaluesListImpl(handle(), handleOrZero(JavaViews.keepable(isovaluesList, "isovaluesList"), "isovaluesList"));
-        this.isovaluesList = isovaluesList;
+        this.isovaluesList.set(handle(), isovaluesList, this::setIsovaluesListImpl);
     }
 
     /**
-     * The isovalue list whose values the legend shows, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The isovalue list whose values the legend shows, or null for none.
      *
      * @return the isovalue list whose values the legend shows, or null for none: the Java object set earlier
      *     while the node still holds its address, else the registered Java object of that address or a view
      *     of it
      */
     public PbIsovaluesList getIsovaluesList() {
-        return JavaViews.find(PbIsovaluesList.class, getIsovaluesListImpl(handle()), isovaluesList);
+        return isovaluesList.get(getIsovaluesListImpl(handle()));
     }
 
     /**
@@ -57,21 +53,18 @@ public abstract class PoValueLegend extends PoLegend {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
-        this.dataMapping = dataMapping;
+        this.dataMapping.set(handle(), dataMapping, this::setDataMappingImpl);
     }
 
     /**
-     * The data mapping that colours the legend's boxes, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The data mapping that colours the legend's boxes, or null for none.
      *
      * @return the data mapping that colours the legend's boxes, or null for none: the Java object set earlier
      *     while the node still holds its address, else the registered Java object of that address or a view
      *     of it
      */
     public PbDataMapping getDataMapping() {
-        return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
+        return dataMapping.get(getDataMappingImpl(handle()));
     }
 
     /**
@@ -83,20 +76,17 @@ public abstract class PoValueLegend extends PoLegend {
      * @param format the format, or null for none
      */
     public void setFormat(PbNumericDisplayFormat format) {
-        setFormatImpl(handle(), handleOrZero(JavaViews.keepable(format, "format"), "format"));
-        this.format = format;
+        this.format.set(handle(), format, this::setFormatImpl);
     }
 
     /**
-     * The numeric format of the legend's values, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The numeric format of the legend's values, or null for none.
      *
      * @return the numeric format of the legend's values, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbNumericDisplayFormat getFormat() {
-        return JavaViews.find(PbNumericDisplayFormat.class, getFormatImpl(handle()), format);
+        return format.get(getFormatImpl(handle()));
     }
 
     /**

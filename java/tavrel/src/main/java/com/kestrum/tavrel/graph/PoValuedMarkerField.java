@@ -2,7 +2,6 @@ package com.kestrum.tavrel.graph;
 
 import com.kestrum.corvel.SbVec2f;
 import com.kestrum.tavrel.internal.JarInitializer;
-import com.kestrum.tavrel.internal.JavaViews;
 
 /**
  * Markers at points, each with two values, coloured through a data mapping. The node keeps a copy
@@ -13,7 +12,7 @@ public class PoValuedMarkerField extends PoQuorvex {
         JarInitializer.init();
     }
 
-    private PbDataMapping dataMapping;
+    private final Kept<PbDataMapping> dataMapping = new Kept<>(PbDataMapping.class, "dataMapping");
 
     /** A node without points, with the toolkit's defaults. */
     public PoValuedMarkerField() {
@@ -44,20 +43,17 @@ public class PoValuedMarkerField extends PoQuorvex {
      * @param dataMapping the data mapping, or null for none
      */
     public void setDataMapping(PbDataMapping dataMapping) {
-        setDataMappingImpl(handle(), handleOrZero(JavaViews.keepable(dataMapping, "dataMapping"), "dataMapping"));
-        this.dataMapping = dataMapping;
+        this.dataMapping.set(handle(), dataMapping, this::setDataMappingImpl);
     }
 
     /**
-     * The data mapping that colours the markers, or null for none: the Java object set earlier
-     * while the node still holds its address, else the registered Java object of that address
-     * or a view of it.
+     * The data mapping that colours the markers, or null for none.
      *
      * @return the data mapping that colours the markers, or null for none: the Java object set earlier while
      *     the node still holds its address, else the registered Java object of that address or a view of it
      */
     public PbDataMapping getDataMapping() {
-        return JavaViews.find(PbDataMapping.class, getDataMappingImpl(handle()), dataMapping);
+        return dataMapping.get(getDataMappingImpl(handle()));
     }
 
     /**
