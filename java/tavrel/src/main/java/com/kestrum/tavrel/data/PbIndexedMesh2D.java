@@ -159,11 +159,7 @@ public class PbIndexedMesh2D extends PbMesh2D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }

@@ -54,10 +54,9 @@ public abstract class PbMesh extends NativeObject {
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static DataBindings fromValue(int value) {
             return Enums.fromValue(values(), DataBindings::getValue, value);

@@ -27,11 +27,7 @@ public abstract class PbMesh2D extends PbMesh {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }

@@ -24,11 +24,7 @@ public class PoBaseStreamLine extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }

@@ -36,11 +36,7 @@ public abstract class PoMesh extends PoDessvane {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }

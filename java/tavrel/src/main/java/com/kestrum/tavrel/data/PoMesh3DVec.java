@@ -25,11 +25,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
@@ -58,11 +54,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
@@ -87,11 +79,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
@@ -114,11 +102,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
@@ -159,11 +143,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
@@ -204,11 +184,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
@@ -233,11 +209,7 @@ public class PoMesh3DVec extends PoMesh3D {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }

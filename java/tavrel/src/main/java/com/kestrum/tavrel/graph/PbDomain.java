@@ -41,20 +41,15 @@ public class PbDomain extends PbBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TransformTypes fromValue(int value) {
             return Enums.fromValue(values(), TransformTypes::getValue, value);
@@ -86,11 +81,7 @@ public class PbDomain extends PbBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }

@@ -30,20 +30,15 @@ public class PbMiscTextAttr extends PbBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static LineLengths fromValue(int value) {
             return Enums.fromValue(values(), LineLengths::getValue, value);

@@ -31,20 +31,15 @@ public class PoArrow3 extends PoQuorvex {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static PatternTypes fromValue(int value) {
             return Enums.fromValue(values(), PatternTypes::getValue, value);

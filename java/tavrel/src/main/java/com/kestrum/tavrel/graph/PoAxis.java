@@ -29,20 +29,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static Visibilities fromValue(int value) {
             return Enums.fromValue(values(), Visibilities::getValue, value);
@@ -74,20 +69,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TextPaths fromValue(int value) {
             return Enums.fromValue(values(), TextPaths::getValue, value);
@@ -119,20 +109,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static GradPositions fromValue(int value) {
             return Enums.fromValue(values(), GradPositions::getValue, value);
@@ -158,20 +143,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static MarginTypes fromValue(int value) {
             return Enums.fromValue(values(), MarginTypes::getValue, value);
@@ -197,20 +177,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TickPositions fromValue(int value) {
             return Enums.fromValue(values(), TickPositions::getValue, value);
@@ -238,20 +213,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TitlePositions fromValue(int value) {
             return Enums.fromValue(values(), TitlePositions::getValue, value);
@@ -277,20 +247,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TickSubDefs fromValue(int value) {
             return Enums.fromValue(values(), TickSubDefs::getValue, value);
@@ -316,20 +281,15 @@ public abstract class PoAxis extends PoBase {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static AxisReverses fromValue(int value) {
             return Enums.fromValue(values(), AxisReverses::getValue, value);

@@ -58,20 +58,15 @@ public abstract class PoBase extends SoBaseKit {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static UpdateMethodTypes fromValue(int value) {
             return Enums.fromValue(values(), UpdateMethodTypes::getValue, value);
@@ -95,20 +90,15 @@ public abstract class PoBase extends SoBaseKit {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static NodeWriteFormats fromValue(int value) {
             return Enums.fromValue(values(), NodeWriteFormats::getValue, value);
@@ -132,20 +122,15 @@ public abstract class PoBase extends SoBaseKit {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TextTypes fromValue(int value) {
             return Enums.fromValue(values(), TextTypes::getValue, value);

@@ -32,20 +32,15 @@ public class PoErrorPointField extends PoQuorvex {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static ShapeTypes fromValue(int value) {
             return Enums.fromValue(values(), ShapeTypes::getValue, value);
@@ -79,20 +74,15 @@ public class PoErrorPointField extends PoQuorvex {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static SkeletonTypes fromValue(int value) {
             return Enums.fromValue(values(), SkeletonTypes::getValue, value);

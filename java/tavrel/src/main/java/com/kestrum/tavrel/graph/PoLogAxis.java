@@ -30,20 +30,15 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static DecadeListDefs fromValue(int value) {
             return Enums.fromValue(values(), DecadeListDefs::getValue, value);
@@ -69,20 +64,15 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TenPowGradReps fromValue(int value) {
             return Enums.fromValue(values(), TenPowGradReps::getValue, value);
@@ -114,20 +104,15 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static DecadeReps fromValue(int value) {
             return Enums.fromValue(values(), DecadeReps::getValue, value);
@@ -161,20 +146,15 @@ public class PoLogAxis extends PoCartesianAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static MultFactorPositions fromValue(int value) {
             return Enums.fromValue(values(), MultFactorPositions::getValue, value);

@@ -24,20 +24,15 @@ public class PoPolarLogAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static DecadeListDefs fromValue(int value) {
             return Enums.fromValue(values(), DecadeListDefs::getValue, value);
@@ -63,20 +58,15 @@ public class PoPolarLogAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static TenPowGradReps fromValue(int value) {
             return Enums.fromValue(values(), TenPowGradReps::getValue, value);
@@ -108,20 +98,15 @@ public class PoPolarLogAxis extends PoPolarAxis {
             this.value = value;
         }
 
-        /**
-         * The toolkit's value of the constant.
-         *
-         * @return the toolkit's value of the constant
-         */
+        /** {@return the toolkit's value of the constant} */
         public int getValue() {
             return value;
         }
 
         /**
-         * The constant with the toolkit's value, or null.
+         * {@return the constant with the toolkit's value, or null}
          *
          * @param value the toolkit's value
-         * @return the constant with the toolkit's value, or null
          */
         public static DecadeReps fromValue(int value) {
             return Enums.fromValue(values(), DecadeReps::getValue, value);
