@@ -90,9 +90,10 @@ example-run:
 
 # The artifacts to publish, built as `make install` builds them, but not installed: per jar module
 # (java/corvel, java/tavrel) the jar with its natives stripped, the sources jar, the Javadoc jar
-# and the natives-debug jar with the natives' debug files (also in native/build/debug).
+# and the natives-debug jar with the natives' debug files (also in native/build/debug). The Java
+# side is built afresh: a jar left from an earlier commit would keep that commit's time.
 release: native
-	$(MVN) -q verify -DskipTests
+	$(MVN) -q clean verify -DskipTests
 	@$(MAKE) --no-print-directory jar-sizes
 
 # The sizes of the jars of `make release` (or `make install`); the main jars have a size goal
