@@ -48,7 +48,7 @@ PANAMA_OPTS := $(if $(wildcard $(PANAMA_JDK)/bin/javac),-Dpanama.jdk=$(PANAMA_JD
 
 .PHONY: all native native-asan java demo install example example-run test native-test java-test \
 	native-test-asan java-test-asan java-test-newest-jdk soak bench bench-quick bench-build fuzz clean \
-	native-cov coverage release jar-sizes repro-check
+	native-cov coverage
 # The test runs share Maven's output folders: one at a time.
 .NOTPARALLEL:
 
@@ -92,6 +92,7 @@ example-run:
 # (java/corvel, java/tavrel) the jar with its natives stripped, the sources jar, the Javadoc jar
 # and the natives-debug jar with the natives' debug files (also in native/build/debug). The Java
 # side is built afresh: a jar left from an earlier commit would keep that commit's time.
+.PHONY: release jar-sizes repro-check
 release: native
 	$(MVN) -q clean verify -DskipTests
 	@$(MAKE) --no-print-directory jar-sizes
