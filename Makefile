@@ -111,7 +111,7 @@ jar-sizes:
 			java/corvel/target/corvel-standin-$(PROJECT_VERSION)-$(kind).jar)
 
 # `make release` of the last commit in two fresh clones in different folders, one after the
-# other, then the checksums of their artifacts side by side (scripts/repro-check; REPRO_DIR holds
+# other, then the SHA-256 of each artifact of both (scripts/repro-check; REPRO_DIR holds
 # the clones, a new folder under /tmp by default). Without the compiler cache, so that both
 # builds compile every source in their own folder.
 repro-check:
