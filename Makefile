@@ -18,11 +18,19 @@
 #                the module path
 #   make coverage runs the JUnit suite against a build of the product with gcov instrumentation
 #                (native/build-cov) and prints its function and line coverage (not part of test)
+#   make release builds the artifacts to publish (each jar with its stripped natives, its sources,
+#                Javadoc and natives-debug jars) without installing them, and checks the jar sizes
+#   make jar-sizes prints the sizes of the jars built and fails when one misses its goal
+#   make repro-check builds the artifacts of the last commit twice, in two fresh clones in
+#                different folders, and fails unless they are byte for byte the same
 
 BUILD_DIR      ?= native/build
 ASAN_BUILD_DIR ?= native/build-asan
 COV_BUILD_DIR  ?= native/build-cov
-MVN            ?= mvn -B -f java/pom.xml
+# The time recorded in the jars' entries: the last commit's, so that a commit always gives the
+# same jars (the pom's fixed default without git).
+OUTPUT_TIMESTAMP ?= $(shell TZ=UTC0 git log -1 --format=%cd --date=format-local:%Y-%m-%dT%H:%M:%SZ 2>/dev/null)
+MVN            ?= mvn -B -f java/pom.xml $(if $(OUTPUT_TIMESTAMP),-Dproject.build.outputTimestamp=$(OUTPUT_TIMESTAMP))
 NATIVE_LIBS    := $(BUILD_DIR)/lib
 
 # The sanitizer runtime, preloaded into the test JVMs that load the sanitizer build (the
@@ -94,6 +102,35 @@ example-run:
 check-modules: java check-modules-run
 check-modules-run:
 	scripts/check-modules java $(if $(NEWEST_JDK),$(NEWEST_JDK)/bin/java)
+
+# The artifacts to publish, built as `make install` builds them, but not installed: per jar module
+# (java/corvel, java/tavrel) the jar with its natives stripped, the sources jar, the Javadoc jar
+# and the natives-debug jar with the natives' debug files (also in native/build/debug). The Java
+# side is built afresh: a jar left from an earlier commit would keep that commit's time.
+.PHONY: release jar-sizes repro-check
+release: native
+	$(MVN) -q clean verify -DskipTests
+	@$(MAKE) --no-print-directory jar-sizes
+
+# The sizes of the jars of `make release` (or `make install`); the main jars have a size goal
+# (bytes, or K and M for 1000 and 1,000,000), missed or missing fails.
+PROJECT_VERSION := $(shell sed -n 's|^  <version>\(.*\)</version>$$|\1|p' java/pom.xml | head -1)
+TAVREL_JAR_MAX  ?= 2M
+CORVEL_JAR_MAX  ?= 1M
+jar-sizes:
+	@scripts/jar-sizes \
+		java/tavrel/target/tavrel-$(PROJECT_VERSION).jar=$(TAVREL_JAR_MAX) \
+		java/corvel/target/corvel-standin-$(PROJECT_VERSION).jar=$(CORVEL_JAR_MAX) \
+		$(foreach kind,sources javadoc natives-debug, \
+			java/tavrel/target/tavrel-$(PROJECT_VERSION)-$(kind).jar \
+			java/corvel/target/corvel-standin-$(PROJECT_VERSION)-$(kind).jar)
+
+# `make release` of the last commit in two fresh clones in different folders, one after the
+# other, then the SHA-256 of each artifact of both (scripts/repro-check; REPRO_DIR holds
+# the clones, a new folder under /tmp by default). Without the compiler cache, so that both
+# builds compile every source in their own folder.
+repro-check:
+	scripts/repro-check
 
 native-test: native
 	scripts/run-native-tests $(BUILD_DIR)/bin/native_tests
