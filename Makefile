@@ -2,7 +2,7 @@
 #
 #   make demo    builds everything and runs the demo
 #   make test    builds everything and runs every test: the native tests and JUnit (JDK 17), the
-#                Javadoc check, the jars' module descriptors, the example project against the
+#                Javadoc check, the jars' sizes, the jars' module descriptors, the example project against the
 #                installed jars (on JDK 17 and the newest JDK: no native-access warning), both suites
 #                again against a build with AddressSanitizer and UBSan, and JUnit on the
 #                newest JDK of version 21 or newer on the machine, if there is one
@@ -169,7 +169,7 @@ coverage: native-cov
 	scripts/coverage $(COV_BUILD_DIR) java/tavrel/src/test/resources/expected-jni-symbols.txt \
 		--min-lines $(COVERAGE_MIN_LINES) && exit $$tests
 
-test: native-test java-test check-modules-run example-run native-test-asan java-test-asan java-test-newest-jdk
+test: native-test java-test jar-sizes check-modules-run example-run native-test-asan java-test-asan java-test-newest-jdk
 
 # Each data path 1,000,000 times in one JVM (SOAK_OPTS: -Dsoak.iterations=N, -Dsoak.paths=a,b).
 # Every full collection compacts the whole heap, so that the heap measured after one holds live
