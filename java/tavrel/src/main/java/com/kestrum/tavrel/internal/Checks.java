@@ -217,19 +217,23 @@ public final class Checks {
 
     /** The nodes of a 2D mesh without cells (z may be null); returns numNodes. */
     public static int nodes2D(int numNodes, float[] x, float[] y, float[] z) {
-        count(numNodes, "numNodes");
-        length(x, numNodes, "x");
-        length(y, numNodes, "y");
-        optional(z, numNodes, "z");
-        return numNodes;
+        return nodes(numNodes, x, y, z, true);
     }
 
     /** The nodes of a 3D mesh without cells; returns numNodes. */
     public static int nodes3D(int numNodes, float[] x, float[] y, float[] z) {
+        return nodes(numNodes, x, y, z, false);
+    }
+
+    private static int nodes(int numNodes, float[] x, float[] y, float[] z, boolean zOptional) {
         count(numNodes, "numNodes");
         length(x, numNodes, "x");
         length(y, numNodes, "y");
-        length(z, numNodes, "z");
+        if (zOptional) {
+            optional(z, numNodes, "z");
+        } else {
+            length(z, numNodes, "z");
+        }
         return numNodes;
     }
 
