@@ -28,6 +28,11 @@ public final class BenchReport {
     static final String END = "<!-- results:end -->";
     /** A path counts as flat while its cost per element at the largest size stays within this. */
     static final double FLAT = 1.25;
+    /**
+     * Rows whose ratio is a path's step in cost per element, from its floor size to its size,
+     * divided by its floor benchmark's step between the same sizes.
+     */
+    static final String STEP_AGAINST_FLOOR = "step-";
 
     private BenchReport() {}
 
@@ -167,6 +172,18 @@ public final class BenchReport {
             list.add(new Ratio(f[4] + "-flat", f[1] + ", per element at " + count(f[2]),
                     "its time per element at " + count(f[3]), f[0], f[2], f[0], f[3], FLAT, "flat (≤ 1.25)"));
         }
+        String[][] steps = {
+            {"GraphBuildBenchmark.curveFromFloats", "curve from `float[]`", "GraphBuildBenchmark.curveFromFloatsToolkitFloor",
+                "10000000", "1000", "curve-xy"},
+            {"GraphBuildBenchmark.multipleHistogram", "multiple histogram",
+                "GraphBuildBenchmark.multipleHistogramToolkitFloor", "10000000", "1000", "histogram"},
+            {"GraphBuildBenchmark.isovalueList", "isovalue list", "GraphBuildBenchmark.isovalueListToolkitFloor",
+                "10000000", "1000", "isovalues"}};
+        for (String[] f : steps) {
+            list.add(new Ratio(STEP_AGAINST_FLOOR + f[5], f[1] + ", step per element from " + count(f[4]) + " to "
+                    + count(f[3]), "its floor's step (conversions and the toolkit's work) between the same sizes", f[0],
+                    f[3], f[2], f[4], FLAT, "≤ 1.25"));
+        }
         list.add(new Ratio("read-isovalues-1M", "read 1,000,000 isovalues through the direct buffer", "through the copy",
                 "AttributeBenchmark.isovaluesDirect", "1000000", "AttributeBenchmark.isovaluesCopy", "1000000",
                 Double.NaN, "(none)"));
@@ -289,6 +306,33 @@ public final class BenchReport {
                 Map<String, Measure> m = byJdk.get(jdk);
                 Measure path = m.get(r.benchmark() + "|" + r.size());
                 Measure floor = m.get(r.floorBenchmark() + "|" + r.floorSize());
+                boolean stepAgainstFloor = r.id().startsWith(STEP_AGAINST_FLOOR);
+                if (stepAgainstFloor) {
+                    // The path's step from its smallest size to its largest against its floor's step
+                    // (the same two sizes): the growth the floor's own memory does not explain.
+                    Measure pathSmall = m.get(r.benchmark() + "|" + r.floorSize());
+                    Measure floorLarge = m.get(r.floorBenchmark() + "|" + r.size());
+                    if (path == null || floor == null || pathSmall == null || floorLarge == null) {
+                        row.append(" – | – |");
+                        dat.append(" NaN NaN");
+                        continue;
+                    }
+                    any = true;
+                    double pathStep = path.median() / pathSmall.median();
+                    double floorStep = floorLarge.median() / floor.median();
+                    double q = pathStep / floorStep;
+                    double err = q * Math.sqrt(Math.pow(path.relativeError(), 2) + Math.pow(pathSmall.relativeError(), 2)
+                            + Math.pow(floor.relativeError(), 2) + Math.pow(floorLarge.relativeError(), 2));
+                    String met = q <= r.goal() ? "met" : "missed";
+                    double sizes = Double.parseDouble(r.size()) / Double.parseDouble(r.floorSize());
+                    row.append(' ').append(String.format(Locale.ROOT, "%.2f, %.2f", pathStep / sizes, floorStep / sizes))
+                            .append(" (steps per element) | **").append(String.format(Locale.ROOT, "%.2f", q)).append("**")
+                            .append(Double.isNaN(err) ? "" : String.format(Locale.ROOT, " ± %.2f", err))
+                            .append(' ').append(met.equals("met") ? "✓" : "✗ missed").append(" |");
+                    dat.append(' ').append(fmt(q)).append(' ').append(Double.isNaN(err) ? "0" : fmt(err));
+                    ratioCsv.add(String.join(",", r.id(), jdk, fmt(q), fmt(err), fmt(r.goal()), met));
+                    continue;
+                }
                 if (path == null || floor == null) {
                     row.append(" – | – |");
                     dat.append(" NaN NaN");
