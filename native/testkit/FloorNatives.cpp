@@ -28,6 +28,30 @@ namespace {
 // on the one method).
 jmethodID objectTarget = nullptr;   // void accept(Object)
 jmethodID booleanTarget = nullptr;  // boolean accept(int, float)
+
+// The per-vector JNI calls of the vector-object conversion: the class and
+// field once, then per vector the element, its float[] field, the floats
+// (handed to use), their release without copy back, and the two local
+// references deleted. n is the array's length (the caller reads it, once);
+// nothing for an empty array.
+template <class Use>
+void forEachVector(JNIEnv* env, jobjectArray vectors, jsize n, Use use) {
+  if (n == 0) return;
+  jobject first = env->GetObjectArrayElement(vectors, 0);
+  jclass cls = env->GetObjectClass(first);
+  jfieldID field = env->GetFieldID(cls, "array", "[F");
+  env->DeleteLocalRef(cls);
+  env->DeleteLocalRef(first);
+  for (jsize i = 0; i < n; ++i) {
+    jobject element = env->GetObjectArrayElement(vectors, i);
+    jfloatArray floats = static_cast<jfloatArray>(env->GetObjectField(element, field));
+    jfloat* components = env->GetFloatArrayElements(floats, nullptr);
+    use(static_cast<const jfloat*>(components));
+    env->ReleaseFloatArrayElements(floats, components, JNI_ABORT);
+    env->DeleteLocalRef(floats);
+    env->DeleteLocalRef(element);
+  }
+}
 }  // namespace
 
 extern "C" {
@@ -60,22 +84,9 @@ JNIEXPORT jint JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_toolkitGetter(J
 // deleted. Returns the sum of the components, so that the reads are used.
 JNIEXPORT jfloat JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_vectorLoop(JNIEnv* env, jclass,
                                                                              jobjectArray vectors) {
-  jsize n = env->GetArrayLength(vectors);
-  jobject first = env->GetObjectArrayElement(vectors, 0);
-  jclass cls = env->GetObjectClass(first);
-  jfieldID field = env->GetFieldID(cls, "array", "[F");
-  env->DeleteLocalRef(cls);
-  env->DeleteLocalRef(first);
   float sum = 0;
-  for (jsize i = 0; i < n; ++i) {
-    jobject element = env->GetObjectArrayElement(vectors, i);
-    jfloatArray floats = static_cast<jfloatArray>(env->GetObjectField(element, field));
-    jfloat* components = env->GetFloatArrayElements(floats, nullptr);
-    sum += components[0] + components[1] + components[2];
-    env->ReleaseFloatArrayElements(floats, components, JNI_ABORT);
-    env->DeleteLocalRef(floats);
-    env->DeleteLocalRef(element);
-  }
+  forEachVector(env, vectors, env->GetArrayLength(vectors),
+                [&sum](const jfloat* c) { sum += c[0] + c[1] + c[2]; });
   return sum;
 }
 
@@ -271,23 +282,10 @@ JNIEXPORT void JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_raiseRebuilds(J
 // and the two deletions. Returns the sum of the components read.
 JNIEXPORT jfloat JNICALL Java_com_kestrum_tavrel_benchmarks_Floors_vectorComponents(JNIEnv* env, jclass,
                                                                                    jobjectArray vectors, jint k) {
-  jsize n = env->GetArrayLength(vectors);
-  if (n == 0) return 0;
-  jobject first = env->GetObjectArrayElement(vectors, 0);
-  jclass cls = env->GetObjectClass(first);
-  jfieldID field = env->GetFieldID(cls, "array", "[F");
-  env->DeleteLocalRef(cls);
-  env->DeleteLocalRef(first);
   float sum = 0;
-  for (jsize i = 0; i < n; ++i) {
-    jobject element = env->GetObjectArrayElement(vectors, i);
-    jfloatArray floats = static_cast<jfloatArray>(env->GetObjectField(element, field));
-    jfloat* components = env->GetFloatArrayElements(floats, nullptr);
-    for (jint c = 0; c < k; ++c) sum += components[c];
-    env->ReleaseFloatArrayElements(floats, components, JNI_ABORT);
-    env->DeleteLocalRef(floats);
-    env->DeleteLocalRef(element);
-  }
+  forEachVector(env, vectors, env->GetArrayLength(vectors), [&sum, k](const jfloat* c) {
+    for (jint i = 0; i < k; ++i) sum += c[i];
+  });
   return sum;
 }
 
@@ -330,22 +328,9 @@ namespace {
 // The components of vector objects, k a vector, one vector after the other.
 std::vector<float> componentsOf(JNIEnv* env, jobjectArray vectors, int k) {
   const jsize n = env->GetArrayLength(vectors);
-  std::vector<float> out(static_cast<std::size_t>(n) * k);
-  if (n == 0) return out;
-  jobject first = env->GetObjectArrayElement(vectors, 0);
-  jclass cls = env->GetObjectClass(first);
-  jfieldID field = env->GetFieldID(cls, "array", "[F");
-  env->DeleteLocalRef(cls);
-  env->DeleteLocalRef(first);
-  for (jsize i = 0; i < n; ++i) {
-    jobject element = env->GetObjectArrayElement(vectors, i);
-    jfloatArray floats = static_cast<jfloatArray>(env->GetObjectField(element, field));
-    jfloat* components = env->GetFloatArrayElements(floats, nullptr);
-    for (int c = 0; c < k; ++c) out[static_cast<std::size_t>(i) * k + c] = components[c];
-    env->ReleaseFloatArrayElements(floats, components, JNI_ABORT);
-    env->DeleteLocalRef(floats);
-    env->DeleteLocalRef(element);
-  }
+  std::vector<float> out;
+  out.reserve(static_cast<std::size_t>(n) * k);
+  forEachVector(env, vectors, n, [&out, k](const jfloat* c) { out.insert(out.end(), c, c + k); });
   return out;
 }
 
