@@ -26,32 +26,6 @@ void putUtf8(std::string& out, char32_t c) {
   }
 }
 
-// Appends UTF-16 text as UTF-8 (an unpaired surrogate becomes U+FFFD); a run
-// of ASCII characters is copied as it is.
-void appendUtf8(std::string& out, const char16_t* s, std::size_t n) {
-  // Grows geometrically: the texts of a whole array go into one string.
-  if (out.capacity() < out.size() + n) out.reserve(std::max(out.size() + n, 2 * out.capacity()));
-  for (std::size_t i = 0; i < n; ++i) {
-    std::size_t ascii = i;
-    while (ascii < n && s[ascii] < 0x80) ++ascii;
-    if (ascii > i) {
-      const std::size_t start = out.size();
-      out.resize(start + (ascii - i));
-      for (std::size_t k = i; k < ascii; ++k) out[start + (k - i)] = static_cast<char>(s[k]);
-      i = ascii;
-      if (i == n) break;
-    }
-    char32_t c = s[i];
-    if (c >= 0xD800 && c <= 0xDBFF && i + 1 < n && s[i + 1] >= 0xDC00 && s[i + 1] <= 0xDFFF) {
-      c = 0x10000 + ((c - 0xD800) << 10) + (s[i + 1] - 0xDC00);
-      ++i;
-    } else if (c >= 0xD800 && c <= 0xDFFF) {
-      c = kReplacement;
-    }
-    putUtf8(out, c);
-  }
-}
-
 // Reads a Java string's UTF-16 characters into buffer (which grows as needed);
 // returns their count.
 std::size_t readUtf16(JNIEnv* env, jstring string, std::u16string& buffer) {
@@ -61,12 +35,13 @@ std::size_t readUtf16(JNIEnv* env, jstring string, std::u16string& buffer) {
   return static_cast<std::size_t>(n);
 }
 
-// Calls f(codePoint) for each code point of UTF-16 text.
+// Calls f(codePoint) for each code point of n UTF-16 characters (an unpaired
+// surrogate becomes U+FFFD).
 template <class F>
-void forEachUtf16(const std::u16string& s, F f) {
-  for (std::size_t i = 0; i < s.size(); ++i) {
+void forEachUtf16(const char16_t* s, std::size_t n, F f) {
+  for (std::size_t i = 0; i < n; ++i) {
     char32_t c = s[i];
-    if (c >= 0xD800 && c <= 0xDBFF && i + 1 < s.size() && s[i + 1] >= 0xDC00 && s[i + 1] <= 0xDFFF) {
+    if (c >= 0xD800 && c <= 0xDBFF && i + 1 < n && s[i + 1] >= 0xDC00 && s[i + 1] <= 0xDFFF) {
       c = 0x10000 + ((c - 0xD800) << 10) + (s[i + 1] - 0xDC00);
       ++i;
     } else if (c >= 0xD800 && c <= 0xDFFF) {
@@ -74,6 +49,13 @@ void forEachUtf16(const std::u16string& s, F f) {
     }
     f(c);
   }
+}
+
+// Appends n UTF-16 characters as UTF-8.
+void appendUtf8(std::string& out, const char16_t* s, std::size_t n) {
+  // Grows geometrically: the texts of a whole array go into one string.
+  if (out.capacity() < out.size() + n) out.reserve(std::max(out.size() + n, 2 * out.capacity()));
+  forEachUtf16(s, n, [&out](char32_t c) { putUtf8(out, c); });
 }
 
 // Decodes UTF-8 into UTF-16; invalid sequences become U+FFFD.
@@ -148,7 +130,7 @@ const wchar_t* StringHelper::toUnicodeString() {
   if (!fetch()) return nullptr;
   if (!haveWide) {
     wide.reserve(utf16.size());
-    forEachUtf16(utf16, [this](char32_t c) { wide += static_cast<wchar_t>(c); });
+    forEachUtf16(utf16.data(), utf16.size(), [this](char32_t c) { wide += static_cast<wchar_t>(c); });
     haveWide = true;
   }
   return wide.c_str();
