@@ -52,25 +52,23 @@ public final class ProfileLoop {
         meshes.size = bulkSize;
         PieChartBenchmark pie = new PieChartBenchmark();
         pie.size = Math.min(bulkSize, 32_000);
-        Map<String, Runnable> bulkPaths = Map.of("build-curve", build::curveFromVectors, "build-curve-floats",
-                build::curveFromFloats, "build-markers", build::markerField, "build-histogram", build::multipleHistogram,
-                "build-isovalues", build::isovalueList, "render-curve", render::renderCurve, "render-markers",
-                render::renderMarkerField, "render-histogram", histogramRender::renderMultipleHistogram, "mesh-java-filter",
-                meshes::javaFilter, "mesh-interval-filter", meshes::intervalFilter);
-        bulkPaths = new java.util.HashMap<>(bulkPaths);
-        bulkPaths.put("build-curve-floor", build::curveFloor);
-        bulkPaths.put("build-markers-floor", build::markerFieldFloor);
-        bulkPaths.put("build-histogram-floor", build::multipleHistogramFloor);
-        bulkPaths.put("build-isovalues-floor", build::isovalueListFloor);
-        bulkPaths.put("build-pie-floor", pie::pieChartFloor);
-        bulkPaths.put("build-curve-toolkit", build::curveToolkitFloor);
-        bulkPaths.put("build-curve-floats-toolkit", build::curveFromFloatsToolkitFloor);
-        bulkPaths.put("build-markers-toolkit", build::markerFieldToolkitFloor);
-        bulkPaths.put("build-histogram-toolkit", build::multipleHistogramToolkitFloor);
-        bulkPaths.put("build-isovalues-toolkit", build::isovalueListToolkitFloor);
-        bulkPaths.put("build-pie-toolkit", pie::pieChartToolkitFloor);
-        bulkPaths.put("build-pie", pie::pieChart);
-        bulkPaths.put("render-pie", pie::renderPieChart);
+        Map<String, Runnable> bulkPaths = Map.ofEntries(Map.entry("build-curve", build::curveFromVectors),
+                Map.entry("build-curve-floats", build::curveFromFloats), Map.entry("build-markers", build::markerField),
+                Map.entry("build-histogram", build::multipleHistogram), Map.entry("build-isovalues", build::isovalueList),
+                Map.entry("build-pie", pie::pieChart),
+                Map.entry("build-curve-floor", build::curveFloor), Map.entry("build-markers-floor", build::markerFieldFloor),
+                Map.entry("build-histogram-floor", build::multipleHistogramFloor),
+                Map.entry("build-isovalues-floor", build::isovalueListFloor), Map.entry("build-pie-floor", pie::pieChartFloor),
+                Map.entry("build-curve-toolkit", build::curveToolkitFloor),
+                Map.entry("build-curve-floats-toolkit", build::curveFromFloatsToolkitFloor),
+                Map.entry("build-markers-toolkit", build::markerFieldToolkitFloor),
+                Map.entry("build-histogram-toolkit", build::multipleHistogramToolkitFloor),
+                Map.entry("build-isovalues-toolkit", build::isovalueListToolkitFloor),
+                Map.entry("build-pie-toolkit", pie::pieChartToolkitFloor),
+                Map.entry("render-curve", render::renderCurve), Map.entry("render-markers", render::renderMarkerField),
+                Map.entry("render-histogram", histogramRender::renderMultipleHistogram),
+                Map.entry("render-pie", pie::renderPieChart), Map.entry("mesh-java-filter", meshes::javaFilter),
+                Map.entry("mesh-interval-filter", meshes::intervalFilter));
         Runnable bulk = bulkPaths.get(args[0]);
         if (bulk != null) {
             if (args[0].contains("-pie")) {
