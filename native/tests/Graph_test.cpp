@@ -10,6 +10,7 @@
 #include <Tavrel/PbLinearDataMapping.h>
 #include <Tavrel/PbNonLinearDataMapping2.h>
 #include <Tavrel/PbNumericDisplayFormat.h>
+#include <Tavrel/PoCurve.h>
 #include <Tavrel/PoRectangle.h>
 #include <Tavrel/PoTavrel.h>
 
@@ -346,4 +347,28 @@ TEST(PoBase, AConnectedDomainsChangeRebuildsTheNodeAtItsNextTraversal) {
   render.apply(r);
   EXPECT_EQ(r->getBuildCount(), 2);
   r->unref();
+}
+
+// A render shares a node's drawing with the picture instead of copying it: the
+// picture still shows what it showed after the node is rebuilt, until the next
+// apply draws the new build.
+TEST(SoGLRenderAction, APictureKeepsTheDrawingItShowedWhenTheNodeIsRebuilt) {
+  PoTavrel::init();
+  const SbVec2f points[] = {SbVec2f(0, 0), SbVec2f(1, 2)};
+  PoCurve* curve = new PoCurve(2, points);
+  curve->ref();
+  SoGLRenderAction render;
+  render.apply(curve);
+  const std::string first = render.toSvg();
+  ASSERT_NE(first.find("<polyline"), std::string::npos);
+  PbDomain domain(0, 0, 2, 4, PbDomain::ASIS);
+  curve->setDomain(&domain);  // rebuilt at once, its points mapped
+  EXPECT_EQ(render.toSvg(), first);
+  render.apply(curve);
+  const std::string second = render.toSvg();
+  EXPECT_NE(second, first);
+  render.apply(curve);  // nothing rebuilt: the same picture
+  EXPECT_EQ(render.toSvg(), second);
+  curve->unref();
+  EXPECT_EQ(render.toSvg(), second) << "the picture keeps the drawing past its node";
 }

@@ -9,6 +9,7 @@
 #include <Corvel/SbColor.h>
 #include <Corvel/SbVec.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -116,41 +117,37 @@ class SoGLRenderAction : public SoAction {
     enum Anchor { MIDDLE, START, END } anchor = MIDDLE;
     enum Baseline { BASELINE, CENTRAL, HANGING } baseline = BASELINE;
   };
-  // Adds a primitive to the picture. The previous apply's primitives are
-  // kept until this apply ends and each new one is assigned into the one at
-  // its place, reusing its memory: a large drawing copied into fresh memory
-  // at every apply would pay the kernel's page faults for it each time (above
-  // the C library's mapping threshold), a cost per point that grew with the
-  // picture.
-  TAVREL_STANDIN_ONLY void addPrimitive(const Primitive& primitive) {
-    if (drawn < primitives.size()) {
-      primitives[drawn] = primitive;
-    } else {
-      primitives.push_back(primitive);
-    }
-    ++drawn;
+  // Adds a primitive to the picture.
+  TAVREL_STANDIN_ONLY void addPrimitive(Primitive primitive) {
+    if (parts.empty() || parts.back().shared != nullptr) parts.emplace_back();
+    parts.back().own.push_back(std::move(primitive));
   }
-  TAVREL_STANDIN_ONLY void addPrimitive(Primitive&& primitive) {
-    if (drawn < primitives.size()) {
-      primitives[drawn] = std::move(primitive);
-    } else {
-      primitives.push_back(std::move(primitive));
-    }
-    ++drawn;
+  // Adds a drawing made elsewhere (a graph node's last build) to the picture
+  // as it is. The picture shares it rather than copying its points, so a
+  // render costs a step per node, not per point, however large the drawing;
+  // the node's next build makes a new drawing and leaves this one to the
+  // picture until the next apply.
+  TAVREL_STANDIN_ONLY void addDrawing(std::shared_ptr<const std::vector<Primitive>> drawing) {
+    if (drawing != nullptr && !drawing->empty()) parts.push_back({std::move(drawing), {}});
   }
-  TAVREL_STANDIN_ONLY const std::vector<Primitive>& getPrimitives() const { return primitives; }
+  // Calls f(primitive) for every primitive of the picture, in the order drawn.
+  template <class F>
+  void forEachPrimitive(F f) const {
+    for (const Part& part : parts)
+      for (const Primitive& p : part.shared != nullptr ? *part.shared : part.own) f(p);
+  }
   TAVREL_STANDIN_ONLY std::string toSvg() const;
 
  protected:
-  TAVREL_STANDIN_ONLY void beginApply() override { drawn = 0; }
-  // Drops what the previous apply drew beyond this one's primitives.
-  TAVREL_STANDIN_ONLY void endApply() override {
-    primitives.erase(primitives.begin() + static_cast<std::ptrdiff_t>(drawn), primitives.end());
-  }
+  TAVREL_STANDIN_ONLY void beginApply() override { parts.clear(); }
 
  private:
-  std::vector<Primitive> primitives;
-  std::size_t drawn = 0;  // the primitives of the current apply, at the front
+  // A run of the picture: a shared drawing, or the primitives added one by one.
+  struct Part {
+    std::shared_ptr<const std::vector<Primitive>> shared;
+    std::vector<Primitive> own;
+  };
+  std::vector<Part> parts;
 };
 class SoCallbackAction : public SoAction { SO_ACTION_HEADER(SoCallbackAction) };
 class SoGetBoundingBoxAction : public SoAction {

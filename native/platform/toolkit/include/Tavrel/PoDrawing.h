@@ -19,6 +19,7 @@
 #include <Corvel/SbVec.h>
 #include <Corvel/SoAction.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -31,10 +32,17 @@ class PoDrawing {
 
   virtual ~PoDrawing() = default;
   // What the last build drew (empty before the first).
-  TAVREL_STANDIN_ONLY const std::vector<Primitive>& getDrawing() const { return drawing; }
+  TAVREL_STANDIN_ONLY const std::vector<Primitive>& getDrawing() const { return *drawing; }
 
  protected:
-  TAVREL_STANDIN_ONLY void clearDrawing() { drawing.clear(); }
+  // Starts a new drawing; a picture that shows the last one keeps it.
+  TAVREL_STANDIN_ONLY void clearDrawing() {
+    if (drawing.use_count() == 1) {
+      drawing->clear();
+    } else {
+      drawing = std::make_shared<std::vector<Primitive>>();
+    }
+  }
   TAVREL_STANDIN_ONLY void addLine(std::vector<SbVec3f> points, const SbColor& color = SbColor(0, 0, 0));
   TAVREL_STANDIN_ONLY void addPolygon(std::vector<SbVec3f> points, const SbColor& color);
   TAVREL_STANDIN_ONLY void addText(const SbVec3f& at, std::string text, Primitive::Anchor anchor = Primitive::MIDDLE,
@@ -55,8 +63,12 @@ class PoDrawing {
 
  private:
   friend class PoBase;
-  // Adds the drawing to the action's picture (PoBase::draw).
+  // Adds the drawing to the action's picture, which shares it (PoBase::draw).
   void drawInto(SoGLRenderAction* action) const;
 
-  std::vector<Primitive> drawing;
+  // What is being drawn, made alone: only renders share it (drawInto), and a
+  // shared drawing is never changed again.
+  std::vector<Primitive>& own();
+
+  std::shared_ptr<std::vector<Primitive>> drawing = std::make_shared<std::vector<Primitive>>();
 };

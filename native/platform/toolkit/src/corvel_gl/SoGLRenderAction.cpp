@@ -70,27 +70,29 @@ void addText(Box& box, const SoGLRenderAction::Primitive& p, double size) {
 
 std::string SoGLRenderAction::toSvg() const {
   Box points;
-  for (const Primitive& p : primitives)
+  forEachPrimitive([&points](const Primitive& p) {
     for (const SbVec3f& v : p.points) points.add(v[0], v[1]);
+  });
   const double size = (points.maxX - points.minX + points.maxY - points.minY) * kTextSize;
   const double stroke = size / 9;
   Box all = points;
-  for (const Primitive& p : primitives)
+  forEachPrimitive([&all, size](const Primitive& p) {
     if (p.kind == Primitive::TEXT && !p.points.empty()) addText(all, p, size);
+  });
   const double minX = all.minX, minY = all.minY, maxX = all.maxX, maxY = all.maxY;
   const double margin = 0.05 * std::max(maxX - minX, maxY - minY) + 1e-3;
   std::string out = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"";
   number(out, minX - margin), out += ' ', number(out, -maxY - margin), out += ' ';
   number(out, maxX - minX + 2 * margin), out += ' ', number(out, maxY - minY + 2 * margin);
   out += "\" width=\"800\" height=\"600\">\n";
-  for (const Primitive& p : primitives) {
+  forEachPrimitive([&out, size, stroke](const Primitive& p) {
     std::string coordinates;
     for (const SbVec3f& v : p.points) {
       if (!coordinates.empty()) coordinates += ' ';
       number(coordinates, v[0]), coordinates += ',', number(coordinates, -v[1]);
     }
     if (p.kind == Primitive::TEXT) {
-      if (p.points.empty()) continue;
+      if (p.points.empty()) return;
       out += "<text x=\"", number(out, p.points[0][0]), out += "\" y=\"", number(out, -p.points[0][1]);
       out += "\" font-size=\"", number(out, size);
       out += "\" text-anchor=\"";
@@ -109,7 +111,7 @@ std::string SoGLRenderAction::toSvg() const {
       out += "\" stroke-width=\"";
       number(out, stroke), out += "\"/>\n";
     }
-  }
+  });
   out += "</svg>\n";
   return out;
 }

@@ -9,17 +9,23 @@
 #include <cstdio>
 #include <utility>
 
+std::vector<SoGLRenderAction::Primitive>& PoDrawing::own() {
+  // A picture still shows this drawing: what follows goes into a copy.
+  if (drawing.use_count() > 1) drawing = std::make_shared<std::vector<Primitive>>(*drawing);
+  return *drawing;
+}
+
 void PoDrawing::addLine(std::vector<SbVec3f> points, const SbColor& color) {
-  drawing.push_back(Primitive{Primitive::LINE, std::move(points), color, {}});
+  own().push_back(Primitive{Primitive::LINE, std::move(points), color, {}});
 }
 
 void PoDrawing::addPolygon(std::vector<SbVec3f> points, const SbColor& color) {
-  drawing.push_back(Primitive{Primitive::POLYGON, std::move(points), color, {}});
+  own().push_back(Primitive{Primitive::POLYGON, std::move(points), color, {}});
 }
 
 void PoDrawing::addText(const SbVec3f& at, std::string text, Primitive::Anchor anchor, Primitive::Baseline baseline,
                         const SbColor& color) {
-  drawing.push_back(Primitive{Primitive::TEXT, {at}, color, std::move(text), anchor, baseline});
+  own().push_back(Primitive{Primitive::TEXT, {at}, color, std::move(text), anchor, baseline});
 }
 
 std::vector<SbVec3f> PoDrawing::box(const SbVec2f& a, const SbVec2f& c) {
@@ -61,10 +67,10 @@ std::string PoDrawing::valueText(float value, const PbNumericDisplayFormat* form
 
 void PoDrawing::mapThroughDomain(const PbDomain* domain) {
   if (domain == nullptr) return;
-  for (Primitive& p : drawing)
+  for (Primitive& p : own())
     for (SbVec3f& v : p.points) domain->matrix().multVecMatrix(v, v);
 }
 
 void PoDrawing::drawInto(SoGLRenderAction* action) const {
-  for (const Primitive& p : drawing) action->addPrimitive(p);
+  action->addDrawing(drawing);
 }
