@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
@@ -61,6 +62,26 @@ TEST(PeerTable, FindsWhatWasPutAndNotWhatWasRemovedAcrossGrowth) {
   table.collect(FreeCell{&freed});
   EXPECT_EQ(0u, table.size());
   EXPECT_EQ(n + 2, freed.load());
+}
+
+// Without readers, writes free what they take out in batches: what waits
+// stays bounded however many keys come and go, and collect frees the rest.
+TEST(PeerTable, RemovedRefsWaitInABoundedBatch) {
+  Table table;
+  std::atomic<long> freed{0};
+  std::size_t most = 0;
+  for (int i = 0; i < 10000; ++i) {
+    table.put(keyOf(i % 100), new Cell{keyOf(i % 100)}, FreeCell{&freed});  // replaces after the first 100
+    if (i % 3 == 0) table.remove(keyOf(i % 100), FreeCell{&freed});
+    most = std::max(most, table.pendingRefs());
+  }
+  EXPECT_GT(most, 0u) << "removals free in batches, not one by one";
+  EXPECT_LE(most, 64u);
+  EXPECT_GT(freed.load(), 9000);
+  for (int i = 0; i < 100; ++i) table.remove(keyOf(i), FreeCell{&freed});
+  table.collect(FreeCell{&freed});
+  EXPECT_EQ(0u, table.pendingRefs());
+  EXPECT_EQ(10000, freed.load());
 }
 
 // A reader inside its use of a ref keeps it: replacing or removing the key

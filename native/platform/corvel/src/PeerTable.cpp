@@ -1,7 +1,8 @@
 // The native side of the peer table of com.kestrum.corvel.misc.ManagedObjects:
 // a weak global reference to each registered Java peer, by native address,
 // kept in step with the Java table (which calls the two natives below inside
-// its atomic update of the entry). getManagedObject reads it, so that handing
+// its atomic update of the entry; forgotten references are deleted in batches,
+// or at once by the third). getManagedObject reads it, so that handing
 // a registered peer to Java (an action, a Java node, a mesh) needs no call into
 // Java.
 //
@@ -44,6 +45,10 @@ JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_rememberPeerN
 JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_forgetPeerNative(JNIEnv* env, jclass,
                                                                                    jlong address) {
   peers().remove(address, DeleteWeak{env});
+}
+
+JNIEXPORT void JNICALL Java_com_kestrum_corvel_misc_ManagedObjects_collectForgottenNative(JNIEnv* env, jclass) {
+  peers().collect(DeleteWeak{env});
 }
 
 }  // extern "C"

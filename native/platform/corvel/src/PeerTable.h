@@ -17,15 +17,18 @@
 //    thread announces itself in a slot of its own (an epoch, 0 when outside),
 //    writers tag what they retire with the epoch they close, and free it, in
 //    a later write, once no reader announced an epoch at or before that tag.
-//    Readers are short (a probe and one use of the ref), so what a write takes
-//    out is freed by that write itself unless a reader is inside the table at
-//    that moment; then it goes with a later write.
+//    Writers free in batches: once kBatch things wait, the write that adds
+//    the last frees all that no reader can still use (readers are short, a
+//    probe and one use of the ref, so that is nearly always all of them), so
+//    that the barrier below is paid once a batch rather than once a write.
+//    At most about kBatch refs outlive their removal; a replaced array goes
+//    with the next write.
 //  - The announcement must be visible to writers before the reader reads the
 //    table. Where the kernel offers process-wide barriers (membarrier, Linux
 //    4.14 and later, unless a sandbox forbids it), the reader's side is a
 //    plain store and a writer that is about to free something makes every
 //    running thread of the process pass a full barrier first (a fraction of a
-//    microsecond, paid by unregistrations and replacements only); elsewhere
+//    microsecond, paid once a batch); elsewhere
 //    the reader's store is itself a full barrier (an atomic exchange). Either
 //    way readers on different threads write no shared memory.
 //
@@ -191,7 +194,7 @@ class PeerTable {
       --a->live;
       retire(old);
     }
-    reclaim(freeRef);
+    reclaimBatch(freeRef);
   }
 
   // Removes the key's ref (nothing when it has none); it is retired.
@@ -208,7 +211,7 @@ class PeerTable {
         retire(old);
       }
     }
-    reclaim(freeRef);
+    reclaimBatch(freeRef);
   }
 
   // The number of keys with a ref, and of retired refs not yet freed (tests).
@@ -221,7 +224,8 @@ class PeerTable {
     return retiredRefs.size();
   }
 
-  // Frees what no reader can still use (a writer does this on every write).
+  // Frees what no reader can still use now, however few things wait (writers
+  // do it once a batch is full).
   template <class Free>
   void collect(Free freeRef) {
     std::lock_guard<std::mutex> lock(writers);
@@ -230,6 +234,7 @@ class PeerTable {
 
  private:
   static constexpr std::size_t kMinSlots = 64;
+  static constexpr std::size_t kBatch = 64;
 
   struct Slot {
     std::atomic<jlong> key{0};  // 0: empty (address 0 is never a key)
@@ -306,6 +311,12 @@ class PeerTable {
   }
 
   void retire(Ref ref) { retiredRefs.push_back({closeEpoch(), ref, nullptr}); }
+
+  template <class Free>
+  void reclaimBatch(Free freeRef) {
+    // A replaced array (rare, and large) goes at once.
+    if (retiredRefs.size() >= kBatch || !retiredArrays.empty()) reclaim(freeRef);
+  }
 
   template <class Free>
   void reclaim(Free freeRef) {

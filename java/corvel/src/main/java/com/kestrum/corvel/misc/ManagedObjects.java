@@ -130,6 +130,13 @@ public final class ManagedObjects {
     private static native void forgetPeerNative(long address);
 
     /**
+     * Deletes at once the native references of forgotten peers that no lookup still uses; they
+     * otherwise go in batches. Tests that account for a block's JNI references call it before and
+     * after the block.
+     */
+    static native void collectForgottenNative();
+
+    /**
      * The registered peer of the address, or null.
      *
      * @param address the address of the native object

@@ -1,5 +1,7 @@
 package com.kestrum.tavrel.testkit;
 
+import com.kestrum.corvel.misc.ManagedObjects;
+import java.lang.reflect.Method;
 import java.util.ArrayList;
 import java.util.Arrays;
 import java.util.Collections;
@@ -156,6 +158,10 @@ public final class JniCalls {
 
     private static Recording run(Block block, boolean keepCalls) {
         ensureLoaded();
+        // The peer table deletes the weak references of forgotten peers in batches, on the thread
+        // whose removal fills one: emptied first, so that no earlier block's batch falls into
+        // this one (a block forgets fewer than a batch). What the block forgets is deleted later.
+        collectForgottenPeers();
         if (!start(keepCalls)) {
             throw new IllegalStateException("this thread records already, or too many threads record");
         }
@@ -173,6 +179,26 @@ public final class JniCalls {
                     references(handle), thrown);
         } finally {
             release(handle);
+        }
+    }
+
+    private static void collectForgottenPeers() {
+        try {
+            COLLECT_FORGOTTEN.invoke(null);
+        } catch (ReflectiveOperationException e) {
+            throw new IllegalStateException(e);
+        }
+    }
+
+    private static final Method COLLECT_FORGOTTEN = collectForgotten();
+
+    private static Method collectForgotten() {
+        try {
+            Method m = ManagedObjects.class.getDeclaredMethod("collectForgottenNative");
+            m.setAccessible(true);
+            return m;
+        } catch (NoSuchMethodException e) {
+            throw new ExceptionInInitializerError(e);
         }
     }
 
