@@ -54,7 +54,7 @@ public final class RunBenchmarks {
     /**
      * The bulk benchmarks (arrays of up to 10^7 elements, seconds per operation at the largest
      * size), run after the others with settings of their own so that a full run stays short:
-     * {@code bench.bulk.forks} (1), {@code bench.bulk.warmups} (1), {@code bench.bulk.iterations}
+     * {@code bench.bulk.forks} (2), {@code bench.bulk.warmups} (1), {@code bench.bulk.iterations}
      * (3), {@code bench.bulk.millis} (500), each no more than the run's own setting (an iteration
      * runs at least one operation, however long). Their forked JVMs get a heap of
      * {@code bench.bulk.heap} (6g).
@@ -82,7 +82,7 @@ public final class RunBenchmarks {
         int iterations = Integer.getInteger("bench.iterations", 4);
         ChainedOptionsBuilder builder = options(millis, forks, warmups, iterations, "4g");
         ChainedOptionsBuilder bulk = options(Math.min(millis, Integer.getInteger("bench.bulk.millis", 500)),
-                Math.min(forks, Integer.getInteger("bench.bulk.forks", 1)),
+                Math.min(forks, Integer.getInteger("bench.bulk.forks", 2)),
                 Math.min(warmups, Integer.getInteger("bench.bulk.warmups", 1)),
                 Math.min(iterations, Integer.getInteger("bench.bulk.iterations", 3)),
                 System.getProperty("bench.bulk.heap", "6g"));
