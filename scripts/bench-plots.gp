@@ -11,6 +11,7 @@ set key outside right top noenhanced
 set grid
 set logscale xy
 set format x "10^{%L}"
+set format y "%g"
 set xlabel "size (elements)"
 
 set output dir."/vector-conversion.png"
