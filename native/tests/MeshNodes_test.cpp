@@ -3,6 +3,7 @@
 #include <Corvel/SoAction.h>
 #include <Corvel/SoGroup.h>
 #include <Corvel/SoState.h>
+#include <Tavrel/PbLinearDataMapping.h>
 #include <Tavrel/PbRegularCartesianGrid2D.h>
 #include <Tavrel/PoMeshFilled.h>
 #include <Tavrel/PoRegularCartesianGrid2D.h>
@@ -10,6 +11,7 @@
 #include <Tavrel/PoSFTriangleMesh2D.h>
 
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "common/ToolkitCalls.h"
@@ -150,4 +152,34 @@ TEST(PoMeshProperty, MakesItsMeshCurrentAndTheStateHoldsTheNode) {
   EXPECT_EQ(node->getRefCount(), 1) << "the state let go of the node when the apply ended";
   EXPECT_EQ(node->mesh.getContainer(), node);
   root->unref();
+}
+
+// Two traversals on two threads draw the same representation at once, under a
+// mesh of four cells and under one without cells: each colours the cells it
+// chose itself (a selection shared between them coloured the other's cells
+// from its own, empty, values).
+TEST(PoMesh, TraversalsOnTwoThreadsDrawTheSameNodeEachWithItsOwnCells) {
+  auto* filled = new PoMeshFilled;
+  filled->ref();
+  filled->setDataMapping(new PbLinearDataMapping);
+  SoGroup* roots[2];
+  const int sizes[2] = {3, 1};  // 4 cells, none
+  for (int k = 0; k < 2; ++k) {
+    roots[k] = newNode();
+    auto* grid = new PoRegularCartesianGrid2D;
+    grid->mesh.setGeometry(sizes[k], sizes[k], 0, 0, 1, 1, nullptr);
+    roots[k]->addChild(grid);
+    roots[k]->addChild(filled);
+  }
+  std::vector<std::thread> threads;
+  for (int k = 0; k < 2; ++k)
+    threads.emplace_back([&roots, k] {
+      SoGLRenderAction render;
+      for (int i = 0; i < 20000; ++i) render.apply(roots[k]);
+    });
+  for (std::thread& t : threads) t.join();
+  const std::vector<int> last = filled->selectedCells();
+  EXPECT_TRUE(last.empty() || last == (std::vector<int>{0, 1, 2, 3}));
+  for (SoGroup* root : roots) root->unref();
+  filled->unref();
 }

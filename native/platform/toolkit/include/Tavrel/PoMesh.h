@@ -43,6 +43,7 @@
 
 #include <Tavrel/PoDessvane.h>
 
+#include <mutex>
 #include <vector>
 
 class PbMesh;
@@ -77,7 +78,10 @@ class PoMesh : public PoDessvane {
 
   // --- Used inside this toolkit (not journaled) ---
   // The cells accepted by the last drawing or callback traversal.
-  TAVREL_STANDIN_ONLY const std::vector<int>& selectedCells() const { return selected; }
+  TAVREL_STANDIN_ONLY std::vector<int> selectedCells() const {
+    std::lock_guard<std::mutex> lock(reportLock);
+    return selected;
+  }
 
  protected:
   PoMesh();
@@ -88,14 +92,18 @@ class PoMesh : public PoDessvane {
 
  private:
   void selectCells(SoAction* action);
-  // Writes what the traversal drew with into the report fields.
-  void report(SoState* state, const std::vector<float>& cellValues);
+  // Keeps the cells chosen and writes what the traversal drew with into the
+  // report fields.
+  void report(SoState* state, std::vector<int> chosen, const std::vector<float>& cellValues);
 
   SoField* drawnCellsField;
   SoField* cellColorsField;
   SoField* isovaluesField;
   SoField* domainField;
 
+  // Traversals on several threads may draw the node at once: each works on
+  // its own selection and writes the results under the lock.
+  mutable std::mutex reportLock;
   std::vector<int> selected;
   PbMesh* mesh = nullptr;
   PbDataMapping* dataMapping = nullptr;

@@ -48,6 +48,7 @@
 #include <charconv>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 // Constructors of the classes made by the binding are journaled; those of the
 // abstract bases are not (they only run as part of a derived object).
@@ -162,20 +163,19 @@ void PoMesh::selectCells(SoAction* action) {
   const PbMesh* drawn = drawnMesh();
   if (drawn == nullptr && state != nullptr) drawn = PoMeshElement::current(state);
   if (drawn == nullptr) {
-    selected.clear();
-    report(state, {});
+    report(state, {}, {});
     return;
   }
   const PoCellFilter* filter = state != nullptr ? PoCellFilterElement::current(state) : nullptr;
   const std::vector<float> values = drawn->cellValues(0);
   const int numCells = static_cast<int>(values.size());
-  selected = PoCellFilter::selectCells(filter, numCells, values.data());
+  std::vector<int> chosen = PoCellFilter::selectCells(filter, numCells, values.data());
   CallJournal::record("PoMesh::selectCells", static_cast<const void*>(filter), numCells,
-                      journalArray(selected.data(), static_cast<long>(selected.size())));
-  report(state, values);
+                      journalArray(chosen.data(), static_cast<long>(chosen.size())));
+  report(state, std::move(chosen), values);
 }
 
-void PoMesh::report(SoState* state, const std::vector<float>& cellValues) {
+void PoMesh::report(SoState* state, std::vector<int> chosen, const std::vector<float>& cellValues) {
   CallJournal::Quiet quiet;
   const PbDataMapping* mapping = dataMapping;
   if (mapping == nullptr && state != nullptr) mapping = PoDataMappingElement::current(state);
@@ -184,7 +184,7 @@ void PoMesh::report(SoState* state, const std::vector<float>& cellValues) {
   const PbDomain* domain = state != nullptr ? PoDomainElement::current(state) : nullptr;
 
   std::string cells, colours, list, box;
-  for (int c : selected) {
+  for (int c : chosen) {
     appendNumber(cells, c);
     if (mapping != nullptr) {
       const SbColor colour = mapping->colorOf(cellValues[static_cast<std::size_t>(c)]);
@@ -202,6 +202,8 @@ void PoMesh::report(SoState* state, const std::vector<float>& cellValues) {
     const float* corners = reinterpret_cast<const float*>(&domain->box());
     for (int k = 0; k < 6; ++k) appendNumber(box, corners[k]);
   }
+  std::lock_guard<std::mutex> lock(reportLock);
+  selected = std::move(chosen);
   drawnCellsField->setValueString(cells);
   cellColorsField->setValueString(colours);
   isovaluesField->setValueString(list);
