@@ -132,7 +132,7 @@ class SoGLRenderAction : public SoAction {
   }
   // Calls f(primitive) for every primitive of the picture, in the order drawn.
   template <class F>
-  void forEachPrimitive(F f) const {
+  TAVREL_STANDIN_ONLY void forEachPrimitive(F f) const {
     for (const Part& part : parts)
       for (const Primitive& p : part.shared != nullptr ? *part.shared : part.own) f(p);
   }

@@ -131,8 +131,8 @@ public final class ManagedObjects {
 
     /**
      * Deletes at once the native references of forgotten peers that no lookup still uses; they
-     * otherwise go in batches. Tests that account for a block's JNI references call it before and
-     * after the block.
+     * otherwise go in batches. Tests that record a block's JNI calls call it before the block, so
+     * that no earlier batch falls into it.
      */
     static native void collectForgottenNative();
 

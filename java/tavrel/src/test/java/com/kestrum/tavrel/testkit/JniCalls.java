@@ -184,21 +184,11 @@ public final class JniCalls {
 
     private static void collectForgottenPeers() {
         try {
-            COLLECT_FORGOTTEN.invoke(null);
+            Method collect = ManagedObjects.class.getDeclaredMethod("collectForgottenNative");
+            collect.setAccessible(true);
+            collect.invoke(null);
         } catch (ReflectiveOperationException e) {
             throw new IllegalStateException(e);
-        }
-    }
-
-    private static final Method COLLECT_FORGOTTEN = collectForgotten();
-
-    private static Method collectForgotten() {
-        try {
-            Method m = ManagedObjects.class.getDeclaredMethod("collectForgottenNative");
-            m.setAccessible(true);
-            return m;
-        } catch (NoSuchMethodException e) {
-            throw new ExceptionInInitializerError(e);
         }
     }
 
